@@ -1,0 +1,41 @@
+# SPDX-License-Identifier: MIT
+# Two interface targets: lumi_warnings for all our code, lumi_level for what goes into the libraries.
+
+add_library(lumi_warnings INTERFACE)
+target_compile_options(lumi_warnings INTERFACE
+  -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion -Wcast-qual -Wundef
+  -Wformat=2 -Wvla
+  $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wextra-semi>)
+
+# One processor level in both word sizes. Scalar floats stay off the x87 unit and are never contracted,
+# so that results do not change with the word size; 32-bit callers may have a badly aligned stack.
+add_library(lumi_level INTERFACE)
+target_compile_options(lumi_level INTERFACE
+  $<$<COMPILE_LANGUAGE:C,CXX>:-mavx -mno-avx2 -mno-fma -mno-bmi -mno-bmi2 -mfpmath=sse -ffp-contract=off>
+  $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-mno-avx256-split-unaligned-load -mno-avx256-split-unaligned-store>
+  $<$<COMPILE_LANGUAGE:CXX>:-fno-exceptions -fno-rtti>)
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  target_compile_options(lumi_level INTERFACE $<$<COMPILE_LANGUAGE:C,CXX>:-mstackrealign>)
+endif()
+
+# The same bytes from any folder.
+add_compile_options(-ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${PROJECT_BINARY_DIR}=build)
+
+option(LUMI_SANITIZE "AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+if(LUMI_SANITIZE)
+  add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:-fsanitize=address,undefined>
+                      $<$<COMPILE_LANGUAGE:C,CXX>:-fno-sanitize-recover=all> -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+option(LUMI_COVERAGE "Line coverage" OFF)
+if(LUMI_COVERAGE)
+  add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:--coverage>)
+  add_link_options(--coverage)
+endif()
+
+# Constants that hold addresses become read-only after load. The sanitizers' runtime is in the program,
+# not in the library, so that their symbols stay open there.
+set(LUMI_HARDENED_LINK -Wl,-z,relro,-z,now,-z,text,-z,noexecstack)
+if(NOT LUMI_SANITIZE)
+  list(APPEND LUMI_HARDENED_LINK -Wl,-z,defs)
+endif()

@@ -1,0 +1,44 @@
+# SPDX-License-Identifier: MIT
+add_library(lumi SHARED ${LUMI_GENERATED}/entry_stubs.S)
+add_library(lumi::lumi ALIAS lumi)
+add_dependencies(lumi lumi_generated)
+
+# lumi_sources(<home> <stem>...): family code, and the kernels of the same stem where it has some.
+# Kernels are optimised in every build type: unoptimised vector code is 15 to 30 times slower.
+function(lumi_kernels)
+  foreach(stem ${ARGN})
+    target_sources(lumi PRIVATE ${PROJECT_SOURCE_DIR}/kernels/${stem}.cpp)
+    if(NOT LUMI_COVERAGE)
+      set_source_files_properties(${PROJECT_SOURCE_DIR}/kernels/${stem}.cpp PROPERTIES COMPILE_OPTIONS "-O3")
+    endif()
+  endforeach()
+endfunction()
+function(lumi_sources home)
+  foreach(stem ${ARGN})
+    target_sources(lumi PRIVATE ${PROJECT_SOURCE_DIR}/${home}/${stem}.cpp)
+    if(EXISTS ${PROJECT_SOURCE_DIR}/kernels/${stem}.cpp)
+      lumi_kernels(${stem})
+    endif()
+  endforeach()
+endfunction()
+
+lumi_sources(frame attach image_memory version streaming)
+lumi_sources(data set copy copy_channels)
+lumi_kernels(masked)  # shared by fill and copy
+
+# The date of the version record: SOURCE_DATE_EPOCH where it is set, so that builds can be repeated.
+string(TIMESTAMP LUMI_BUILD_DATE "%b %d %Y" UTC)
+string(REGEX REPLACE " 0([0-9]) " "  \\1 " LUMI_BUILD_DATE "${LUMI_BUILD_DATE}")
+set_source_files_properties(frame/version.cpp PROPERTIES COMPILE_DEFINITIONS
+  "LUMI_MAJOR=${PROJECT_VERSION_MAJOR};LUMI_MINOR=${PROJECT_VERSION_MINOR};LUMI_BUILD_NUMBER=${LUMI_BUILD_NUMBER};LUMI_BUILD_DATE=\"${LUMI_BUILD_DATE}\"")
+
+target_include_directories(lumi
+  PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
+  PRIVATE ${PROJECT_SOURCE_DIR} ${LUMI_GENERATED})
+target_link_libraries(lumi PRIVATE lumcore lumi_level lumi_warnings)
+target_compile_options(lumi PRIVATE -fvisibility=hidden $<$<COMPILE_LANGUAGE:CXX>:-fvisibility-inlines-hidden>)
+target_link_options(lumi PRIVATE
+  -Wl,--version-script=${LUMI_GENERATED}/exports.map ${LUMI_HARDENED_LINK})
+set_target_properties(lumi PROPERTIES
+  VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} LINK_DEPENDS ${LUMI_GENERATED}/exports.map
+  BUILD_RPATH_USE_ORIGIN ON)

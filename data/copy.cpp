@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+// Copy: plain rows, colour without alpha, one chosen channel, under a mask; the managed copy.
+#include "lumi/copy.h"
+
+#include "frame/check.hpp"
+#include "frame/layout.hpp"
+#include "frame/rows.hpp"
+#include "frame/streaming.hpp"
+#include "kernels/copy.hpp"
+#include "kernels/fence.hpp"
+#include "kernels/masked.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace check;
+
+// From half of the largest cache on, source and destination cannot both stay in it.
+bool streamsCopy(uint64_t bytes) {
+  if (bytes < kStreamingFloor) return false;
+  const int64_t cache = largestCache(0);
+  return cache > 0 && bytes >= static_cast<uint64_t>(cache) / 2;
+}
+
+template <typename T, typename Layout>
+LumStatus copy(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
+  if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
+  constexpr int pixelBytes = kPixelBytes<T, Layout>;
+  const Extent extent =
+      fuse(roi, isTight(srcStep, roi.width, pixelBytes), isTight(dstStep, roi.width, pixelBytes));
+  const bool streaming = streamsCopy(bytesMoved(roi, pixelBytes));
+  const auto kernel = streaming ? copyRowStreaming : copyRow;
+  walkRows(
+      extent.height, [&](const Byte* s, Byte* d) { kernel(s, d, extent.pixels * pixelBytes); },
+      rows(src, srcStep), rows(dst, dstStep));
+  if (streaming) storeFence();
+  return lumStatusOk;
+}
+
+template <typename T, typename Layout>
+LumStatus copyManaged(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, int flags) {
+  if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
+  const CacheUse use{(flags & 1) != 0, (flags & 2) != 0};
+  const Extent extent = fuse(roi, isTight(srcStep, roi.width, 1), isTight(dstStep, roi.width, 1));
+  walkRows(
+      extent.height, [&](const Byte* s, Byte* d) { copyRowManaged(s, d, extent.pixels, use); },
+      rows(src, srcStep), rows(dst, dstStep));
+  if (use.streamingStores) storeFence();
+  return lumStatusOk;
+}
+
+// A kernel that counts pixels, row by row.
+template <typename T, typename Kernel>
+LumStatus copyPixels(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, Kernel kernel) {
+  if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
+  walkRows(
+      roi.height, [&](const Byte* s, Byte* d) { kernel(s, d, static_cast<size_t>(roi.width)); },
+      rows(src, srcStep), rows(dst, dstStep));
+  return lumStatusOk;
+}
+
+template <typename T, typename Layout>
+LumStatus copyColour(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
+  return copyPixels(src, srcStep, dst, dstStep, roi, copyColourRow<sizeof(T)>);
+}
+
+template <typename T, typename Layout>
+LumStatus copyChannel(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
+  return copyPixels(src, srcStep, dst, dstStep, roi, copyChannelRow<sizeof(T), Layout::kStored>);
+}
+
+template <typename T, typename Layout>
+LumStatus copyMasked(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, const Lum8u* mask,
+                     int maskStep) {
+  if (LumStatus fault = firstFault(pointers(src, dst, mask), size(roi))) return fault;
+  constexpr int pixelBytes = kPixelBytes<T, Layout>, usedBytes = static_cast<int>(sizeof(T)) * Layout::kUsed;
+  walkRows(
+      roi.height,
+      [&](const Byte* s, Byte* d, const Byte* m) {
+        copyMaskedRow<pixelBytes, usedBytes>(s, d, m, static_cast<size_t>(roi.width));
+      },
+      rows(src, srcStep), rows(dst, dstStep), rows(mask, maskStep));
+  return lumStatusOk;
+}
+
+}  // namespace
+}  // namespace lumi
+
+using namespace lumi;
+#include "bind/copy.inc"

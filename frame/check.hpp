@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+// Argument checks. A family names them in its own order, which is part of the interface:
+//   if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
+#pragma once
+
+#include <type_traits>
+
+#include "lumi/types.h"
+
+namespace lumi::check {
+
+template <typename T>
+constexpr bool isNull(T argument) {
+  if constexpr (std::is_pointer_v<T>)
+    return argument == nullptr;
+  else
+    return false;  // a constant by value
+}
+
+// Every pointer, in any order.
+template <typename... T>
+constexpr LumStatus pointers(T... arguments) {
+  return (isNull(arguments) || ...) ? lumStatusNullPointer : lumStatusOk;
+}
+
+// An array of plane pointers, then each of them.
+template <int planes, typename T>
+constexpr LumStatus planePointers(T* const* array) {
+  if (!array) return lumStatusNullPointer;
+  for (int i = 0; i < planes; ++i)
+    if (!array[i]) return lumStatusNullPointer;
+  return lumStatusOk;
+}
+
+constexpr LumStatus width(LumiSize roi) { return roi.width < 1 ? lumStatusBadSize : lumStatusOk; }
+
+constexpr LumStatus size(LumiSize roi) {
+  return roi.width < 1 || roi.height < 1 ? lumStatusBadSize : lumStatusOk;
+}
+
+template <typename... Step>
+constexpr LumStatus steps(Step... each) {
+  return ((each < 1) || ...) ? lumStatusBadStep : lumStatusOk;
+}
+
+// The first status that is not zero.
+template <typename... Status>
+constexpr LumStatus firstFault(Status... results) {
+  LumStatus first = lumStatusOk;
+  static_cast<void>(((first = results) || ...));
+  return first;
+}
+
+}  // namespace lumi::check

@@ -1,0 +1,14 @@
+/* SPDX-License-Identifier: MIT */
+/* Generated from the registry by tools/lumigen; edit that instead. */
+/** @file The whole public interface of lumi. */
+#ifndef LUMI_H
+#define LUMI_H
+
+#include "lumi/copy.h"
+#include "lumi/copy_channels.h"
+#include "lumi/image_memory.h"
+#include "lumi/set.h"
+#include "lumi/types.h"
+#include "lumi/version.h"
+
+#endif

@@ -1,0 +1,134 @@
+/* SPDX-License-Identifier: MIT */
+/** @file Sample types, records and status values shared by every operation. */
+#ifndef LUMI_TYPES_H
+#define LUMI_TYPES_H
+
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+typedef uint8_t Lum8u;
+typedef int8_t Lum8s;
+typedef uint16_t Lum16u;
+typedef int16_t Lum16s;
+typedef uint32_t Lum32u;
+typedef int32_t Lum32s;
+typedef int64_t Lum64s;
+typedef float Lum32f;
+typedef double Lum64f;
+
+/** Complex samples: two adjacent real values, the real one first. */
+typedef struct {
+  Lum16s re, im;
+} Lum16sc;
+typedef struct {
+  Lum32s re, im;
+} Lum32sc;
+typedef struct {
+  Lum32f re, im;
+} Lum32fc;
+typedef struct {
+  Lum64f re, im;
+} Lum64fc;
+
+/** Size of a region of interest (ROI), in pixels. */
+typedef struct {
+  int width, height;
+} LumiSize;
+
+typedef struct {
+  int x, y;
+} LumiPoint;
+
+typedef struct {
+  int x, y, width, height;
+} LumiRect;
+
+/** What lumiGetLibVersion returns: a constant record. */
+typedef struct {
+  int major;               /**< release number */
+  int minor;               /**< update within the release */
+  int majorBuild;          /**< 0 in a release build */
+  int build;               /**< revision of the sources that the build was made from */
+  char targetCode[4];      /**< processor level, zero padded: "k5" is AVX */
+  const char* name;        /**< short name, processor level, target code */
+  const char* versionText; /**< "1.0.0 (r1)" */
+  const char* buildDate;   /**< "Nov 21 2026" */
+} LumLibraryVersion;
+
+/** Result of an operation: 0 success, negative error, positive warning. */
+typedef int32_t LumStatus;
+
+enum {
+  lumStatusOk = 0,
+
+  /* Warnings: the result was produced, with a reservation. */
+  lumStatusNothingToDo = 1,           /**< a size was zero, nothing was done */
+  lumStatusLogOfZero = 2,             /**< zero sample in an integer logarithm; the result there is 0 */
+  lumStatusSqrtOfNegative = 3,        /**< negative sample under a root; 0 there in integer members */
+  lumStatusDivideByZeroWarning = 6,   /**< zero divisor in the data; a substitute was stored */
+  lumStatusLogSingularity = 7,        /**< zero sample in a float logarithm */
+  lumStatusLogDomain = 8,             /**< negative sample in a float logarithm */
+  lumStatusQuadNotParallelogram = 28, /**< the four points are no parallelogram; best fit stored */
+  lumStatusNoIntersection = 29,       /**< ROI and source image do not overlap */
+  lumStatusEmptyDestination = 30,     /**< no destination pixel inside the transformed region */
+  lumStatusSizeRoundedToEven = 35,    /**< an odd size was rounded down to even */
+  lumStatusEvenMedianWeight = 39,     /**< an even centre weight was replaced by an odd one */
+  lumStatusSizeAboveSpec = 48,        /**< a size is larger than the spec object was made for */
+
+  /* Errors. */
+  lumStatusBadArgument = -5,              /**< a plain argument outside its allowed set */
+  lumStatusBadSize = -6,                  /**< ROI width or height below 1, or another size out of range */
+  lumStatusBadRange = -7,                 /**< lower bound above upper bound */
+  lumStatusNullPointer = -8,              /**< a required pointer is null */
+  lumStatusNoMemory = -9,                 /**< an allocation failed */
+  lumStatusDivisionByZero = -10,          /**< the constant divisor is zero */
+  lumStatusOutOfRange = -11,              /**< a numeric argument outside its range */
+  lumStatusBadDataType = -12,             /**< a data type that this operation does not take */
+  lumStatusBadDataRange = -13,            /**< upper data bound not above the lower one */
+  lumStatusBadStep = -14,                 /**< a row step below 1 */
+  lumStatusBadFftOrder = -15,             /**< a transform order above its limit */
+  lumStatusBadTransformFlag = -16,        /**< normalisation flag not 1, 2, 4 or 8 */
+  lumStatusBadContext = -17,              /**< a spec or state object of another kind */
+  lumStatusBadThresholdOrder = -18,       /**< lower threshold above the upper one */
+  lumStatusZeroMoment = -20,              /**< zeroth moment too small to divide by */
+  lumStatusBadMirrorAxis = -21,           /**< flip axis not one of the three */
+  lumStatusBadInterpolation = -22,        /**< interpolation mode not offered */
+  lumStatusBadResizeFactor = -23,         /**< a resize factor not positive */
+  lumStatusBadLength = -26,               /**< a row length or count below 1 */
+  lumStatusBadMaskSize = -33,             /**< mask size not offered or too small */
+  lumStatusBadAnchor = -34,               /**< anchor outside the mask */
+  lumStatusBadEpsilon = -36,              /**< a tolerance is negative */
+  lumStatusStepTooSmall = -37,            /**< a row step smaller than the row it must hold */
+  lumStatusBadChannel = -47,              /**< a channel number outside its range */
+  lumStatusBadAlphaType = -50,            /**< alpha composition type out of range */
+  lumStatusZeroDivisor = -51,             /**< the integer normalising divisor of a kernel is zero */
+  lumStatusBadChannelCount = -53,         /**< number of channels not among those accepted */
+  lumStatusBadCoefficients = -56,         /**< coefficients give a degenerate or non-convex quadrangle */
+  lumStatusDegenerateRect = -57,          /**< rectangle less than one pixel step wide or high */
+  lumStatusBadQuadrangle = -58,           /**< quadrangle degenerate or not convex */
+  lumStatusZeroMask = -59,                /**< a morphology mask has no non-zero element */
+  lumStatusBadChannelOrder = -60,         /**< an index in a channel order table out of range */
+  lumStatusTooFewLutLevels = -106,        /**< fewer than two look-up levels */
+  lumStatusTooFewHistogramLevels = -107,  /**< fewer than two histogram levels */
+  lumStatusOddStep = -108,                /**< a step that is not a multiple of the sample size */
+  lumStatusBadNoiseLevel = -125,          /**< noise level negative */
+  lumStatusResizedTooSmall = -201,        /**< resized size below the format's minimum */
+  lumStatusZeroQualityDenominator = -210, /**< a denominator of the quality index is zero */
+  lumStatusBadCenterWeight = -211,        /**< centre weight below 1 */
+  lumStatusBadDecimationFraction = -212,  /**< decimation fraction not accepted */
+  lumStatusBadRoundMode = -213,           /**< rounding mode outside the accepted set */
+  lumStatusBadBorder = -225,              /**< border type not among those offered */
+  lumStatusOddSize = -227,                /**< a size or offset that must be even is odd */
+  lumStatusBadAlgorithmFlags = -228,      /**< a field of a packed algorithm word is bad */
+  lumStatusBadWarpDirection = -231,       /**< direction neither 0 nor 1 */
+  lumStatusUnsupportedMode = -9999        /**< a mode or combination that this member does not offer */
+};
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

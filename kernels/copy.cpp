@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#include "kernels/copy.hpp"
+
+#include "kernels/simd/bytes.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace simd;
+
+constexpr size_t kVector = sizeof(Bytes32);
+
+// Below two vectors: two overlapping moves of the largest half, both read before either is stored.
+template <typename V>
+void copyEnds(const Byte* src, Byte* dst, size_t bytes) {
+  V first, last;
+  std::memcpy(&first, src, sizeof(V));
+  std::memcpy(&last, src + bytes - sizeof(V), sizeof(V));
+  std::memcpy(dst, &first, sizeof(V));
+  std::memcpy(dst + bytes - sizeof(V), &last, sizeof(V));
+}
+
+void copyShort(const Byte* src, Byte* dst, size_t bytes) {
+  if (bytes >= 32)
+    copyEnds<Bytes32>(src, dst, bytes);
+  else if (bytes >= 16)
+    copyEnds<Bytes16>(src, dst, bytes);
+  else if (bytes >= 8)
+    copyEnds<uint64_t>(src, dst, bytes);
+  else if (bytes >= 4)
+    copyEnds<uint32_t>(src, dst, bytes);
+  else if (bytes >= 2)
+    copyEnds<uint16_t>(src, dst, bytes);
+  else if (bytes)
+    *dst = *src;
+}
+
+// The ends go unaligned, the aligned middle four vectors at a time.
+void copyForwards(const Byte* src, Byte* dst, size_t bytes) {
+  const Bytes32 first = load32(src), last = load32(src + bytes - kVector);
+  Byte* const end = dst + bytes;
+  const size_t head = kVector - (reinterpret_cast<uintptr_t>(dst) & (kVector - 1));
+  const Byte* s = src + head;
+  Byte* d = dst + head;
+  store32(dst, first);
+  for (; static_cast<size_t>(end - d) >= 4 * kVector; d += 4 * kVector, s += 4 * kVector) {
+    const Bytes32 a = load32(s), b = load32(s + kVector), c = load32(s + 2 * kVector),
+                  e = load32(s + 3 * kVector);
+    store32(d, a);
+    store32(d + kVector, b);
+    store32(d + 2 * kVector, c);
+    store32(d + 3 * kVector, e);
+  }
+  for (; static_cast<size_t>(end - d) >= kVector; d += kVector, s += kVector) store32(d, load32(s));
+  store32(end - kVector, last);
+}
+
+void copyBackwards(const Byte* src, Byte* dst, size_t bytes) {
+  const Bytes32 first = load32(src), last = load32(src + bytes - kVector);
+  Byte* const end = dst + bytes;
+  const size_t tail = reinterpret_cast<uintptr_t>(end) & (kVector - 1);
+  Byte* d = end - tail;
+  const Byte* s = src + bytes - tail;
+  store32(end - kVector, last);
+  for (; static_cast<size_t>(d - dst) >= 4 * kVector;) {
+    d -= 4 * kVector, s -= 4 * kVector;
+    const Bytes32 a = load32(s), b = load32(s + kVector), c = load32(s + 2 * kVector),
+                  e = load32(s + 3 * kVector);
+    store32(d + 3 * kVector, e);
+    store32(d + 2 * kVector, c);
+    store32(d + kVector, b);
+    store32(d, a);
+  }
+  for (; static_cast<size_t>(d - dst) >= kVector;) {
+    d -= kVector, s -= kVector;
+    store32(d, load32(s));
+  }
+  store32(dst, first);
+}
+
+// The processor matches loads against earlier stores by page offset: where the destination lies just
+// above the source in its page, every forward load would wait for the store before it.
+bool storesAliasLaterLoads(const Byte* src, const Byte* dst) {
+  constexpr uintptr_t page = 4096, reach = 160;
+  const uintptr_t above = (reinterpret_cast<uintptr_t>(dst) - reinterpret_cast<uintptr_t>(src)) & (page - 1);
+  return above >= 1 && above <= reach;
+}
+
+// From here on the processor's string move is the fastest copy.
+constexpr size_t kStringMove = 0x100000;
+
+void copyByString(const Byte* src, Byte* dst, size_t bytes) {
+  asm volatile("rep movsb" : "+S"(src), "+D"(dst), "+c"(bytes) : : "memory");
+}
+
+}  // namespace
+
+void copyRow(const uint8_t* src, uint8_t* dst, size_t bytes) {
+  if (bytes < 2 * kVector)
+    copyShort(src, dst, bytes);
+  else if (bytes >= kStringMove)
+    copyByString(src, dst, bytes);
+  else if (storesAliasLaterLoads(src, dst))
+    copyBackwards(src, dst, bytes);
+  else
+    copyForwards(src, dst, bytes);
+}
+
+void copyRowStreaming(const uint8_t* src, uint8_t* dst, size_t bytes) {
+  constexpr size_t block = 0x40000, line = 64;
+  const size_t head = bytesToBoundary(dst, kVector);
+  if (bytes < head + kVector) return copyRow(src, dst, bytes);
+  copyShort(src, dst, head);
+  src += head, dst += head, bytes -= head;
+  while (bytes >= kVector) {
+    const size_t n = bytes < block ? bytes / kVector * kVector : block;
+    for (size_t i = 0; i < n; i += line) static_cast<void>(*static_cast<const volatile Byte*>(src + i));
+    for (size_t i = 0; i < n; i += kVector) stream32(dst + i, load32(src + i));
+    src += n, dst += n, bytes -= n;
+  }
+  copyShort(src, dst, bytes);
+}
+
+void copyRowManaged(const uint8_t* src, uint8_t* dst, size_t bytes, CacheUse use) {
+  constexpr size_t line = 64;
+  if (bytes < line || !(use.streamingStores || use.streamingLoads)) return copyRow(src, dst, bytes);
+  const size_t head = bytesToBoundary(src, line);
+  if (head > bytes) return copyRow(src, dst, bytes);
+  copyRow(src, dst, head);
+  src += head, dst += head, bytes -= head;
+  const bool stream = use.streamingStores && isAligned(dst, 16);
+  for (; bytes >= line; src += line, dst += line, bytes -= line)
+    for (size_t i = 0; i < line; i += 16) {
+      const Bytes16 v = use.streamingLoads ? streamingLoad16(src + i) : load16(src + i);
+      if (stream)
+        stream16(dst + i, v);
+      else
+        store16(dst + i, v);
+    }
+  copyShort(src, dst, bytes);
+}
+
+template <int sampleBytes, int stride>
+void copyChannelRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
+  constexpr auto n = static_cast<size_t>(sampleBytes);
+  for (size_t i = 0; i < pixels; ++i) move<n>(dst + i * n * stride, src + i * n * stride);
+}
+
+template <int sampleBytes>
+void copyColourRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
+  constexpr auto n = static_cast<size_t>(sampleBytes);
+  for (size_t i = 0; i < pixels; ++i) move<3 * n>(dst + i * n * 4, src + i * n * 4);
+}
+
+template void copyChannelRow<1, 3>(const uint8_t*, uint8_t*, size_t);
+template void copyChannelRow<1, 4>(const uint8_t*, uint8_t*, size_t);
+template void copyChannelRow<2, 3>(const uint8_t*, uint8_t*, size_t);
+template void copyChannelRow<2, 4>(const uint8_t*, uint8_t*, size_t);
+template void copyChannelRow<4, 3>(const uint8_t*, uint8_t*, size_t);
+template void copyChannelRow<4, 4>(const uint8_t*, uint8_t*, size_t);
+template void copyColourRow<1>(const uint8_t*, uint8_t*, size_t);
+template void copyColourRow<2>(const uint8_t*, uint8_t*, size_t);
+template void copyColourRow<4>(const uint8_t*, uint8_t*, size_t);
+
+}  // namespace lumi

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "kernels/masked.hpp"
+
+#include <algorithm>
+
+#include "kernels/simd/bytes.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace simd;
+
+// Spreads sixteen mask bytes over vector `index` of the sixteen pixels they belong to; bytes of a pixel
+// that are not to be stored get zero.
+template <int pixelBytes, int usedBytes>
+constexpr Control spreadControl(int index) {
+  Control c{};
+  for (int j = 0; j < 16; ++j) {
+    const int byte = index * 16 + j, pixel = byte / pixelBytes;
+    c[static_cast<size_t>(j)] = byte % pixelBytes < usedBytes ? static_cast<Byte>(pixel) : kZero;
+  }
+  return c;
+}
+
+template <int pixelBytes, int usedBytes>
+constexpr auto spreadControls() {
+  std::array<Control, pixelBytes> all{};
+  for (int i = 0; i < pixelBytes; ++i) all[static_cast<size_t>(i)] = spreadControl<pixelBytes, usedBytes>(i);
+  return all;
+}
+
+// The source moves on with the pixels, or stands still (a value).
+template <int pixelBytes, int usedBytes, bool moving>
+void maskedRow(const Byte* src, Byte* dst, const Byte* mask, size_t pixels) {
+  static constexpr auto controls = spreadControls<pixelBytes, usedBytes>();
+  constexpr size_t blockBytes = kMaskBlock * pixelBytes;
+  size_t i = 0;
+  for (; i + kMaskBlock <= pixels; i += kMaskBlock, dst += blockBytes, src += moving ? blockBytes : 0) {
+    const Bytes16 skip = isZero(load16(mask + i));
+    const Bytes16 chosen = complement(skip);
+    if (noneSet(chosen)) continue;  // a block that is not chosen reads no source
+    for (int k = 0; k < pixelBytes; ++k) {
+      const Bytes16 m =
+          pixelBytes == 1 ? chosen : shuffle(chosen, vectorOf(controls[static_cast<size_t>(k)]));
+      store16(dst + 16 * k, select(load16(dst + 16 * k), load16(src + 16 * k), m));
+    }
+  }
+  for (; i < pixels; ++i, dst += pixelBytes, src += moving ? pixelBytes : 0)
+    if (mask[i]) move<usedBytes>(dst, src);
+}
+
+}  // namespace
+
+template <int pixelBytes, int usedBytes>
+void copyMaskedRow(const uint8_t* src, uint8_t* dst, const uint8_t* mask, size_t pixels) {
+  maskedRow<pixelBytes, usedBytes, true>(src, dst, mask, pixels);
+}
+
+template <int pixelBytes, int usedBytes>
+void fillMaskedRow(const uint8_t* block, uint8_t* dst, const uint8_t* mask, size_t pixels) {
+  maskedRow<pixelBytes, usedBytes, false>(block, dst, mask, pixels);
+}
+
+#define LUMI_PIXEL(bytes, used)                                                               \
+  template void copyMaskedRow<bytes, used>(const uint8_t*, uint8_t*, const uint8_t*, size_t); \
+  template void fillMaskedRow<bytes, used>(const uint8_t*, uint8_t*, const uint8_t*, size_t);
+LUMI_PIXEL(1, 1)
+LUMI_PIXEL(2, 2)
+LUMI_PIXEL(3, 3)
+LUMI_PIXEL(4, 3)
+LUMI_PIXEL(4, 4)
+LUMI_PIXEL(6, 6)
+LUMI_PIXEL(8, 6)
+LUMI_PIXEL(8, 8)
+LUMI_PIXEL(12, 12)
+LUMI_PIXEL(16, 12)
+LUMI_PIXEL(16, 16)
+#undef LUMI_PIXEL
+
+}  // namespace lumi

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+// Vectors of raw bytes: loads, stores and shuffles, named by meaning. AVX level, no alignment assumed
+// unless the name says so.
+#pragma once
+
+#include <immintrin.h>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace lumi::simd {
+
+using Byte = uint8_t;
+using Bytes16 = __m128i;
+using Bytes32 = __m256i;
+
+inline Bytes16 load16(const Byte* p) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p)); }
+inline void store16(Byte* p, Bytes16 v) { _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v); }
+// Past the cache; p on a 16-byte boundary.
+inline void stream16(Byte* p, Bytes16 v) { _mm_stream_si128(reinterpret_cast<__m128i*>(p), v); }
+
+// A load that need not stay in the cache; p on a 16-byte boundary.
+inline Bytes16 streamingLoad16(const Byte* p) {
+  return _mm_stream_load_si128(reinterpret_cast<__m128i*>(const_cast<Byte*>(p)));
+}
+
+inline Bytes32 load32(const Byte* p) { return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p)); }
+inline void store32(Byte* p, Bytes32 v) { _mm256_storeu_si256(reinterpret_cast<__m256i*>(p), v); }
+// Past the cache; p on a 32-byte boundary.
+inline void stream32(Byte* p, Bytes32 v) { _mm256_stream_si256(reinterpret_cast<__m256i*>(p), v); }
+
+// Moves a scalar of n bytes without caring for its type or alignment.
+template <size_t n>
+inline void move(Byte* to, const Byte* from) {
+  std::memcpy(to, from, n);
+}
+
+inline bool isAligned(const void* p, size_t boundary) {
+  return (reinterpret_cast<uintptr_t>(p) & (boundary - 1)) == 0;
+}
+
+// Bytes from p up to the next boundary: 0 to boundary - 1.
+inline size_t bytesToBoundary(const void* p, size_t boundary) {
+  return (0 - reinterpret_cast<uintptr_t>(p)) & (boundary - 1);
+}
+
+// A shuffle control, in memory as the instruction takes it: byte j of the result is byte control[j] of
+// the source, or zero for kZero.
+using Control = std::array<Byte, 16>;
+inline constexpr Byte kZero = 0x80;
+
+inline Bytes16 vectorOf(const Control& c) { return load16(c.data()); }
+inline Bytes16 shuffle(Bytes16 v, Bytes16 control) { return _mm_shuffle_epi8(v, control); }
+
+inline Bytes16 either(Bytes16 a, Bytes16 b) { return _mm_or_si128(a, b); }
+// One where the mask's top bit is set, else zero's sample.
+inline Bytes16 select(Bytes16 zero, Bytes16 one, Bytes16 mask) { return _mm_blendv_epi8(zero, one, mask); }
+// 0xFF where the byte is zero, else 0.
+inline Bytes16 isZero(Bytes16 v) { return _mm_cmpeq_epi8(v, _mm_setzero_si128()); }
+inline Bytes16 complement(Bytes16 v) { return _mm_xor_si128(v, _mm_set1_epi8(-1)); }
+inline bool noneSet(Bytes16 v) { return _mm_testz_si128(v, v) != 0; }
+
+}  // namespace lumi::simd

@@ -1,0 +1,231 @@
+"""Writes every file that follows from the registry."""
+
+import json
+import re
+
+from . import grammar
+
+GENERATED = "Generated from registry/{} by tools/lumigen; edit that instead."
+GENERATED_ALL = "Generated from the registry by tools/lumigen; edit that instead."
+CHECK_TEXT = {
+    "null": "lumStatusNullPointer (-8)  a pointer is null, plane pointers included",
+    "size": "lumStatusBadSize (-6)      roi.width or roi.height is below 1",
+    "width": "lumStatusBadSize (-6)      roi.width is below 1",
+    "step": "lumStatusBadStep (-14)     a step is below 1",
+}
+
+
+def all_exports(families):
+    """Every export, in the order of the names: the order of the entry table."""
+    return sorted((e for f in families for op in f.operations for e in op.exports), key=lambda e: e.name)
+
+
+def implementation(export):
+    return f"impl_{export.sample or export.name}"
+
+
+def prototype(export, name=None):
+    args = ", ".join(a.decl for a in export.args) or "void"
+    gap = "" if export.returns.endswith("*") else " "
+    return f"{export.returns}{gap}{name or export.name}({args})"
+
+
+def _wrap_prototype(text, width=110):
+    """One line, or arguments on further lines under the first."""
+    if len(text) <= width:
+        return text
+    head, _, rest = text.partition("(")
+    lines, line = [], head + "("
+    pieces = rest.split(", ")
+    for index, piece in enumerate(pieces):
+        piece += "," if index + 1 < len(pieces) else ""
+        glue = "" if line.endswith("(") else " "
+        if len(line) + len(glue) + len(piece) > width:
+            lines.append(line)
+            line, glue = " " * (len(head) + 1), ""
+        line += glue + piece
+    return "\n".join(lines + [line])
+
+
+def _doc_block(op):
+    lines = [op.brief] + ([""] + op.text if op.text else [])
+    if op.params:
+        lines += [""] + [f"  {p.name:<10} {p.about}" for p in op.params]
+    checks = []
+    for export in op.exports:
+        if export.check and export.check not in checks:
+            checks.append(export.check)
+    for check in checks:
+        lines += ["", "Returns lumStatusOk (0) or, tested in this order and before anything is written:"]
+        lines += [f"  {CHECK_TEXT[c]}" for c in check]
+    body = "\n".join((" * " + line).rstrip() for line in lines)
+    return f"/**\n{body}\n */"
+
+
+def family_header(family):
+    parts = [
+        "/* SPDX-License-Identifier: MIT */",
+        "/* " + GENERATED.format(family.path) + " */",
+        f"/** @file {family.title}. */",
+        f"#ifndef LUMI_{family.stem.upper()}_H",
+        f"#define LUMI_{family.stem.upper()}_H",
+        "",
+        '#include "types.h"',
+        "",
+        "#ifdef __cplusplus",
+        'extern "C" {',
+        "#endif",
+        "",
+    ]
+    for op in family.operations:
+        parts.append(_doc_block(op))
+        parts += [_wrap_prototype(prototype(e) + ";") for e in sorted(op.exports, key=lambda e: e.name)]
+        parts.append("")
+    parts += ["#ifdef __cplusplus", "}", "#endif", "", "#endif", ""]
+    return "\n".join(parts)
+
+
+def umbrella_header(families):
+    includes = "\n".join(f'#include "lumi/{f.stem}.h"' for f in families)
+    return f"""/* SPDX-License-Identifier: MIT */
+/* {GENERATED_ALL} */
+/** @file The whole public interface of lumi. */
+#ifndef LUMI_H
+#define LUMI_H
+
+#include "lumi/types.h"
+
+{includes}
+
+#endif
+"""
+
+
+def headers(families):
+    files = {f"lumi/{f.stem}.h": family_header(f) for f in families}
+    files["lumi.h"] = umbrella_header(families)
+    return files
+
+
+def _template_args(export):
+    """A binding is instantiated over every sample type and then every layout of the name."""
+    if "<" in export.bind or not (export.types or export.layouts):
+        return ""
+    names = [grammar.SAMPLE_TYPES[t] for t in export.types] + list(export.layouts)
+    return "<" + ", ".join(names) + ">"
+
+
+def bindings(family):
+    """Typed definitions that the family's source includes at its end."""
+    lines = ["// " + GENERATED.format(family.path), "", 'extern "C" {']
+    for op in family.operations:
+        for export in op.exports:
+            if export.sample:
+                continue
+            call = ", ".join(a.name for a in export.args)
+            result = "" if export.returns == "void" else "return "
+            lines += [
+                f"{prototype(export, implementation(export))} {{",
+                f"  {result}{export.bind}{_template_args(export)}({call});",
+                "}",
+            ]
+    return "\n".join(lines + ['}  // extern "C"', ""])
+
+
+def version_script(families):
+    names = "".join(f"    {e.name};\n" for e in all_exports(families))
+    return f"LUMI_1 {{\n  global:\n{names}  local:\n    *;\n}};\n"
+
+
+_STUB_64 = "{name}:\n\tjmp *lumi_entry_table+{offset}(%rip)\n"
+# eax is free at a call; the thunk pairs its call with a return, which keeps return prediction intact.
+_STUB_32 = """{name}:
+\tcall .Llumi_pc_eax
+\taddl $_GLOBAL_OFFSET_TABLE_, %eax
+\tjmp *lumi_entry_table@GOTOFF+{offset}(%eax)
+"""
+
+
+def entry_stubs(families):
+    """Stubs and entry table: each export jumps through its own slot, in the order of the names."""
+    exports = all_exports(families)
+    out = ["/* " + GENERATED_ALL + " */", ".text"]
+    for word, size, stub in (("__x86_64__", 8, _STUB_64), ("__i386__", 4, _STUB_32)):
+        out.append(f"#ifdef {word}")
+        if size == 4:
+            out.append(".p2align 4\n.Llumi_pc_eax:\n\tmovl (%esp), %eax\n\tret")
+        for index, export in enumerate(exports):
+            out.append(f".p2align 4\n.globl {export.name}\n.type {export.name}, @function")
+            out.append(stub.format(name=export.name, offset=index * size) + f".size {export.name}, .-{export.name}")
+        out.append("#endif")
+    out += [
+        '.section .data.lumi_entry_table,"aw",@progbits',
+        ".p2align 5",
+        ".globl lumi_entry_table\n.hidden lumi_entry_table\n.type lumi_entry_table, @object",
+        "lumi_entry_table:",
+    ]
+    for export in exports:
+        out.append(f".hidden {implementation(export)}")
+    for word, directive in (("__x86_64__", ".quad"), ("__i386__", ".long")):
+        out += [f"#ifdef {word}"] + [f"\t{directive} {implementation(e)}" for e in exports] + ["#endif"]
+    out.append(".size lumi_entry_table, .-lumi_entry_table")
+    out.append('.section .note.GNU-stack,"",@progbits')
+    return "\n".join(out) + "\n"
+
+
+_KIND = {"image": "Image", "planes": "Planes", "values": "Values", "value": "Value", "step": "Step",
+         "size": "Size", "number": "Number", "pointer": "Pointer", "optional": "Optional"}
+
+
+def fault_rows(families):
+    """A row for each export that returns a status: what the fault matrix of the tests walks."""
+    lines = ["// " + GENERATED_ALL]
+    for export in all_exports(families):
+        if export.returns != "LumStatus":
+            continue
+        args = ", ".join(_fault_arg(a) for a in export.args)
+        checks = ", ".join(f"Check::{c.capitalize()}" for c in export.check)
+        lines.append(f'{{"{export.name}", invoker(&{export.name}), {{{args}}}, {{{checks}}}}},')
+    return "\n".join(lines) + "\n"
+
+
+def _fault_arg(arg):
+    extra = {"planes": arg.about, "number": arg.base}.get(arg.kind, "0")
+    return f"{{Kind::{_KIND[arg.kind]}, {extra}}}"
+
+
+def structure_rows(families):
+    """Name and implementation of each export, in table order, for the tests of the built library."""
+    return "".join(f"{e.name} {implementation(e)}\n" for e in all_exports(families))
+
+
+def description(families):
+    """The interface as JSON, for bindings in other languages."""
+    result = []
+    for family in families:
+        for op in family.operations:
+            for e in op.exports:
+                result.append({
+                    "name": e.name, "family": family.stem, "operation": op.name, "brief": op.brief,
+                    "types": list(e.types), "layouts": list(e.layouts), "returns": e.returns,
+                    "arguments": [{"name": a.name, "kind": a.kind, "declaration": a.decl} for a in e.args],
+                    "checks": list(e.check), "shares": e.sample or None,
+                })
+    result.sort(key=lambda row: row["name"])
+    return json.dumps({"exports": result}, indent=1) + "\n"
+
+
+def build_files(families):
+    files = {f"bind/{f.stem}.inc": bindings(f) for f in families}
+    files["exports.map"] = version_script(families)
+    files["entry_stubs.S"] = entry_stubs(families)
+    files["fault_rows.inc"] = fault_rows(families)
+    files["structure.txt"] = structure_rows(families)
+    files["lumi.json"] = description(families)
+    return files
+
+
+def assert_ascii(files):
+    for name, text in files.items():
+        if re.search(r"[^\x00-\x7f]", text):
+            raise ValueError(f"{name}: not plain ASCII")

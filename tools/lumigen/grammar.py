@@ -1,0 +1,189 @@
+"""The naming grammar: from an export's name pieces to its argument list."""
+
+import re
+from dataclasses import dataclass, field
+
+SAMPLE_TYPES = {
+    "1u": "Lum8u", "8u": "Lum8u", "8s": "Lum8s", "16u": "Lum16u", "16s": "Lum16s",
+    "32u": "Lum32u", "32s": "Lum32s", "32f": "Lum32f", "64s": "Lum64s", "64f": "Lum64f",
+    "16sc": "Lum16sc", "32sc": "Lum32sc", "32fc": "Lum32fc", "64fc": "Lum64fc",
+}
+# Samples a constant or a per-channel result has; layouts absent here are planar.
+CHANNELS = {"C1": 1, "C2": 2, "C3": 3, "C4": 4, "AC4": 3, "AC1": 1, "C3C": 1, "C4C": 1}
+PLANES = {"P2": 2, "P3": 3, "P4": 4, "AP4": 4}
+
+_TYPE = r"\d+(?:uc|sc|fc|u|s|f)"
+_TYPES = re.compile(rf"({_TYPE})({_TYPE})?$")
+_LAYOUT = r"AC4|AC1|AP4|C3A0C4|C3C(?=R)|C4C(?=R)|C[1-4]|P[2-4]"
+_DESCRIPTOR = re.compile(rf"({_LAYOUT})({_LAYOUT})?(I)?(M)?(Rs?)?(Sfs)?$")
+
+
+class GrammarError(ValueError):
+    """A name or a row that the grammar does not know; the reader adds file and line."""
+
+
+@dataclass(frozen=True)
+class Arg:
+    """One argument of a C prototype. `kind` says what the fault tests may do with it."""
+
+    kind: str      # image planes step size value values number pointer optional
+    name: str
+    decl: str      # C declaration, name included
+    about: str = ""
+    base: str = "0"  # a valid value of a number
+
+
+@dataclass(frozen=True)
+class Param:
+    """An argument that the grammar does not know, declared by its operation."""
+
+    name: str
+    ctype: str
+    about: str
+    optional: bool = False
+    base: str = "0"
+
+
+@dataclass
+class Export:
+    """One exported function."""
+
+    name: str
+    types: tuple
+    layouts: tuple
+    args: list
+    returns: str
+    check: tuple
+    bind: str
+    sample: str = ""          # implementation it shares, by export name; empty for its own
+    line: str = ""            # file:line of its row, for messages
+    op: object = field(default=None, repr=False)
+
+
+def is_types(token):
+    return bool(_TYPES.match(token))
+
+
+def expand_braces(text):
+    """`{C1 C3}{,I}R` -> C1R C1IR C3R C3IR."""
+    match = re.search(r"\{([^{}]*)\}", text)
+    if not match:
+        if "{" in text or "}" in text:
+            raise GrammarError(f"unbalanced brace in '{text}'")
+        return [text]
+    inside = match.group(1)
+    parts = inside.split(",") if "," in inside else inside.split()
+    if not parts:
+        raise GrammarError(f"empty brace in '{text}'")
+    head, tail = text[: match.start()], text[match.end():]
+    return [name for part in parts for name in expand_braces(head + part.strip() + tail)]
+
+
+def parse_types(token):
+    match = _TYPES.match(token)
+    if not match or any(t not in SAMPLE_TYPES for t in match.groups() if t):
+        raise GrammarError(f"'{token}' is no sample type or pair of sample types")
+    return tuple(t for t in match.groups() if t)
+
+
+@dataclass(frozen=True)
+class Descriptor:
+    layouts: tuple
+    in_place: bool
+    masked: bool
+    roi: bool
+    scaled: bool
+
+
+def parse_descriptor(token):
+    match = _DESCRIPTOR.match(token)
+    if not match:
+        raise GrammarError(f"'{token}' is no layout descriptor")
+    first, second, in_place, masked, roi, scaled = match.groups()
+    layouts = (first, second) if second else (first,)
+    return Descriptor(layouts, bool(in_place), bool(masked), bool(roi), bool(scaled))
+
+
+def _image(role, sample, layout, writable):
+    const = "" if writable else "const "
+    step = Arg("step", f"{role}Step", f"int {role}Step")
+    planes = PLANES.get(layout)
+    if planes:
+        return [Arg("planes", role, f"{const}{sample}* const {role}[{planes}]", str(planes)), step]
+    return [Arg("image", role, f"{const}{sample}* {role}"), step]
+
+
+def _value(sample, layout):
+    count = CHANNELS.get(layout) or PLANES[layout]
+    if count == 1:
+        return [Arg("value", "value", f"{sample} value")]
+    return [Arg("values", "value", f"const {sample} value[{count}]", str(count))]
+
+
+def _param(param, ctype):
+    if "*" in ctype:
+        return Arg("optional" if param.optional else "pointer", param.name, f"{ctype} {param.name}")
+    return Arg("number", param.name, f"{ctype} {param.name}", base=param.base)
+
+
+def _grammar_args(role, types, descriptor):
+    """The arguments of one role of the grammar; None for a role it does not know."""
+    source_layout = descriptor.layouts[0] if descriptor else ""
+    dest_layout = descriptor.layouts[-1] if descriptor else ""
+    source = SAMPLE_TYPES.get(types[0], "") if types else ""
+    dest = SAMPLE_TYPES.get(types[-1], "") if types else ""
+    if role in ("src", "src1", "src2"):
+        return _image(role, source, source_layout, False)
+    if role in ("dst", "srcDst"):
+        return _image(role, dest, dest_layout, True)
+    if role == "roi":
+        return [Arg("size", "roi", "LumiSize roi")] if descriptor.roi else []
+    if role == "mask":
+        return _image("mask", "Lum8u", "C1", False) if descriptor.masked else []
+    if role == "value":
+        return _value(source, source_layout)
+    if role == "sfs":
+        return [Arg("number", "scaleFactor", "int scaleFactor")] if descriptor.scaled else []
+    return None
+
+
+def _in_place_roles(roles):
+    """In place the destination goes, and the last source is both."""
+    sources = [r for r in roles if r in ("src", "src1", "src2")]
+    kept = []
+    for role in roles:
+        if role == "dst":
+            if not sources:
+                kept.append("srcDst")
+            continue
+        if sources and role == sources[-1]:
+            kept.append("srcDst")
+        else:
+            kept.append({"src1": "src"}.get(role, role))
+    return kept
+
+
+def arguments(roles, params, types, descriptor):
+    """The argument list of one member."""
+    if descriptor and descriptor.in_place:
+        roles = _in_place_roles(roles)
+    known = {p.name: p for p in params}
+    result = []
+    for role in roles:
+        if role in known:
+            result.append(_param(known[role], fill_types(known[role].ctype, types)))
+            continue
+        args = _grammar_args(role, types, descriptor)
+        if args is None:
+            raise GrammarError(f"'{role}' is neither a role of the grammar nor a param of the operation")
+        result.extend(args)
+    return result
+
+
+def fill_types(text, types):
+    """Puts the member's sample types for {T} and {T2}."""
+    if "{T" in text and not types:
+        raise GrammarError(f"'{text}' asks for a sample type, and the member has none")
+    if types:
+        text = text.replace("{T}", SAMPLE_TYPES[types[0]]).replace("{T2}", SAMPLE_TYPES[types[-1]])
+    return text
