@@ -6,6 +6,7 @@
 #include "frame/layout.hpp"
 #include "frame/rows.hpp"
 #include "frame/streaming.hpp"
+#include "kernels/chosen.hpp"
 #include "kernels/copy.hpp"
 #include "kernels/fence.hpp"
 #include "kernels/masked.hpp"
@@ -16,10 +17,10 @@ namespace {
 using namespace check;
 
 // From half of the largest cache on, source and destination cannot both stay in it.
-bool streamsCopy(uint64_t bytes) {
+bool streamsCopy(int64_t bytes) {
   if (bytes < kStreamingFloor) return false;
-  const int64_t cache = largestCache(0);
-  return cache > 0 && bytes >= static_cast<uint64_t>(cache) / 2;
+  const auto cache = largestCache();
+  return cache && *cache > 0 && bytes >= *cache / 2;
 }
 
 template <typename T, typename Layout>
@@ -49,24 +50,20 @@ LumStatus copyManaged(const T* src, int srcStep, T* dst, int dstStep, LumiSize r
   return lumStatusOk;
 }
 
-// A kernel that counts pixels, row by row.
-template <typename T, typename Kernel>
-LumStatus copyPixels(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, Kernel kernel) {
+// Colour without alpha, or one chosen channel.
+template <typename T, typename Layout>
+LumStatus copyChosen(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
+  constexpr int pixelBytes = kPixelBytes<T, Layout>;
+  const Extent extent =
+      fuse(roi, isTight(srcStep, roi.width, pixelBytes), isTight(dstStep, roi.width, pixelBytes));
   walkRows(
-      roi.height, [&](const Byte* s, Byte* d) { kernel(s, d, static_cast<size_t>(roi.width)); },
+      extent.height,
+      [&](const Byte* s, Byte* d) {
+        copyChosenRow<sizeof(T), Layout::kStored, Layout::kUsed>(s, d, extent.pixels);
+      },
       rows(src, srcStep), rows(dst, dstStep));
   return lumStatusOk;
-}
-
-template <typename T, typename Layout>
-LumStatus copyColour(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
-  return copyPixels(src, srcStep, dst, dstStep, roi, copyColourRow<sizeof(T)>);
-}
-
-template <typename T, typename Layout>
-LumStatus copyChannel(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
-  return copyPixels(src, srcStep, dst, dstStep, roi, copyChannelRow<sizeof(T), Layout::kStored>);
 }
 
 template <typename T, typename Layout>

@@ -2,11 +2,14 @@
 // Copy between channel layouts: colour with and without alpha, planes and channels, pixels and planes.
 #include "lumi/copy_channels.h"
 
+#include <tuple>
+
 #include "frame/check.hpp"
 #include "frame/layout.hpp"
 #include "frame/rows.hpp"
 #include "frame/streaming.hpp"
 #include "kernels/copy_channels.hpp"
+#include "kernels/fence.hpp"
 
 namespace lumi {
 namespace {
@@ -52,27 +55,66 @@ LumStatus duplicatePlane(const T* src, int srcStep, T* dst, int dstStep, LumiSiz
   return copyBetween<1, channels>(src, srcStep, dst, dstStep, roi, duplicateRow<channels>);
 }
 
+// What a split or merge moves against what the cache holds. Samples of 32 bits follow the rule of every
+// operation; the narrower ones have limits of their own.
+constexpr int64_t kSplitFloor = 0x600000;
+constexpr size_t kMergeWidth = 512;
+
+template <typename T>
+bool streamsSplit(int64_t bytes, bool tight) {
+  if (sizeof(T) == 4) return streamsOperation(bytes);
+  if (!tight || bytes <= kSplitFloor) return false;
+  const auto cache = largestCache();
+  return cache && bytes > *cache;
+}
+
+template <typename T>
+bool streamsMerge(int64_t bytes, size_t pixels) {
+  if (sizeof(T) == 4) return streamsOperation(bytes);
+  if (pixels < kMergeWidth) return false;
+  const int64_t cache = reportedCache();
+  return cache > 0 && bytes > cache / 2;
+}
+
+// Streaming stores take whole vectors only.
+template <typename... Image>
+bool allAligned(int step, Image... images) {
+  constexpr uintptr_t vector = 16;
+  return ((reinterpret_cast<uintptr_t>(images) | ...) | static_cast<uintptr_t>(step)) % vector == 0;
+}
+
 template <typename T, typename From, typename To>
 LumStatus splitPlanes(const T* src, int srcStep, T* const* dst, int dstStep, LumiSize roi) {
-  constexpr int channels = From::kStored;
+  constexpr int channels = From::kStored, pixelBytes = kPixelBytes<T, From>;
   if (LumStatus fault = firstFault(pointers(src), planePointers<channels>(dst), size(roi))) return fault;
-  for (int y = 0; y < roi.height; ++y) {
-    Byte* planes[channels];
-    for (int c = 0; c < channels; ++c) planes[c] = rows(dst[c], dstStep).row(y);
-    splitRow<sizeof(T), channels>(rows(src, srcStep).row(y), planes, static_cast<size_t>(roi.width), false);
-  }
+  const bool tight = isTight(srcStep, roi.width, pixelBytes) && isTight(dstStep, roi.width, sizeof(T));
+  const Extent extent = fuse(roi, tight);
+  const auto planes = planeRows<channels>(dst, dstStep);
+  const bool streaming = std::apply([&](auto... p) { return allAligned(dstStep, p...); }, planes.first) &&
+                         streamsSplit<T>(bytesMoved(roi, 2 * pixelBytes), tight);
+  walkRows(
+      extent.height,
+      [&](const Byte* s, const auto& d) {
+        splitRow<sizeof(T), channels>(s, d.data(), extent.pixels, streaming);
+      },
+      rows(src, srcStep), planes);
+  if (streaming) storeFence();
   return lumStatusOk;
 }
 
 template <typename T, typename From, typename To>
 LumStatus mergePlanes(const T* const* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
-  constexpr int channels = To::kStored;
+  constexpr int channels = To::kStored, pixelBytes = kPixelBytes<T, To>;
   if (LumStatus fault = firstFault(planePointers<channels>(src), pointers(dst), size(roi))) return fault;
-  for (int y = 0; y < roi.height; ++y) {
-    const Byte* planes[channels];
-    for (int c = 0; c < channels; ++c) planes[c] = rows(src[c], srcStep).row(y);
-    mergeRow<sizeof(T), channels>(planes, rows(dst, dstStep).row(y), static_cast<size_t>(roi.width), false);
-  }
+  const Extent extent =
+      fuse(roi, isTight(srcStep, roi.width, sizeof(T)), isTight(dstStep, roi.width, pixelBytes));
+  const bool streaming =
+      allAligned(dstStep, dst) && streamsMerge<T>(bytesMoved(roi, 2 * pixelBytes), extent.pixels);
+  walkRows(
+      extent.height,
+      [&](const auto& s, Byte* d) { mergeRow<sizeof(T), channels>(s.data(), d, extent.pixels, streaming); },
+      planeRows<channels>(src, srcStep), rows(dst, dstStep));
+  if (streaming) storeFence();
   return lumStatusOk;
 }
 

@@ -10,6 +10,7 @@
 #include "frame/layout.hpp"
 #include "frame/rows.hpp"
 #include "frame/streaming.hpp"
+#include "kernels/chosen.hpp"
 #include "kernels/fence.hpp"
 #include "kernels/masked.hpp"
 #include "kernels/set.hpp"
@@ -33,29 +34,27 @@ LumStatus fill(Value value, T* dst, int dstStep, LumiSize roi) {
   if (LumStatus fault = firstFault(pointers(value, dst), size(roi))) return fault;
   constexpr int pixelBytes = kPixelBytes<T, Layout>;
   const Pixel<T, Layout::kUsed> pixel(value);
-  if constexpr (std::is_same_v<Layout, AC4>) {
-    walkRows(
-        roi.height,
-        [&](Byte* d) { fillColourRow<sizeof(T)>(pixel.samples, d, static_cast<size_t>(roi.width)); },
-        rows(dst, dstStep));
-  } else {
-    const bool streaming = streamsOperation(bytesMoved(roi, pixelBytes));
-    const Extent extent = fuse(roi, isTight(dstStep, roi.width, pixelBytes));
-    const FillPattern pattern(pixel.samples, pixelBytes);
-    walkRows(
-        extent.height, [&](Byte* d) { fillRow(pattern, d, extent.pixels * pixelBytes, streaming); },
-        rows(dst, dstStep));
-    if (streaming) storeFence();
-  }
+  const bool streaming = streamsOperation(bytesMoved(roi, pixelBytes));
+  const Extent extent = fuse(roi, isTight(dstStep, roi.width, pixelBytes));
+  const FillPattern pattern(pixel.samples, pixelBytes);
+  walkRows(
+      extent.height, [&](Byte* d) { fillRow(pattern, d, extent.pixels * pixelBytes, streaming); },
+      rows(dst, dstStep));
+  if (streaming) storeFence();
   return lumStatusOk;
 }
 
-template <typename T, typename Layout>
-LumStatus fillChannel(T value, T* dst, int dstStep, LumiSize roi) {
-  if (LumStatus fault = firstFault(pointers(dst), size(roi))) return fault;
+// Colour without alpha, or one chosen channel.
+template <typename T, typename Layout, typename Value>
+LumStatus fillChosen(Value value, T* dst, int dstStep, LumiSize roi) {
+  if (LumStatus fault = firstFault(pointers(value, dst), size(roi))) return fault;
+  const Pixel<T, Layout::kUsed> pixel(value);
+  const Extent extent = fuse(roi, isTight(dstStep, roi.width, kPixelBytes<T, Layout>));
   walkRows(
-      roi.height,
-      [&](Byte* d) { fillChannelRow<sizeof(T), Layout::kStored>(&value, d, static_cast<size_t>(roi.width)); },
+      extent.height,
+      [&](Byte* d) {
+        fillChosenRow<sizeof(T), Layout::kStored, Layout::kUsed>(pixel.samples, d, extent.pixels);
+      },
       rows(dst, dstStep));
   return lumStatusOk;
 }

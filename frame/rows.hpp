@@ -2,6 +2,7 @@
 // Images as rows of bytes, the walk over them, and fusing.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <type_traits>
@@ -27,9 +28,30 @@ auto rows(T* image, int step) {
   return Rows<B>{reinterpret_cast<B*>(image), step};
 }
 
+// The planes of a planar image: a row is an array of plane rows.
+template <typename B, int planes>
+struct PlaneRows {
+  std::array<B*, planes> first;
+  ptrdiff_t step;
+
+  std::array<B*, planes> row(int y) const {
+    auto at = first;
+    for (B*& plane : at) plane += y * step;
+    return at;
+  }
+};
+
+template <int planes, typename T>
+auto planeRows(T* const* images, int step) {
+  using B = std::conditional_t<std::is_const_v<T>, const Byte, Byte>;
+  PlaneRows<B, planes> result{{}, step};
+  for (int i = 0; i < planes; ++i) result.first[i] = reinterpret_cast<B*>(images[i]);
+  return result;
+}
+
 // Calls kernel(row of each image...) for each of the height rows, strictly from the first to the last.
-template <typename Kernel, typename... B>
-inline void walkRows(int height, Kernel kernel, Rows<B>... images) {
+template <typename Kernel, typename... Image>
+inline void walkRows(int height, Kernel kernel, Image... images) {
   for (int y = 0; y < height; ++y) kernel(images.row(y)...);
 }
 
@@ -54,12 +76,11 @@ inline bool isTight(int step, int width, int pixelBytes) {
   return step == static_cast<int64_t>(width) * pixelBytes;
 }
 
-// Bytes that a call moves; no product of two sizes and a pixel of up to 48 bytes leaves 64 bits by much:
-// 2^31 * 2^31 * 48 < 2^68 is capped, as everything above the largest cache is alike.
-inline uint64_t bytesMoved(LumiSize roi, int bytesPerPixel) {
-  const uint64_t area = static_cast<uint64_t>(roi.width) * static_cast<uint64_t>(roi.height);
-  uint64_t bytes = 0;
-  return __builtin_mul_overflow(area, static_cast<uint64_t>(bytesPerPixel), &bytes) ? UINT64_MAX : bytes;
+// Bytes that a call moves. More than 64 bits hold is no size of any cache, and is cut to the largest.
+inline int64_t bytesMoved(LumiSize roi, int bytesPerPixel) {
+  int64_t bytes = 0;
+  const int64_t area = int64_t{roi.width} * roi.height;  // below 2^62
+  return __builtin_mul_overflow(area, bytesPerPixel, &bytes) ? INT64_MAX : bytes;
 }
 
 }  // namespace lumi

@@ -5,22 +5,28 @@
 
 namespace lumi {
 
-int64_t largestCache(int64_t unknown) {
+std::optional<int64_t> largestCache() {
   int32_t size = 0;
-  return lumGetMaxCacheSizeB(&size) == 0 ? size : unknown;
+  if (lumGetMaxCacheSizeB(&size) != 0) return std::nullopt;
+  return size;
 }
 
-bool streamsOperation(uint64_t bytes) {
+int64_t reportedCache() {
+  int32_t size = 0;
+  static_cast<void>(lumGetMaxCacheSizeB(&size));
+  return size;
+}
+
+bool streamsOperation(int64_t bytes) {
   if (bytes <= kStreamingFloor) return false;
-  // A size of zero or less that the core library vouches for is below any byte count.
-  const int64_t cache = largestCache(INT64_MAX);
-  return cache <= 0 || bytes >= static_cast<uint64_t>(cache);
+  const auto cache = largestCache();
+  return cache && bytes >= *cache;
 }
 
-bool streamsFill(uint64_t bytes) {
+bool streamsFill(int64_t bytes) {
   if (bytes <= kFillStreamingFloor) return false;
-  const int64_t cache = largestCache(0);
-  return cache > 0 && bytes > static_cast<uint64_t>(cache);
+  const auto cache = largestCache();
+  return cache && *cache > 0 && bytes > *cache;
 }
 
 }  // namespace lumi

@@ -3,20 +3,24 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 namespace lumi {
 
-// Below this no call leaves the ordinary store path and none asks for the cache size.
-inline constexpr uint64_t kStreamingFloor = 0x100000;
-inline constexpr uint64_t kFillStreamingFloor = 0x200000;
+// Up to here no call leaves the ordinary store path and none asks for the cache size.
+inline constexpr int64_t kStreamingFloor = 0x100000;
+inline constexpr int64_t kFillStreamingFloor = 0x200000;
 
-// The largest cache in bytes, or `unknown` where the core library cannot tell.
-int64_t largestCache(int64_t unknown);
+// The largest cache in bytes; nothing where the core library cannot tell.
+std::optional<int64_t> largestCache();
+
+// What the core library wrote, whether it vouches for it or not; 0 if it wrote nothing.
+int64_t reportedCache();
 
 // The rule of fills, layout changes and conversions; `bytes` counts what is read and written.
-bool streamsOperation(uint64_t bytes);
+bool streamsOperation(int64_t bytes);
 
 // The rule of one-dimensional fills of scratch memory.
-bool streamsFill(uint64_t bytes);
+bool streamsFill(int64_t bytes);
 
 }  // namespace lumi

@@ -4,11 +4,12 @@
 #ifndef LUMI_H
 #define LUMI_H
 
+#include "lumi/types.h"
+
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"
 #include "lumi/image_memory.h"
 #include "lumi/set.h"
-#include "lumi/types.h"
 #include "lumi/version.h"
 
 #endif

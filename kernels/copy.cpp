@@ -140,26 +140,4 @@ void copyRowManaged(const uint8_t* src, uint8_t* dst, size_t bytes, CacheUse use
   copyShort(src, dst, bytes);
 }
 
-template <int sampleBytes, int stride>
-void copyChannelRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
-  constexpr auto n = static_cast<size_t>(sampleBytes);
-  for (size_t i = 0; i < pixels; ++i) move<n>(dst + i * n * stride, src + i * n * stride);
-}
-
-template <int sampleBytes>
-void copyColourRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
-  constexpr auto n = static_cast<size_t>(sampleBytes);
-  for (size_t i = 0; i < pixels; ++i) move<3 * n>(dst + i * n * 4, src + i * n * 4);
-}
-
-template void copyChannelRow<1, 3>(const uint8_t*, uint8_t*, size_t);
-template void copyChannelRow<1, 4>(const uint8_t*, uint8_t*, size_t);
-template void copyChannelRow<2, 3>(const uint8_t*, uint8_t*, size_t);
-template void copyChannelRow<2, 4>(const uint8_t*, uint8_t*, size_t);
-template void copyChannelRow<4, 3>(const uint8_t*, uint8_t*, size_t);
-template void copyChannelRow<4, 4>(const uint8_t*, uint8_t*, size_t);
-template void copyColourRow<1>(const uint8_t*, uint8_t*, size_t);
-template void copyColourRow<2>(const uint8_t*, uint8_t*, size_t);
-template void copyColourRow<4>(const uint8_t*, uint8_t*, size_t);
-
 }  // namespace lumi

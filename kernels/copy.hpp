@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Row kernels that move bytes: whole rows, one chosen channel, three samples of four.
+// Row kernels that move bytes.
 #pragma once
 
 #include <cstddef>
@@ -18,14 +18,5 @@ struct CacheUse {
   bool streamingStores, streamingLoads;
 };
 void copyRowManaged(const uint8_t* src, uint8_t* dst, size_t bytes, CacheUse use);
-
-// Copies one sample of each pixel of `stride` samples. Rows that overlap by whole pixels give what a
-// copy in order gives.
-template <int sampleBytes, int stride>
-void copyChannelRow(const uint8_t* src, uint8_t* dst, size_t pixels);
-
-// Copies three samples of each pixel of four.
-template <int sampleBytes>
-void copyColourRow(const uint8_t* src, uint8_t* dst, size_t pixels);
 
 }  // namespace lumi

@@ -81,28 +81,4 @@ void fillRow(const FillPattern& pattern, uint8_t* dst, size_t bytes, bool stream
     fillLong<Cached>(pattern, dst, bytes);
 }
 
-template <int sampleBytes, int stride>
-void fillChannelRow(const void* sample, uint8_t* dst, size_t pixels) {
-  constexpr auto n = static_cast<size_t>(sampleBytes);
-  const Byte* value = static_cast<const Byte*>(sample);
-  for (size_t i = 0; i < pixels; ++i) move<n>(dst + i * n * stride, value);
-}
-
-template <int sampleBytes>
-void fillColourRow(const void* threeSamples, uint8_t* dst, size_t pixels) {
-  constexpr auto n = static_cast<size_t>(sampleBytes);
-  const Byte* value = static_cast<const Byte*>(threeSamples);
-  for (size_t i = 0; i < pixels; ++i) move<3 * n>(dst + i * n * 4, value);
-}
-
-template void fillChannelRow<1, 3>(const void*, uint8_t*, size_t);
-template void fillChannelRow<1, 4>(const void*, uint8_t*, size_t);
-template void fillChannelRow<2, 3>(const void*, uint8_t*, size_t);
-template void fillChannelRow<2, 4>(const void*, uint8_t*, size_t);
-template void fillChannelRow<4, 3>(const void*, uint8_t*, size_t);
-template void fillChannelRow<4, 4>(const void*, uint8_t*, size_t);
-template void fillColourRow<1>(const void*, uint8_t*, size_t);
-template void fillColourRow<2>(const void*, uint8_t*, size_t);
-template void fillColourRow<4>(const void*, uint8_t*, size_t);
-
 }  // namespace lumi

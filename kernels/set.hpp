@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Row kernels that store a value: whole rows, one chosen channel, three samples of four.
+// Row kernels that store a value: whole rows.
 #pragma once
 
 #include <cstddef>
@@ -20,13 +20,5 @@ struct FillPattern {
 // Fills `bytes` bytes, a multiple of the pixel. With `streaming` the stores bypass the cache, and the
 // caller fences.
 void fillRow(const FillPattern& pattern, uint8_t* dst, size_t bytes, bool streaming);
-
-// Stores one sample of each pixel. The pixel is `stride` samples; dst is at the chosen one.
-template <int sampleBytes, int stride>
-void fillChannelRow(const void* sample, uint8_t* dst, size_t pixels);
-
-// Stores three samples of each pixel of four.
-template <int sampleBytes>
-void fillColourRow(const void* threeSamples, uint8_t* dst, size_t pixels);
 
 }  // namespace lumi

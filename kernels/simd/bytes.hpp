@@ -54,12 +54,43 @@ inline constexpr Byte kZero = 0x80;
 inline Bytes16 vectorOf(const Control& c) { return load16(c.data()); }
 inline Bytes16 shuffle(Bytes16 v, Bytes16 control) { return _mm_shuffle_epi8(v, control); }
 
+// The bytes of b where mask is 0xFF, of a where it is 0.
+inline Bytes16 merge(Bytes16 a, Bytes16 b, Bytes16 mask) {
+  return _mm_or_si128(_mm_andnot_si128(mask, a), _mm_and_si128(mask, b));
+}
 inline Bytes16 either(Bytes16 a, Bytes16 b) { return _mm_or_si128(a, b); }
+inline Bytes16 both(Bytes16 a, Bytes16 b) { return _mm_and_si128(a, b); }
 // One where the mask's top bit is set, else zero's sample.
 inline Bytes16 select(Bytes16 zero, Bytes16 one, Bytes16 mask) { return _mm_blendv_epi8(zero, one, mask); }
 // 0xFF where the byte is zero, else 0.
 inline Bytes16 isZero(Bytes16 v) { return _mm_cmpeq_epi8(v, _mm_setzero_si128()); }
 inline Bytes16 complement(Bytes16 v) { return _mm_xor_si128(v, _mm_set1_epi8(-1)); }
 inline bool noneSet(Bytes16 v) { return _mm_testz_si128(v, v) != 0; }
+
+// Dwords of a where the immediate's bit is 0, of b where it is 1.
+template <int which>
+inline Bytes16 mergeDwords(Bytes16 a, Bytes16 b) {
+  return _mm_castps_si128(_mm_blend_ps(_mm_castsi128_ps(a), _mm_castsi128_ps(b), which));
+}
+
+// Half `a` of the first vector (0 low, 1 high), then half `b` of the second.
+template <int a, int b>
+inline Bytes16 mergeHalves(Bytes16 first, Bytes16 second) {
+  return _mm_castpd_si128(_mm_shuffle_pd(_mm_castsi128_pd(first), _mm_castsi128_pd(second), a | b << 1));
+}
+
+// Four vectors as the rows of a matrix of dwords.
+struct Dwords4x4 {
+  Bytes16 row[4];
+};
+
+inline Dwords4x4 transposed(const Dwords4x4& m) {
+  const Bytes16 low01 = _mm_unpacklo_epi32(m.row[0], m.row[1]),
+                low23 = _mm_unpacklo_epi32(m.row[2], m.row[3]);
+  const Bytes16 high01 = _mm_unpackhi_epi32(m.row[0], m.row[1]),
+                high23 = _mm_unpackhi_epi32(m.row[2], m.row[3]);
+  return {{_mm_unpacklo_epi64(low01, low23), _mm_unpackhi_epi64(low01, low23),
+           _mm_unpacklo_epi64(high01, high23), _mm_unpackhi_epi64(high01, high23)}};
+}
 
 }  // namespace lumi::simd
