@@ -5,7 +5,6 @@
 #include "frame/check.hpp"
 #include "frame/layout.hpp"
 #include "frame/rows.hpp"
-#include "frame/streaming.hpp"
 #include "kernels/chosen.hpp"
 #include "kernels/copy.hpp"
 #include "kernels/fence.hpp"
@@ -16,25 +15,15 @@ namespace {
 
 using namespace check;
 
-// From half of the largest cache on, source and destination cannot both stay in it.
-bool streamsCopy(int64_t bytes) {
-  if (bytes < kStreamingFloor) return false;
-  const auto cache = largestCache();
-  return cache && *cache > 0 && bytes >= *cache / 2;
-}
-
 template <typename T, typename Layout>
 LumStatus copy(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
   constexpr int pixelBytes = kPixelBytes<T, Layout>;
   const Extent extent =
       fuse(roi, isTight(srcStep, roi.width, pixelBytes), isTight(dstStep, roi.width, pixelBytes));
-  const bool streaming = streamsCopy(bytesMoved(roi, pixelBytes));
-  const auto kernel = streaming ? copyRowStreaming : copyRow;
   walkRows(
-      extent.height, [&](const Byte* s, Byte* d) { kernel(s, d, extent.pixels * pixelBytes); },
+      extent.height, [&](const Byte* s, Byte* d) { copyRow(s, d, extent.pixels * pixelBytes); },
       rows(src, srcStep), rows(dst, dstStep));
-  if (streaming) storeFence();
   return lumStatusOk;
 }
 

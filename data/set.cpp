@@ -36,7 +36,7 @@ LumStatus fill(Value value, T* dst, int dstStep, LumiSize roi) {
   const Pixel<T, Layout::kUsed> pixel(value);
   const bool streaming = streamsOperation(bytesMoved(roi, pixelBytes));
   const Extent extent = fuse(roi, isTight(dstStep, roi.width, pixelBytes));
-  const FillPattern pattern(pixel.samples, pixelBytes);
+  const FillPattern pattern = makePattern<pixelBytes>(pixel.samples);
   walkRows(
       extent.height, [&](Byte* d) { fillRow(pattern, d, extent.pixels * pixelBytes, streaming); },
       rows(dst, dstStep));

@@ -10,9 +10,6 @@ namespace lumi {
 // Copies a row of bytes, in the direction that keeps a store from aliasing a later load.
 void copyRow(const uint8_t* src, uint8_t* dst, size_t bytes);
 
-// The same past the cache: blocks are read in first, then stored by streaming stores. The caller fences.
-void copyRowStreaming(const uint8_t* src, uint8_t* dst, size_t bytes);
-
 // What a caller of the managed copy decides.
 struct CacheUse {
   bool streamingStores, streamingLoads;

@@ -81,9 +81,11 @@ void storeJoined(Byte* dst, Bytes16 a, Bytes16 b, Bytes16 c, Bytes16 d) {
 
 template <int sampleBytes, int channels, typename Store>
 void splitBlocks(const Byte* src, Byte* const* planes, size_t blocks) {
+  std::array<Byte*, channels> to;  // a copy that no store of bytes can be thought to change
+  for (int c = 0; c < channels; ++c) to[c] = planes[c];
   for (size_t i = 0; i < blocks; ++i) {
     const Dwords4x4 p = transposed(loadGroups<sampleBytes, channels>(src + 16 * channels * i));
-    for (int c = 0; c < channels; ++c) Store::store(planes[c] + 16 * i, p.row[c]);
+    for (int c = 0; c < channels; ++c) Store::store(to[c] + 16 * i, p.row[c]);
   }
 }
 
@@ -110,8 +112,10 @@ void mergeBlock(Byte* dst, Bytes16 p0, Bytes16 p1, Bytes16 p2) {
 
 template <int sampleBytes, int channels, typename Store>
 void mergeBlocks(const Byte* const* planes, Byte* dst, size_t blocks) {
+  std::array<const Byte*, channels> from;
+  for (int c = 0; c < channels; ++c) from[c] = planes[c];
   for (size_t i = 0; i < blocks; ++i) {
-    const auto plane = [&](int c) { return load16(planes[c] + 16 * i); };
+    const auto plane = [&](int c) { return load16(from[c] + 16 * i); };
     if constexpr (channels == 4)
       mergeBlock<sampleBytes, Store>(dst + 64 * i, plane(0), plane(1), plane(2), plane(3));
     else

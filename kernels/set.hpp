@@ -11,11 +11,12 @@ namespace lumi {
 // vector; 32 more let a vector be loaded from any phase of the period.
 struct FillPattern {
   static constexpr size_t kPeriod = 96;
-  uint8_t bytes[kPeriod + 32];
-  int pixelBytes;
-
-  FillPattern(const void* pixel, int pixelSize);
+  alignas(16) uint8_t bytes[kPeriod + 32];
+  bool dwords;  // a dword is a whole number of pixels
 };
+
+template <int pixelBytes>
+FillPattern makePattern(const void* pixel);
 
 // Fills `bytes` bytes, a multiple of the pixel. With `streaming` the stores bypass the cache, and the
 // caller fences.
