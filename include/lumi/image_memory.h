@@ -28,41 +28,41 @@ extern "C" {
  *   height     rows
  *   step       receives the distance between rows, in bytes
  */
-Lum16s*lumiMalloc_16s_AC4(int width, int height, int* step);
-Lum16s*lumiMalloc_16s_C1(int width, int height, int* step);
-Lum16s*lumiMalloc_16s_C2(int width, int height, int* step);
-Lum16s*lumiMalloc_16s_C3(int width, int height, int* step);
-Lum16s*lumiMalloc_16s_C4(int width, int height, int* step);
-Lum16u*lumiMalloc_16u_AC4(int width, int height, int* step);
-Lum16u*lumiMalloc_16u_C1(int width, int height, int* step);
-Lum16u*lumiMalloc_16u_C2(int width, int height, int* step);
-Lum16u*lumiMalloc_16u_C3(int width, int height, int* step);
-Lum16u*lumiMalloc_16u_C4(int width, int height, int* step);
-Lum32f*lumiMalloc_32f_AC4(int width, int height, int* step);
-Lum32f*lumiMalloc_32f_C1(int width, int height, int* step);
-Lum32f*lumiMalloc_32f_C2(int width, int height, int* step);
-Lum32f*lumiMalloc_32f_C3(int width, int height, int* step);
-Lum32f*lumiMalloc_32f_C4(int width, int height, int* step);
-Lum32fc*lumiMalloc_32fc_AC4(int width, int height, int* step);
-Lum32fc*lumiMalloc_32fc_C1(int width, int height, int* step);
-Lum32fc*lumiMalloc_32fc_C2(int width, int height, int* step);
-Lum32fc*lumiMalloc_32fc_C3(int width, int height, int* step);
-Lum32fc*lumiMalloc_32fc_C4(int width, int height, int* step);
-Lum32s*lumiMalloc_32s_AC4(int width, int height, int* step);
-Lum32s*lumiMalloc_32s_C1(int width, int height, int* step);
-Lum32s*lumiMalloc_32s_C2(int width, int height, int* step);
-Lum32s*lumiMalloc_32s_C3(int width, int height, int* step);
-Lum32s*lumiMalloc_32s_C4(int width, int height, int* step);
-Lum32sc*lumiMalloc_32sc_AC4(int width, int height, int* step);
-Lum32sc*lumiMalloc_32sc_C1(int width, int height, int* step);
-Lum32sc*lumiMalloc_32sc_C2(int width, int height, int* step);
-Lum32sc*lumiMalloc_32sc_C3(int width, int height, int* step);
-Lum32sc*lumiMalloc_32sc_C4(int width, int height, int* step);
-Lum8u*lumiMalloc_8u_AC4(int width, int height, int* step);
-Lum8u*lumiMalloc_8u_C1(int width, int height, int* step);
-Lum8u*lumiMalloc_8u_C2(int width, int height, int* step);
-Lum8u*lumiMalloc_8u_C3(int width, int height, int* step);
-Lum8u*lumiMalloc_8u_C4(int width, int height, int* step);
+Lum16s* lumiMalloc_16s_AC4(int width, int height, int* step);
+Lum16s* lumiMalloc_16s_C1(int width, int height, int* step);
+Lum16s* lumiMalloc_16s_C2(int width, int height, int* step);
+Lum16s* lumiMalloc_16s_C3(int width, int height, int* step);
+Lum16s* lumiMalloc_16s_C4(int width, int height, int* step);
+Lum16u* lumiMalloc_16u_AC4(int width, int height, int* step);
+Lum16u* lumiMalloc_16u_C1(int width, int height, int* step);
+Lum16u* lumiMalloc_16u_C2(int width, int height, int* step);
+Lum16u* lumiMalloc_16u_C3(int width, int height, int* step);
+Lum16u* lumiMalloc_16u_C4(int width, int height, int* step);
+Lum32f* lumiMalloc_32f_AC4(int width, int height, int* step);
+Lum32f* lumiMalloc_32f_C1(int width, int height, int* step);
+Lum32f* lumiMalloc_32f_C2(int width, int height, int* step);
+Lum32f* lumiMalloc_32f_C3(int width, int height, int* step);
+Lum32f* lumiMalloc_32f_C4(int width, int height, int* step);
+Lum32fc* lumiMalloc_32fc_AC4(int width, int height, int* step);
+Lum32fc* lumiMalloc_32fc_C1(int width, int height, int* step);
+Lum32fc* lumiMalloc_32fc_C2(int width, int height, int* step);
+Lum32fc* lumiMalloc_32fc_C3(int width, int height, int* step);
+Lum32fc* lumiMalloc_32fc_C4(int width, int height, int* step);
+Lum32s* lumiMalloc_32s_AC4(int width, int height, int* step);
+Lum32s* lumiMalloc_32s_C1(int width, int height, int* step);
+Lum32s* lumiMalloc_32s_C2(int width, int height, int* step);
+Lum32s* lumiMalloc_32s_C3(int width, int height, int* step);
+Lum32s* lumiMalloc_32s_C4(int width, int height, int* step);
+Lum32sc* lumiMalloc_32sc_AC4(int width, int height, int* step);
+Lum32sc* lumiMalloc_32sc_C1(int width, int height, int* step);
+Lum32sc* lumiMalloc_32sc_C2(int width, int height, int* step);
+Lum32sc* lumiMalloc_32sc_C3(int width, int height, int* step);
+Lum32sc* lumiMalloc_32sc_C4(int width, int height, int* step);
+Lum8u* lumiMalloc_8u_AC4(int width, int height, int* step);
+Lum8u* lumiMalloc_8u_C1(int width, int height, int* step);
+Lum8u* lumiMalloc_8u_C2(int width, int height, int* step);
+Lum8u* lumiMalloc_8u_C3(int width, int height, int* step);
+Lum8u* lumiMalloc_8u_C4(int width, int height, int* step);
 
 /**
  * Gives back an image from any lumiMalloc member.

@@ -16,7 +16,7 @@ extern "C" {
  * Returns the constant version record, the same pointer at every call; it is neither written nor
  * freed by the caller.
  */
-const LumLibraryVersion*lumiGetLibVersion(void);
+const LumLibraryVersion* lumiGetLibVersion(void);
 
 #ifdef __cplusplus
 }

@@ -26,8 +26,7 @@ def implementation(export):
 
 def prototype(export, name=None):
     args = ", ".join(a.decl for a in export.args) or "void"
-    gap = "" if export.returns.endswith("*") else " "
-    return f"{export.returns}{gap}{name or export.name}({args})"
+    return f"{export.returns} {name or export.name}({args})"
 
 
 def _wrap_prototype(text, width=110):

@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: MIT
+// Every argument fault of every export, alone and in pairs: the status is that of the check that comes
+// first, and nothing is read or written, since all memory that a call could touch is inaccessible.
+#include <gtest/gtest.h>
+#include <sys/mman.h>
+
+#include <string>
+
+#include "support/invoke.hpp"
+
+namespace lumi::test {
+namespace {
+
+// A page that no access survives.
+void* forbidden() {
+  static void* const page = mmap(nullptr, 1 << 16, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+  return page;
+}
+
+enum class Category { Null, Width, Height, Step, Harmless };
+
+// One change to an otherwise valid list of arguments.
+struct Fault {
+  size_t argument;
+  Category category;
+  std::string name;
+  void (*apply)(Slot&, int);
+  int detail;
+};
+
+LumStatus statusOf(Check check) {
+  switch (check) {
+    case Check::Null:
+      return lumStatusNullPointer;
+    case Check::Size:
+    case Check::Width:
+      return lumStatusBadSize;
+    case Check::Step:
+      return lumStatusBadStep;
+  }
+  return lumStatusOk;
+}
+
+bool finds(Check check, Category category) {
+  switch (check) {
+    case Check::Null:
+      return category == Category::Null;
+    case Check::Size:
+      return category == Category::Width || category == Category::Height;
+    case Check::Width:
+      return category == Category::Width;
+    case Check::Step:
+      return category == Category::Step;
+  }
+  return false;
+}
+
+// The first check that finds one of the faults.
+LumStatus expected(const ExportRow& row, const std::vector<const Fault*>& faults) {
+  for (Check check : row.checks)
+    for (const Fault* fault : faults)
+      if (finds(check, fault->category)) return statusOf(check);
+  return lumStatusOk;
+}
+
+bool checksSteps(const ExportRow& row) {
+  for (Check check : row.checks)
+    if (check == Check::Step) return true;
+  return false;
+}
+
+std::vector<Fault> faultsOf(const ExportRow& row, size_t index) {
+  const Argument& argument = row.arguments[index];
+  std::vector<Fault> faults;
+  const auto add = [&](Category category, const char* name, void (*apply)(Slot&, int), int detail = 0) {
+    faults.push_back({index, category, name + (" of argument " + std::to_string(index)), apply, detail});
+  };
+  switch (argument.kind) {
+    case Kind::Image:
+    case Kind::Values:
+    case Kind::Pointer:
+      add(Category::Null, "null", [](Slot& s, int) { s.pointer = nullptr; });
+      break;
+    case Kind::Planes:
+      add(Category::Null, "null array", [](Slot& s, int) { s.planesNull = true; });
+      for (int plane = 0; plane < argument.extra; ++plane)
+        add(
+            Category::Null, "null plane", [](Slot& s, int p) { s.planes[p] = nullptr; }, plane);
+      break;
+    case Kind::Size:
+      for (int bad : {0, -1, INT32_MIN}) {
+        add(
+            Category::Width, "bad width", [](Slot& s, int v) { s.size.width = v; }, bad);
+        add(
+            Category::Height, "bad height", [](Slot& s, int v) { s.size.height = v; }, bad);
+      }
+      break;
+    case Kind::Step:
+      for (int bad : {0, -1, INT32_MIN})
+        add(
+            checksSteps(row) ? Category::Step : Category::Harmless, "step below 1",
+            [](Slot& s, int v) { s.number = v; }, bad);
+      break;
+    case Kind::Value:
+    case Kind::Number:
+    case Kind::Optional:
+      break;
+  }
+  return faults;
+}
+
+std::vector<Slot> validArguments(const ExportRow& row) {
+  std::vector<Slot> slots(row.arguments.size());
+  for (size_t i = 0; i < slots.size(); ++i) {
+    slots[i].pointer = forbidden();
+    for (void*& plane : slots[i].planes) plane = forbidden();
+    slots[i].size = {7, 3};
+    slots[i].number = row.arguments[i].kind == Kind::Number ? row.arguments[i].extra : 256;
+  }
+  return slots;
+}
+
+// Runs the call with the faults in place; returns whether it did what it should.
+::testing::AssertionResult holds(const ExportRow& row, const std::vector<const Fault*>& faults) {
+  std::vector<Slot> slots = validArguments(row);
+  for (const Fault* fault : faults) fault->apply(slots[fault->argument], fault->detail);
+  const LumStatus want = expected(row, faults);
+  const LumStatus got = row.invoke.call(row.invoke.function, slots.data());
+  if (want == got) return ::testing::AssertionSuccess();
+  auto failure = ::testing::AssertionFailure() << row.name << " gives " << got << ", not " << want << ", for";
+  for (const Fault* fault : faults) failure << " [" << fault->name << " = " << fault->detail << "]";
+  return failure;
+}
+
+TEST(FaultMatrix, EveryFaultAloneAndInPairs) {
+  size_t calls = 0;
+  for (const ExportRow& row : exportRows()) {
+    std::vector<Fault> faults;
+    for (size_t i = 0; i < row.arguments.size(); ++i)
+      for (Fault& fault : faultsOf(row, i)) faults.push_back(std::move(fault));
+    for (const Fault& first : faults) {
+      // A harmless change alone would run the operation.
+      if (first.category != Category::Harmless) {
+        EXPECT_TRUE(holds(row, {&first}));
+        ++calls;
+      }
+      for (const Fault& second : faults) {
+        if (&second <= &first || (second.argument == first.argument && second.category == first.category))
+          continue;
+        if (first.category == Category::Harmless && second.category == Category::Harmless) continue;
+        EXPECT_TRUE(holds(row, {&first, &second}));
+        ++calls;
+      }
+    }
+  }
+  EXPECT_GT(calls, exportRows().size() * 20);
+}
+
+// The matrix rests on the rows: each row names its checks, and each fault of an argument has one.
+TEST(FaultMatrix, EveryRowHasChecksForItsArguments) {
+  ASSERT_FALSE(exportRows().empty());
+  for (const ExportRow& row : exportRows())
+    for (size_t i = 0; i < row.arguments.size(); ++i)
+      for (const Fault& fault : faultsOf(row, i)) {
+        if (fault.category == Category::Harmless) continue;
+        EXPECT_NE(expected(row, {&fault}), lumStatusOk) << row.name << ": no check finds " << fault.name;
+      }
+}
+
+}  // namespace
+}  // namespace lumi::test

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#include "support/invoke.hpp"
+
+namespace lumi::test {
+
+const std::vector<ExportRow>& exportRows() {
+  static const std::vector<ExportRow> rows = {
+#include "fault_rows.inc"
+  };
+  return rows;
+}
+
+}  // namespace lumi::test

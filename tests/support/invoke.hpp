@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+// Any export called through one form, so that a test can walk all of them by the generated rows.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+#include <initializer_list>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "lumi.h"
+
+namespace lumi::test {
+
+// What an argument is: decides which faults it can have.
+enum class Kind { Image, Planes, Values, Value, Step, Size, Number, Pointer, Optional };
+
+// A step of the order in which an operation checks its arguments.
+enum class Check { Null, Size, Width, Step };
+
+struct Argument {
+  Kind kind;
+  int extra;  // planes of a planar argument, a valid value of a number
+};
+
+// A value for any argument.
+struct Slot {
+  void* pointer = nullptr;
+  void* planes[4] = {};
+  bool planesNull = false;
+  int number = 0;
+  LumiSize size = {};
+};
+
+using AnyFunction = void (*)();
+
+// The words of a call as the platform's convention wants them.
+struct PackedCall {
+  std::vector<uintptr_t> words;  // 32 bits: the stack; 64 bits: integer registers
+  std::vector<double> floats;    // 64 bits: vector registers, as raw bits
+};
+
+template <typename P>
+P argumentFrom(const Slot& slot) {
+  if constexpr (std::is_same_v<P, LumiSize>) {
+    return slot.size;
+  } else if constexpr (std::is_arithmetic_v<P>) {
+    return static_cast<P>(slot.number);
+  } else if constexpr (std::is_pointer_v<std::remove_cv_t<std::remove_pointer_t<P>>>) {
+    using Plane = std::remove_cv_t<std::remove_pointer_t<P>>;
+    return slot.planesNull
+               ? nullptr
+               : reinterpret_cast<P>(const_cast<Plane*>(reinterpret_cast<Plane const*>(slot.planes)));
+  } else {
+    return static_cast<P>(slot.pointer);
+  }
+}
+
+template <typename P>
+void pack(const Slot& slot, PackedCall& call) {
+  const P value = argumentFrom<P>(slot);
+  if constexpr (sizeof(uintptr_t) == 8 && std::is_floating_point_v<P>) {
+    double raw = 0;
+    std::memcpy(&raw, &value, sizeof value);
+    call.floats.push_back(raw);
+  } else if constexpr (std::is_integral_v<P>) {
+    call.words.push_back(static_cast<uintptr_t>(value));  // promoted, as the convention wants
+  } else {
+    uintptr_t words[(sizeof value + sizeof(uintptr_t) - 1) / sizeof(uintptr_t)] = {};
+    std::memcpy(words, &value, sizeof value);
+    call.words.insert(call.words.end(), std::begin(words), std::end(words));
+  }
+}
+
+struct Invoker {
+  AnyFunction function;
+  LumStatus (*call)(AnyFunction, const Slot*);
+  PackedCall (*packed)(const Slot*);
+};
+
+template <typename... P, size_t... i>
+Invoker makeInvoker(LumStatus (*function)(P...), std::index_sequence<i...>) {
+  return {reinterpret_cast<AnyFunction>(function),
+          [](AnyFunction f, const Slot* s) {
+            return reinterpret_cast<LumStatus (*)(P...)>(f)(argumentFrom<P>(s[i])...);
+          },
+          [](const Slot* s) {
+            PackedCall call;
+            (pack<P>(s[i], call), ...);
+            return call;
+          }};
+}
+
+template <typename... P>
+Invoker invoker(LumStatus (*function)(P...)) {
+  return makeInvoker(function, std::index_sequence_for<P...>());
+}
+
+struct ExportRow {
+  const char* name;
+  Invoker invoke;
+  std::vector<Argument> arguments;
+  std::vector<Check> checks;
+};
+
+// Every export that returns a status, in the order of the names.
+const std::vector<ExportRow>& exportRows();
+
+}  // namespace lumi::test

@@ -1,0 +1,168 @@
+# SPDX-License-Identifier: MIT
+"""Tests of the registry reader and of what it emits. Run: python3 -m unittest discover tools/tests"""
+
+import pathlib
+import sys
+import tempfile
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1]))
+
+from lumigen import emit, grammar, reader  # noqa: E402
+
+HEAD = 'family probe data "Probe"\nop Probe\n  brief Tries something.\n'
+
+
+def read(text, name="probe"):
+    with tempfile.TemporaryDirectory() as folder:
+        path = pathlib.Path(folder) / f"{name}.reg"
+        path.write_text(text, encoding="utf-8")
+        return reader.read_file(path)
+
+
+def exports(text):
+    return {e.name: e for op in read(text).operations for e in op.exports}
+
+
+class Grammar(unittest.TestCase):
+    def test_braces(self):
+        self.assertEqual(grammar.expand_braces("{C1 AC4}{,I}R"), ["C1R", "C1IR", "AC4R", "AC4IR"])
+        self.assertEqual(grammar.expand_braces("C1R"), ["C1R"])
+
+    def test_descriptors(self):
+        for token, layouts in (("C1R", ("C1",)), ("AC4IRSfs", ("AC4",)), ("C3P3R", ("C3", "P3")),
+                               ("C3CR", ("C3C",)), ("C3C1R", ("C3", "C1")), ("C3A0C4R", ("C3A0C4",)),
+                               ("AC4C3R", ("AC4", "C3")), ("C1Rs", ("C1",)), ("C4C", None)):
+            with self.subTest(token):
+                if layouts is None:
+                    self.assertRaises(grammar.GrammarError, grammar.parse_descriptor, token)
+                else:
+                    self.assertEqual(grammar.parse_descriptor(token).layouts, layouts)
+
+    def test_types(self):
+        self.assertEqual(grammar.parse_types("8u16s"), ("8u", "16s"))
+        self.assertEqual(grammar.parse_types("32fc"), ("32fc",))
+        self.assertRaises(grammar.GrammarError, grammar.parse_types, "9u")
+
+
+class Prototypes(unittest.TestCase):
+    def prototype(self, args, row, member):
+        return emit.prototype(exports(f"{HEAD}  args {args}\n  {row} bind probe\n")[f"lumiProbe_{member}"])
+
+    def test_plain(self):
+        self.assertEqual(self.prototype("src dst roi", "8u C1R", "8u_C1R"),
+                         "LumStatus lumiProbe_8u_C1R(const Lum8u* src, int srcStep, Lum8u* dst, int dstStep, "
+                         "LumiSize roi)")
+
+    def test_in_place_takes_the_last_source(self):
+        self.assertEqual(self.prototype("src1 src2 dst roi sfs", "16s C1IRSfs", "16s_C1IRSfs"),
+                         "LumStatus lumiProbe_16s_C1IRSfs(const Lum16s* src, int srcStep, Lum16s* srcDst, "
+                         "int srcDstStep, LumiSize roi, int scaleFactor)")
+
+    def test_in_place_with_a_constant(self):
+        self.assertEqual(self.prototype("src value dst roi", "32f C3IR", "32f_C3IR"),
+                         "LumStatus lumiProbe_32f_C3IR(Lum32f* srcDst, int srcDstStep, const Lum32f value[3], "
+                         "LumiSize roi)")
+
+    def test_two_types_and_planes(self):
+        self.assertEqual(self.prototype("src dst roi", "8u32f C3P3R", "8u32f_C3P3R"),
+                         "LumStatus lumiProbe_8u32f_C3P3R(const Lum8u* src, int srcStep, Lum32f* const dst[3], "
+                         "int dstStep, LumiSize roi)")
+
+    def test_mask_and_constants(self):
+        self.assertEqual(self.prototype("value dst roi mask", "8u AC4MR", "8u_AC4MR"),
+                         "LumStatus lumiProbe_8u_AC4MR(const Lum8u value[3], Lum8u* dst, int dstStep, "
+                         "LumiSize roi, const Lum8u* mask, int maskStep)")
+        self.assertIn("(Lum8u value, ", self.prototype("value dst roi mask", "8u C4CR", "8u_C4CR"))
+
+
+class Rows(unittest.TestCase):
+    def test_sharing(self):
+        found = exports(HEAD + "  args src dst roi\n  8u 32s=32f {C1 C4}R bind probe\n  same 32s_C1R=16u_C2R\n")
+        self.assertEqual(found["lumiProbe_32f_C4R"].sample, "lumiProbe_32s_C4R")
+        self.assertEqual(found["lumiProbe_16u_C2R"].sample, "lumiProbe_32s_C1R")
+        self.assertEqual(found["lumiProbe_8u_C1R"].sample, "")
+
+    def test_checks_and_bindings(self):
+        family = read(HEAD + "  args src dst roi\n  8u16s C3AC4R check width null bind probe\n")
+        export = family.operations[0].exports[0]
+        self.assertEqual(export.check, ("width", "null"))
+        self.assertIn("return probe<Lum8u, Lum16s, C3, AC4>(src, srcStep, dst, dstStep, roi);",
+                      emit.bindings(family))
+
+    def test_params_and_returns(self):
+        family = read(HEAD + "  param flag int = 3 : a flag\n  param out {T}* : the result\n  args flag out\n"
+                      "  returns {T}*\n  32f C1 bind probe<4>\n")
+        self.assertEqual(emit.prototype(family.operations[0].exports[0]),
+                         "Lum32f* lumiProbe_32f_C1(int flag, Lum32f* out)")
+        self.assertIn("return probe<4>(flag, out);", emit.bindings(family))
+
+    def test_no_types(self):
+        self.assertIn("lumiProbe", exports(HEAD + "  returns void\n  - bind probe\n"))
+
+
+class Complaints(unittest.TestCase):
+    """A wrong row gives file, line and reason."""
+
+    CASES = (
+        (HEAD + "  args src\n  8u C9R bind x\n", 5, "'C9R' is no layout descriptor"),
+        (HEAD + "  args nosuch\n  8u C1R bind x\n", 5, "'nosuch' is neither a role"),
+        (HEAD + "  args src\n  8u C1R\n", 5, "a row ends in: bind name"),
+        (HEAD + "  args src\n  8u C1R check nul bind x\n", 5, "check takes words of"),
+        (HEAD + "  args src\n  8u C1R bind x\n  8u C1R bind x\n", 6, "lumiProbe_8u_C1R stands twice"),
+        (HEAD + "  args src\n  8u {C1R bind x\n", 5, "unbalanced brace"),
+        (HEAD + "  args src\n  same 8u_C1R=8u_C4R\n", 5, "no row for lumiProbe_8u_C1R"),
+        (HEAD + "  frobnicate\n", 4, "'frobnicate' begins no statement"),
+        (HEAD, 3, "operation Probe exports nothing"),
+        ('family other data "x"\n', 1, "family 'other'"),
+        ("op Probe\n", 1, "an operation before the family"),
+        ("# empty\n", 1, "no family statement"),
+    )
+
+    def test_each(self):
+        for text, line, reason in self.CASES:
+            with self.subTest(reason), self.assertRaises(reader.RegistryError) as caught:
+                read(text)
+            self.assertTrue(str(caught.exception).startswith(f"probe.reg:{line}: "), str(caught.exception))
+            self.assertIn(reason, str(caught.exception))
+
+    def test_the_same_name_in_two_files(self):
+        with tempfile.TemporaryDirectory() as folder:
+            for stem in ("one", "two"):
+                text = HEAD.replace("probe", stem, 1) + "  args src\n  8u C1R bind x\n"
+                (pathlib.Path(folder) / f"{stem}.reg").write_text(text, encoding="utf-8")
+            with self.assertRaisesRegex(reader.RegistryError, "two.reg:5: lumiProbe_8u_C1R stands already at one.reg:5"):
+                reader.read_folder(folder)
+
+
+class Emitted(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.root = pathlib.Path(__file__).resolve().parents[2]
+        cls.families = reader.read_folder(cls.root / "registry")
+
+    def test_headers_are_current(self):
+        from lumigen import __main__ as main
+        self.assertEqual(main.stale(self.root / "include", emit.headers(self.families)), [])
+
+    def test_no_header_is_left_over(self):
+        made = set(emit.headers(self.families)) | {"lumi/types.h"}
+        there = {str(p.relative_to(self.root / "include")) for p in (self.root / "include").rglob("*.h")}
+        self.assertEqual(there, made)
+
+    def test_slots_are_in_the_order_of_the_names(self):
+        rows = emit.structure_rows(self.families).splitlines()
+        self.assertEqual(rows, sorted(rows, key=lambda row: row.split()[0]))
+
+    def test_writing_twice_changes_nothing(self):
+        from lumigen import __main__ as main
+        with tempfile.TemporaryDirectory() as folder:
+            out = pathlib.Path(folder)
+            main.write(out, emit.build_files(self.families))
+            before = {p: p.stat().st_mtime_ns for p in out.rglob("*") if p.is_file()}
+            main.write(out, emit.build_files(self.families))
+            self.assertEqual(before, {p: p.stat().st_mtime_ns for p in out.rglob("*") if p.is_file()})
+
+
+if __name__ == "__main__":
+    unittest.main()
