@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "bench/peers/opencv.hpp"
+
+#include <opencv2/core.hpp>
+#include <opencv2/core/utility.hpp>
+#include <opencv2/imgproc.hpp>
+
+namespace bench::opencv {
+namespace {
+
+cv::Mat mat(const View& view) {
+  constexpr int kDepths[] = {CV_8U, CV_16U, CV_16S, CV_32S, CV_32F};
+  return cv::Mat(view.roi.height, view.roi.width,
+                 CV_MAKETYPE(kDepths[static_cast<int>(view.depth)], view.channels), view.bytes,
+                 static_cast<std::size_t>(view.step));
+}
+
+std::vector<cv::Mat> mats(const std::vector<View>& views) {
+  std::vector<cv::Mat> all;
+  for (const View& view : views) all.push_back(mat(view));
+  return all;
+}
+
+cv::Scalar scalar(const Value& value) { return {value[0], value[1], value[2], value[3]}; }
+
+}  // namespace
+
+void prepare() { cv::setNumThreads(1); }
+
+Library library() {
+  bool above = false;
+  for (const int feature : {CV_CPU_AVX2, CV_CPU_FMA3, CV_CPU_AVX512_SKX}) {
+    above = above || cv::checkHardwareSupport(feature);
+  }
+  return {"opencv", cv::getVersionString(), above};
+}
+
+Peer fill(View dst, Value value) {
+  return peer("opencv", [d = mat(dst), v = scalar(value)]() mutable { d.setTo(v); });
+}
+
+Peer fillMasked(View dst, Value value, View mask) {
+  return peer("opencv", [d = mat(dst), v = scalar(value), m = mat(mask)]() mutable { d.setTo(v, m); });
+}
+
+Peer copy(View src, View dst) {
+  return peer("opencv", [s = mat(src), d = mat(dst)] { s.copyTo(d); });
+}
+
+Peer copyMasked(View src, View dst, View mask) {
+  return peer("opencv", [s = mat(src), d = mat(dst), m = mat(mask)] { s.copyTo(d, m); });
+}
+
+Peer split(View src, std::vector<View> dst) {
+  return peer("opencv", [s = mat(src), d = mats(dst)]() mutable { cv::split(s, d.data()); });
+}
+
+Peer merge(std::vector<View> src, View dst) {
+  return peer("opencv", [s = mats(src), d = mat(dst)] { cv::merge(s.data(), s.size(), d); });
+}
+
+Peer move(View src, View dst, int from, int to, int count) {
+  const cv::Mat s = mat(src);
+  cv::Mat d = mat(dst);
+  if (dst.channels == 1) return peer("opencv", [=] { cv::extractChannel(s, d, from); });
+  if (src.channels == 1) return peer("opencv", [=]() mutable { cv::insertChannel(s, d, to); });
+  std::vector<int> pairs;
+  for (int i = 0; i < count; ++i) pairs.insert(pairs.end(), {from + i, to + i});
+  return peer("opencv", [=]() mutable {
+    cv::mixChannels(&s, 1, &d, 1, pairs.data(), static_cast<std::size_t>(count));
+  });
+}
+
+Peer dropAlpha(View src, View dst) {
+  if (src.depth == Depth::s16 || src.depth == Depth::s32) return {};
+  return peer("opencv", [s = mat(src), d = mat(dst)] { cv::cvtColor(s, d, cv::COLOR_BGRA2BGR); });
+}
+
+Peer spread(View src, View dst) {
+  // The conversion to four channels would store an opaque alpha.
+  if (dst.channels == 4) return merge({src, src, src, src}, dst);
+  return peer("opencv", [s = mat(src), d = mat(dst)] { cv::cvtColor(s, d, cv::COLOR_GRAY2BGR); });
+}
+
+}  // namespace bench::opencv

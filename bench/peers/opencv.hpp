@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+// OpenCV's core and imgproc, on one thread.
+#pragma once
+
+#include "bench/harness.hpp"
+
+namespace bench::opencv {
+
+[[gnu::weak]] void prepare();
+[[gnu::weak]] Library library();
+
+[[gnu::weak]] Peer fill(View dst, Value value);
+[[gnu::weak]] Peer fillMasked(View dst, Value value, View mask);
+[[gnu::weak]] Peer copy(View src, View dst);
+[[gnu::weak]] Peer copyMasked(View src, View dst, View mask);
+[[gnu::weak]] Peer split(View src, std::vector<View> dst);
+[[gnu::weak]] Peer merge(std::vector<View> src, View dst);
+// Channels from .. from + count - 1 of src become those of dst, starting at channel to.
+[[gnu::weak]] Peer move(View src, View dst, int from, int to, int count);
+[[gnu::weak]] Peer dropAlpha(View src, View dst);
+[[gnu::weak]] Peer spread(View src, View dst);
+
+}  // namespace bench::opencv

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+// libyuv: planes and pixels of 8 bits.
+#pragma once
+
+#include "bench/harness.hpp"
+
+namespace bench::yuv {
+
+[[gnu::weak]] void hold();  // keeps it to our level from here on
+[[gnu::weak]] Library library();
+
+[[gnu::weak]] Peer fill(View dst, Value value);
+[[gnu::weak]] Peer copy(View src, View dst);
+[[gnu::weak]] Peer split(View src, std::vector<View> dst);
+[[gnu::weak]] Peer merge(std::vector<View> src, View dst);
+[[gnu::weak]] Peer dropAlpha(View src, View dst);
+
+}  // namespace bench::yuv
