@@ -13,6 +13,8 @@ template <int sampleBytes, int stored, int used>
 struct Chosen {
   static constexpr size_t kPixelBytes = sampleBytes * stored, kUsedBytes = sampleBytes * used;
   static constexpr size_t kBlockPixels = 16 / sampleBytes, kBlockBytes = kBlockPixels * kPixelBytes;
+  // One sample of 32 bits is moved faster alone than blended in.
+  static constexpr bool kBlend = sampleBytes < 4 || used > 1;
   // A block ends with the last pixel's other channels, which lie outside the image when the chosen
   // channel is not the first: one pixel must then be left for the tail.
   static constexpr size_t kReserve = used == 1 ? 1 : 0;
@@ -48,7 +50,7 @@ bool overlapByPixels(const Byte* src, const Byte* dst, size_t pixelBytes, size_t
 template <int sampleBytes, int stored, int used>
 void copyChosenRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
   using Row = Chosen<sampleBytes, stored, used>;
-  if (!overlapByPixels(src, dst, Row::kPixelBytes, pixels))
+  if (Row::kBlend && !overlapByPixels(src, dst, Row::kPixelBytes, pixels))
     for (; pixels >= Row::kBlockPixels + Row::kReserve; pixels -= Row::kBlockPixels) {
       Row::block(src, dst);
       src += Row::kBlockBytes, dst += Row::kBlockBytes;
@@ -63,7 +65,7 @@ void fillChosenRow(const void* samples, uint8_t* dst, size_t pixels) {
   Byte block[Row::kBlockBytes] = {};
   for (size_t i = 0; i < Row::kBlockPixels; ++i)
     std::memcpy(block + i * Row::kPixelBytes, value, Row::kUsedBytes);
-  for (; pixels >= Row::kBlockPixels + Row::kReserve; pixels -= Row::kBlockPixels) {
+  for (; Row::kBlend && pixels >= Row::kBlockPixels + Row::kReserve; pixels -= Row::kBlockPixels) {
     Row::block(block, dst);
     dst += Row::kBlockBytes;
   }

@@ -4,6 +4,8 @@
 // Shuffles sort the samples inside a group, dword moves the rest.
 #include "kernels/copy_channels.hpp"
 
+#include <atomic>
+
 #include "kernels/simd/bytes.hpp"
 
 namespace lumi {
@@ -79,14 +81,31 @@ void storeJoined(Byte* dst, Bytes16 a, Bytes16 b, Bytes16 c, Bytes16 d) {
   Store::store(dst + 32, mergeDwords<0b1110>(c, d));
 }
 
+// Splits `count` blocks and then stores them plane by plane: a cache line of a plane is written in one go,
+// which doubles the speed on images that the second-level cache does not hold.
+template <int sampleBytes, int channels, typename Store, size_t count>
+void splitBlocks(const Byte* src, const std::array<Byte*, channels>& planes, size_t offset) {
+  Dwords4x4 blocks[count];
+  for (size_t i = 0; i < count; ++i)
+    blocks[i] = transposed(loadGroups<sampleBytes, channels>(src + 16 * channels * i));
+  std::atomic_signal_fence(std::memory_order_seq_cst);  // keeps the compiler from mixing the stores in
+  for (int c = 0; c < channels; ++c)
+    for (size_t i = 0; i < count; ++i) Store::store(planes[c] + offset + 16 * i, blocks[i].row[c]);
+}
+
 template <int sampleBytes, int channels, typename Store>
-void splitBlocks(const Byte* src, Byte* const* planes, size_t blocks) {
+void splitRowBy(const Byte* src, uint8_t* const* planes, size_t pixels) {
+  constexpr size_t line = 64, vector = 16;
   std::array<Byte*, channels> to;  // a copy that no store of bytes can be thought to change
   for (int c = 0; c < channels; ++c) to[c] = planes[c];
-  for (size_t i = 0; i < blocks; ++i) {
-    const Dwords4x4 p = transposed(loadGroups<sampleBytes, channels>(src + 16 * channels * i));
-    for (int c = 0; c < channels; ++c) Store::store(to[c] + 16 * i, p.row[c]);
-  }
+  const size_t bytes = pixels * sampleBytes;
+  size_t i = 0;
+  for (; i + line <= bytes; i += line)
+    splitBlocks<sampleBytes, channels, Store, line / vector>(src + channels * i, to, i);
+  for (; i + vector <= bytes; i += vector)
+    splitBlocks<sampleBytes, channels, Store, 1>(src + channels * i, to, i);
+  for (; i < bytes; i += sampleBytes)
+    for (int c = 0; c < channels; ++c) move<sampleBytes>(to[c] + i, src + channels * i + c * sampleBytes);
 }
 
 template <int sampleBytes, typename Store>
@@ -206,12 +225,14 @@ void copyColourFromAlphaRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
 }
 
 // A block ends with the last pixel's other channels, which lie outside the image when the chosen channel
-// is not the first: these two leave at least one pixel for the tail.
+// is not the first: these two leave at least one pixel for the tail. Samples of 32 bits go one by one: a
+// vector of such pixels holds too few of them to gain.
 template <int sampleBytes, int channels>
 void planeToChannelRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
   static constexpr auto controls = spreadControls<sampleBytes, channels>(false);
   static constexpr auto others = otherChannels<sampleBytes, channels>();
-  for (; pixels > kBlock<sampleBytes>; pixels -= kBlock<sampleBytes>, src += 16, dst += 16 * channels) {
+  for (; sampleBytes < 4 && pixels > kBlock<sampleBytes>;
+       pixels -= kBlock<sampleBytes>, src += 16, dst += 16 * channels) {
     const Bytes16 samples = load16(src);
     for (int i = 0; i < channels; ++i)
       store16(dst + 16 * i, either(both(load16(dst + 16 * i), vectorOf(others[i])),
@@ -222,21 +243,18 @@ void planeToChannelRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
 
 template <int sampleBytes, int channels>
 void channelToPlaneRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
-  for (; pixels > kBlock<sampleBytes>; pixels -= kBlock<sampleBytes>, src += 16 * channels, dst += 16)
+  for (; sampleBytes < 4 && pixels > kBlock<sampleBytes>;
+       pixels -= kBlock<sampleBytes>, src += 16 * channels, dst += 16)
     store16(dst, transposed(loadGroups<sampleBytes, channels>(src)).row[0]);
   for (; pixels; --pixels, src += sampleBytes * channels, dst += sampleBytes) move<sampleBytes>(dst, src);
 }
 
 template <int sampleBytes, int channels>
 void splitRow(const uint8_t* src, uint8_t* const* planes, size_t pixels, bool streaming) {
-  const size_t blocks = pixels / kBlock<sampleBytes>;
   if (streaming)
-    splitBlocks<sampleBytes, channels, Streaming>(src, planes, blocks);
+    splitRowBy<sampleBytes, channels, Streaming>(src, planes, pixels);
   else
-    splitBlocks<sampleBytes, channels, Cached>(src, planes, blocks);
-  for (size_t i = blocks * kBlock<sampleBytes>; i < pixels; ++i)
-    for (size_t c = 0; c < channels; ++c)
-      move<sampleBytes>(planes[c] + i * sampleBytes, src + (i * channels + c) * sampleBytes);
+    splitRowBy<sampleBytes, channels, Cached>(src, planes, pixels);
 }
 
 template <int sampleBytes, int channels>

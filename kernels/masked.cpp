@@ -10,39 +10,38 @@ namespace {
 
 using namespace simd;
 
-// Spreads sixteen mask bytes over vector `index` of the sixteen pixels they belong to; bytes of a pixel
-// that are not to be stored get zero.
-template <int pixelBytes, int usedBytes>
-constexpr Control spreadControl(int index) {
-  Control c{};
-  for (int j = 0; j < 16; ++j) {
-    const int byte = index * 16 + j, pixel = byte / pixelBytes;
-    c[static_cast<size_t>(j)] = byte % pixelBytes < usedBytes ? static_cast<Byte>(pixel) : kZero;
-  }
-  return c;
-}
-
-template <int pixelBytes, int usedBytes>
+// Spreads sixteen mask bytes over the sixteen pixels they belong to: a control for each vector of pixels.
+template <int pixelBytes>
 constexpr auto spreadControls() {
   std::array<Control, pixelBytes> all{};
-  for (int i = 0; i < pixelBytes; ++i) all[static_cast<size_t>(i)] = spreadControl<pixelBytes, usedBytes>(i);
+  for (size_t byte = 0; byte < kMaskBlock * pixelBytes; ++byte)
+    all[byte / 16][byte % 16] = static_cast<Byte>(byte / pixelBytes);
   return all;
+}
+
+// 0xFF over the bytes of a pixel that are never stored; such pixels divide a vector.
+template <int pixelBytes, int usedBytes>
+constexpr Control keptBytes() {
+  Control c{};
+  for (size_t j = 0; j < c.size(); ++j) c[j] = j % pixelBytes < usedBytes ? 0 : 0xFF;
+  return c;
 }
 
 // The source moves on with the pixels, or stands still (a value).
 template <int pixelBytes, int usedBytes, bool moving>
 void maskedRow(const Byte* src, Byte* dst, const Byte* mask, size_t pixels) {
-  static constexpr auto controls = spreadControls<pixelBytes, usedBytes>();
+  static constexpr auto controls = spreadControls<pixelBytes>();
+  static constexpr Control kept = keptBytes<pixelBytes, usedBytes>();
   constexpr size_t blockBytes = kMaskBlock * pixelBytes;
   size_t i = 0;
   for (; i + kMaskBlock <= pixels; i += kMaskBlock, dst += blockBytes, src += moving ? blockBytes : 0) {
-    const Bytes16 skip = isZero(load16(mask + i));
-    const Bytes16 chosen = complement(skip);
-    if (noneSet(chosen)) continue;  // a block that is not chosen reads no source
+    const Bytes16 given = load16(mask + i);
+    if (noneSet(given)) continue;  // a block that is not chosen reads no source
+    const Bytes16 skip = isZero(given);
     for (int k = 0; k < pixelBytes; ++k) {
-      const Bytes16 m =
-          pixelBytes == 1 ? chosen : shuffle(chosen, vectorOf(controls[static_cast<size_t>(k)]));
-      store16(dst + 16 * k, select(load16(dst + 16 * k), load16(src + 16 * k), m));
+      Bytes16 m = pixelBytes == 1 ? skip : shuffle(skip, vectorOf(controls[k]));
+      if constexpr (usedBytes < pixelBytes) m = either(m, vectorOf(kept));
+      store16(dst + 16 * k, select(load16(src + 16 * k), load16(dst + 16 * k), m));
     }
   }
   for (; i < pixels; ++i, dst += pixelBytes, src += moving ? pixelBytes : 0)

@@ -64,7 +64,6 @@ inline Bytes16 both(Bytes16 a, Bytes16 b) { return _mm_and_si128(a, b); }
 inline Bytes16 select(Bytes16 zero, Bytes16 one, Bytes16 mask) { return _mm_blendv_epi8(zero, one, mask); }
 // 0xFF where the byte is zero, else 0.
 inline Bytes16 isZero(Bytes16 v) { return _mm_cmpeq_epi8(v, _mm_setzero_si128()); }
-inline Bytes16 complement(Bytes16 v) { return _mm_xor_si128(v, _mm_set1_epi8(-1)); }
 inline bool noneSet(Bytes16 v) { return _mm_testz_si128(v, v) != 0; }
 
 // Dwords of a where the immediate's bit is 0, of b where it is 1.
