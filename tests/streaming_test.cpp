@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+// Large images, about the sizes from which on stores may bypass the cache, and what may be asked below them.
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cmath>
+
+#include "support/core_guard.hpp"
+#include "support/member.hpp"
+#include "support/settings.hpp"
+#include "support/stage.hpp"
+
+namespace test {
+namespace {
+
+constexpr int64_t kFloor = 1 << 20;  // no call that moves less asks for the cache's size
+constexpr size_t kLargestImage = 8 << 20;
+
+// Bytes read and written for each pixel; a fill only writes.
+int bytesMoved(const Member& m) { return m.src.planes * m.src.pixelBytes + m.dst.planes * m.dst.pixelBytes; }
+
+Stage& largeStage() {
+  static Stage stage(kLargestImage);
+  return stage;
+}
+
+struct CacheReport {
+  const char* about;
+  void (*apply)();
+};
+
+const CacheReport kReports[] = {
+    {"1 byte", [] { testcore::setCacheSize(1); }},
+    {"0 bytes", [] { testcore::setCacheSize(0); }},
+    {"-1 byte", [] { testcore::setCacheSize(-1); }},
+    {"INT_MIN bytes", [] { testcore::setCacheSize(INT_MIN); }},
+    {"INT_MAX bytes", [] { testcore::setCacheSize(INT_MAX); }},
+    {"1 MiB", [] { testcore::setCacheSize(1 << 20); }},
+    {"2 MiB", [] { testcore::setCacheSize(2 << 20); }},
+    {"failure that stores nothing", [] { testcore::failCacheQuery(-1); }},
+    {"failure that stores 1", [] { testcore::failCacheQuery(-9999, 1); }},
+    {"warning that stores 1", [] { testcore::failCacheQuery(1, 1); }},
+};
+
+// A ROI of about that many moved bytes: many rows, or few long ones.
+Case largeCase(const Member& m, int64_t moved, int index) {
+  Random random(mixSeed(settings().seed, m.name, index));
+  Case c;
+  c.index = index;
+  c.contents = random.next();
+  const int64_t pixels = std::max<int64_t>(1, moved / bytesMoved(m));
+  constexpr int heights[] = {1, 2, 7, 61, 480};
+  c.roi.height = random.pick(heights);
+  c.roi.width = static_cast<int>(std::max<int64_t>(1, pixels / c.roi.height));
+  const auto step = [&](const Operand& operand, bool padded) {
+    const int tight = c.roi.width * operand.pixelBytes;
+    if (!padded) return tight;
+    return random.oneIn(2) ? (tight + 63) / 64 * 64 : tight + random.between(1, 99);
+  };
+  const bool padded = random.oneIn(2);
+  c.srcStep = step(m.src, padded);
+  c.dstStep = step(m.dst, padded);
+  c.maskStep = step(Operand::pixels(1, 1), padded);
+  const bool aligned = random.oneIn(2);
+  for (int p = 0; p < kMaxPlanes; ++p) {
+    c.src[p] = {Placement::Phase, aligned ? 0 : random.below(64), random.below(64)};
+    c.dst[p] = {Placement::Phase, aligned ? 0 : random.below(64), random.below(64)};
+    if (random.oneIn(4)) c.dst[p].kind = Placement::End;
+    if (random.oneIn(4)) c.src[p].kind = Placement::End;
+  }
+  c.maskKind = random.pick(kMaskKinds);
+  c.flags = index % (1 << m.flagBits);
+  return c;
+}
+
+void expectEqualToModel(const Member& m, const Case& c, const char* report) {
+  const auto failure = largeStage().run(m, c);
+  ASSERT_FALSE(failure) << *failure << "\n"
+                        << describe(m, c) << "\ncache query: " << report
+                        << "\nLUMI_TEST_SEED=" << settings().seed;
+}
+
+// One test for each kind of member keeps shards even.
+class Streaming : public testing::TestWithParam<const char*> {
+ protected:
+  bool chosen(const Member& m) const { return m.name.rfind(GetParam(), 0) == 0; }
+  const CoreGuard guard_;
+};
+
+TEST_P(Streaming, AsksNothingBelowTheFloor) {
+  for (const Member& m : members()) {
+    if (!chosen(m)) continue;
+    for (auto apply : {kReports[0].apply, kReports[8].apply}) {
+      testcore::reset();
+      apply();
+      Case c = largeCase(m, kFloor - 1, 0);
+      ASSERT_LT(int64_t{c.roi.width} * c.roi.height * bytesMoved(m), kFloor);
+      ASSERT_NO_FATAL_FAILURE(expectEqualToModel(m, c, "none expected"));
+      EXPECT_EQ(testcore::counts().cacheQueries, 0) << describe(m, c);
+    }
+  }
+}
+
+TEST_P(Streaming, LargeImagesEqualTheModelWhateverTheCache) {
+  constexpr int64_t sizes[] = {kFloor,     kFloor + 64,       2 * kFloor - 1, 2 * kFloor, 2 * kFloor + 4096,
+                               6 * kFloor, 6 * kFloor + 50000};
+  for (const Member& m : members()) {
+    if (!chosen(m)) continue;
+    Random random(mixSeed(settings().seed, m.name, -1));
+    for (int i = 0; i < settings().scaled(6); ++i) {
+      const CacheReport& report = i % 2 == 0 ? kReports[0] : kReports[random.below(std::size(kReports))];
+      report.apply();
+      const Case c = largeCase(m, sizes[random.below(std::size(sizes))], i + 1);
+      ASSERT_NO_FATAL_FAILURE(expectEqualToModel(m, c, report.about));
+    }
+    EXPECT_EQ(testcore::counts().allocations, 0) << m.name;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, Streaming,
+                         testing::Values("lumiSet_8u", "lumiSet_16s", "lumiSet_16u", "lumiSet_32s",
+                                         "lumiSet_32f", "lumiCopy_8u", "lumiCopy_16s", "lumiCopy_16u",
+                                         "lumiCopy_32s", "lumiCopy_32f", "lumiCopyManaged", "lumiDup"),
+                         [](const auto& each) { return std::string(each.param); });
+
+}  // namespace
+}  // namespace test

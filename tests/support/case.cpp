@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include "support/case.hpp"
+
+#include <climits>
+#include <sstream>
+#include <vector>
+
+namespace test {
+namespace {
+
+const std::vector<int>& widths() {
+  static const std::vector<int> list = [] {
+    std::vector<int> all;
+    for (int w = 1; w <= 70; ++w) all.push_back(w);
+    for (int w : {95, 96, 97, 127, 128, 129, 130, 255, 256, 257, 258, 511, 512, 513, 514, 997, 1000})
+      all.push_back(w);
+    return all;
+  }();
+  return list;
+}
+constexpr int kHeights[] = {1, 2, 3, 5};
+
+int anyStep(Random& random, int tight, int height) {
+  if (tight == 0) return 0;  // there is no such image
+  constexpr int extremes[] = {INT_MIN, INT_MIN + 1, -1, 0, 1, INT_MAX - 1, INT_MAX};
+  if (height == 1 && random.oneIn(4)) return random.pick(extremes);
+  const auto length = [&] {
+    switch (random.below(6)) {
+      case 0:
+        return tight;
+      case 1:
+        return (tight + 63) / 64 * 64;
+      case 2:
+        return tight + 16 * random.between(1, 4);
+      case 3:
+        return tight + random.between(1, 37);
+      case 4:
+        return 0;
+      default:
+        return random.between(1, tight);  // rows overlap
+    }
+  };
+  const int step = length();
+  return random.oneIn(4) ? -step : step;
+}
+
+// Rows of one image that do not overlap.
+int separateStep(Random& random, int tight) {
+  const int step = tight + (random.oneIn(2) ? 0 : random.between(1, 37));
+  return random.oneIn(4) ? -step : step;
+}
+
+Placement anyPlacement(Random& random, int phase) {
+  switch (random.below(5)) {
+    case 0:
+    case 1:
+      return {Placement::End, 0, 0};
+    case 2:
+      return {Placement::Start, 0, 0};
+    default:
+      return {Placement::Phase, phase, random.below(64)};
+  }
+}
+
+const char* text(Overlap overlap) {
+  switch (overlap) {
+    case Overlap::Apart:
+      return "apart";
+    case Overlap::SameImage:
+      return "same image";
+    default:
+      return "other channel";
+  }
+}
+
+const char* text(MaskKind kind) {
+  constexpr const char* names[] = {"all zero", "all one", "any non-zero", "high bits", "dense",
+                                   "half",     "sparse",  "single pixel", "runs"};
+  return names[static_cast<int>(kind)];
+}
+
+std::string text(const Placement& p) {
+  switch (p.kind) {
+    case Placement::End:
+      return "flush at the end";
+    case Placement::Start:
+      return "flush at the start";
+    default:
+      return "phase " + std::to_string(p.phase) + " line " + std::to_string(p.line);
+  }
+}
+
+void describeImage(std::ostream& out, const char* role, const Operand& operand, int step,
+                   const Placement* places) {
+  if (operand.planes == 0) return;
+  out << "\n  " << role << ": step " << step << ", " << operand.pixelBytes << " bytes a pixel";
+  for (int p = 0; p < operand.planes; ++p) out << (p ? "; " : ", ") << text(places[p]);
+}
+
+}  // namespace
+
+int caseRound() { return static_cast<int>(widths().size() * std::size(kHeights)); }
+
+Case makeCase(const Member& member, uint64_t seed, int index) {
+  Random random(mixSeed(seed, member.name, index));
+  Case c;
+  c.index = index;
+  c.contents = random.next();
+  const int widthCount = static_cast<int>(widths().size());
+  c.roi.width = widths()[static_cast<size_t>(index % widthCount)];
+  c.roi.height = kHeights[index / widthCount % static_cast<int>(std::size(kHeights))];
+
+  const int srcTight = c.roi.width * member.src.pixelBytes, dstTight = c.roi.width * member.dst.pixelBytes;
+  const bool allTight = random.oneIn(3);
+  c.srcStep = allTight ? srcTight : anyStep(random, srcTight, c.roi.height);
+  c.dstStep = allTight ? dstTight : anyStep(random, dstTight, c.roi.height);
+  c.maskStep = allTight ? c.roi.width : anyStep(random, c.roi.width, c.roi.height);
+
+  // The destination's phase takes every value in turn; the source's is any.
+  for (int p = 0; p < kMaxPlanes; ++p) {
+    c.dst[p] = anyPlacement(random, (index + p * 16 + p * random.below(64)) % 64);
+    c.src[p] = anyPlacement(random, random.below(64));
+  }
+  c.mask = anyPlacement(random, random.below(64));
+  c.maskKind = random.pick(kMaskKinds);
+  c.flags = random.below(1 << member.flagBits);
+  c.valuesInDst = member.values > 1 && random.oneIn(8);
+  c.valuesPhase = random.oneIn(2) ? 0 : random.below(64);
+
+  if (member.aliasing != Aliasing::None && random.oneIn(8)) {
+    c.overlap = Overlap::SameImage;
+    c.srcStep = c.dstStep;
+  } else if (member.aliasing == Aliasing::OtherChannel && random.oneIn(4)) {
+    const int channels = member.dst.pixelBytes / member.sampleBytes;
+    c.overlap = Overlap::OtherChannel;
+    c.srcChannel = random.below(channels);
+    c.dstChannel = (c.srcChannel + random.between(1, channels - 1)) % channels;
+    c.srcStep = c.dstStep = separateStep(random, dstTight);
+  }
+  return c;
+}
+
+std::string describe(const Member& member, const Case& c) {
+  std::ostringstream out;
+  out << member.name << " case " << c.index << ": " << c.roi.width << " x " << c.roi.height;
+  if (member.src.planes) out << ", source and destination " << text(c.overlap);
+  if (c.overlap == Overlap::OtherChannel) out << " (" << c.srcChannel << " to " << c.dstChannel << ")";
+  if (member.flagBits) out << ", flags " << c.flags;
+  if (member.values > 1) {
+    out << ", values " << (c.valuesInDst ? "inside the destination" : "") << c.valuesPhase;
+    if (!c.valuesInDst) out << " bytes before the end";
+  }
+  describeImage(out, "source", member.src, c.srcStep, c.src);
+  describeImage(out, "destination", member.dst, c.dstStep, c.dst);
+  if (member.masked)
+    out << "\n  mask: " << text(c.maskKind) << ", step " << c.maskStep << ", " << text(c.mask);
+  return out.str();
+}
+
+}  // namespace test

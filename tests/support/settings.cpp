@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#include "support/settings.hpp"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace test {
+
+int Settings::scaled(int cases) const { return std::max(1, static_cast<int>(cases * caseFactor)); }
+
+const Settings& settings() {
+  static const Settings it = [] {
+    const char* seed = std::getenv("LUMI_TEST_SEED");
+    const char* factor = std::getenv("LUMI_TEST_CASES");
+    const char* only = std::getenv("LUMI_TEST_CASE");
+    return Settings{seed ? std::strtoull(seed, nullptr, 0) : 20240229u, factor ? std::atof(factor) : 1.0,
+                    only ? std::atoi(only) : -1};
+  }();
+  return it;
+}
+
+}  // namespace test

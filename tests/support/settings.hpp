@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+// What the environment sets:
+//   LUMI_TEST_SEED   seed of every random choice
+//   LUMI_TEST_CASES  factor on the number of cases of each export, 1 by default
+//   LUMI_TEST_CASE   runs the case of this index alone, to look into a failure
+#pragma once
+
+#include <cstdint>
+
+namespace test {
+
+struct Settings {
+  uint64_t seed;
+  double caseFactor;
+  int onlyCase;  // -1: all
+
+  int scaled(int cases) const;
+};
+
+const Settings& settings();
+
+}  // namespace test

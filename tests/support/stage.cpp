@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: MIT
+#include "support/stage.hpp"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <sstream>
+
+#include "support/fault.hpp"
+
+namespace test {
+namespace {
+
+constexpr ptrdiff_t kMargin = 160;       // bytes around an image that are filled anew for each case
+constexpr size_t kPlacementRoom = 8192;  // what a phase and its line add to an image
+
+// The bytes of an image, relative to its first pixel.
+struct Extent {
+  ptrdiff_t low, high;
+
+  Extent(int step, int rowBytes, int rows) {
+    const ptrdiff_t last = rows > 1 ? static_cast<ptrdiff_t>(step) * (rows - 1) : 0;
+    low = std::min<ptrdiff_t>(0, last);
+    high = std::max<ptrdiff_t>(0, last) + rowBytes;
+  }
+};
+
+Byte nonZero(Random& random) { return static_cast<Byte>(random.between(1, 255)); }
+
+void fillMaskRow(Byte* row, int width, MaskKind kind, Random& random) {
+  constexpr Byte high[] = {0x80, 0x7f, 0x81, 0xff, 0x00, 0x02};
+  int run = 0;
+  bool on = false;
+  const int single = random.below(width);
+  for (int x = 0; x < width; ++x) {
+    switch (kind) {
+      case MaskKind::Zero:
+        row[x] = 0;
+        break;
+      case MaskKind::Ones:
+        row[x] = 1;
+        break;
+      case MaskKind::AnyNonZero:
+        row[x] = nonZero(random);
+        break;
+      case MaskKind::HighBits:
+        row[x] = random.pick(high);
+        break;
+      case MaskKind::Dense:
+        row[x] = random.oneIn(16) ? Byte{0} : nonZero(random);
+        break;
+      case MaskKind::Half:
+        row[x] = random.oneIn(2) ? Byte{0} : nonZero(random);
+        break;
+      case MaskKind::Sparse:
+        row[x] = random.oneIn(16) ? nonZero(random) : Byte{0};
+        break;
+      case MaskKind::SinglePixel:
+        row[x] = x == single ? nonZero(random) : Byte{0};
+        break;
+      case MaskKind::Runs:
+        if (run-- == 0) {
+          run = random.below(48);
+          on = !on;
+        }
+        row[x] = on ? nonZero(random) : Byte{0};
+    }
+  }
+}
+
+}  // namespace
+
+Stage::Stage(size_t largestImage) {
+  const auto add = [this](size_t bytes) {
+    arenas_.push_back(std::make_unique<Arena>(bytes));
+    return arenas_.back().get();
+  };
+  for (auto& arena : src_) arena = add(largestImage + kPlacementRoom);
+  for (auto& arena : dst_) arena = add(largestImage + kPlacementRoom);
+  mask_ = add(largestImage + kPlacementRoom);
+  values_ = add(1);
+  planes_ = add(1);
+}
+
+Stage::Placed Stage::place(std::string role, const Arena& arena, const Placement& where, int step,
+                           LumiSize roi, const Operand& operand) const {
+  const int rowBytes = (roi.width - 1) * operand.pixelBytes + operand.lastPixelBytes;
+  const Extent extent(step, rowBytes, roi.height);
+  Byte* first = nullptr;
+  switch (where.kind) {
+    case Placement::End:
+      first = arena.end() - extent.high;
+      break;
+    case Placement::Start:
+      first = arena.begin() - extent.low;
+      break;
+    case Placement::Phase: {
+      const ptrdiff_t lines = (kMargin - extent.low + 63) / 64 + where.line;
+      first = arena.begin() + lines * 64 + where.phase;
+    }
+  }
+  Byte *low = first + extent.low, *high = first + extent.high;
+  if (low < arena.begin() || high > arena.end()) {
+    std::fprintf(stderr, "%s does not fit into its arena\n", role.c_str());
+    std::abort();
+  }
+  return {std::move(role),
+          &arena,
+          first,
+          step,
+          rowBytes,
+          roi.height,
+          std::max(low - kMargin, arena.begin()),
+          std::min(high + kMargin, arena.end())};
+}
+
+void Stage::placeImages(const Member& member, const Case& c, Call& call) {
+  Operand dst = member.dst;
+  ptrdiff_t srcFromDst = 0;
+  if (c.overlap == Overlap::OtherChannel) {
+    // One image that begins with the lower of the two samples and ends with the higher one.
+    srcFromDst = static_cast<ptrdiff_t>(c.srcChannel - c.dstChannel) * member.sampleBytes;
+    dst.lastPixelBytes += static_cast<int>(std::abs(srcFromDst));
+  }
+  for (int p = 0; p < dst.planes; ++p) {
+    placed_.push_back(place("destination", *dst_[p], c.dst[p], c.dstStep, c.roi, dst));
+    call.dst[p] = placed_.back().first + std::max<ptrdiff_t>(0, -srcFromDst);
+    if (c.overlap != Overlap::Apart) call.src[p] = call.dst[p] + srcFromDst;
+  }
+  if (c.overlap == Overlap::Apart)
+    for (int p = 0; p < member.src.planes; ++p) {
+      placed_.push_back(place("source", *src_[p], c.src[p], c.srcStep, c.roi, member.src));
+      call.src[p] = placed_.back().first;
+    }
+  if (member.masked) {
+    placed_.push_back(place("mask", *mask_, c.mask, c.maskStep, c.roi, Operand::pixels(1, 1)));
+    call.mask = placed_.back().first;
+  }
+  if (member.planar()) {
+    Byte* const* pointers = member.src.planes > 1 ? call.src : call.dst;
+    const size_t bytes = sizeof(Byte*) * static_cast<size_t>(std::max(member.src.planes, member.dst.planes));
+    call.planes = planes_->end() - bytes;
+    std::memcpy(call.planes, pointers, bytes);
+  }
+}
+
+void Stage::placeValues(const Member& member, const Case& c, Call& call, Random& random) {
+  if (member.values == 0) return;
+  const int bytes = member.values * member.sampleBytes;
+  const Placed& dst = placed_.front();
+  if (c.valuesInDst && dst.rowBytes >= bytes) {
+    call.values = dst.first + random.below(dst.rowBytes - bytes + 1);
+    return;
+  }
+  Byte* values = values_->end() - bytes - c.valuesPhase;
+  random.fill(values, static_cast<size_t>(bytes));
+  // A caller's float register may quiet a signalling NaN that is passed by value.
+  if (member.values == 1 && member.sampleBytes == 4 && (values[3] & 0x7f) == 0x7f) values[2] |= 0x40;
+  call.values = values;
+  placed_.push_back({"values", values_, values, 0, bytes, 1, values_->begin(), values_->end()});
+}
+
+void Stage::fillMask(const Call& call, MaskKind kind, Random& random) const {
+  for (int y = 0; y < call.roi.height; ++y)
+    fillMaskRow(call.maskImage().row(y), call.roi.width, kind, random);
+}
+
+Byte* Stage::twin(const Byte* at) const {
+  for (const auto& arena : arenas_)
+    if (arena->holds(at)) return arena->twin(at);
+  return nullptr;
+}
+
+Call Stage::onTwins(const Member& member, const Call& call) const {
+  Call result = call;
+  for (int p = 0; p < member.src.planes; ++p) result.src[p] = twin(call.src[p]);
+  for (int p = 0; p < member.dst.planes; ++p) result.dst[p] = twin(call.dst[p]);
+  if (call.mask) result.mask = twin(call.mask);
+  if (call.values) result.values = twin(call.values);
+  result.planes = nullptr;
+  return result;
+}
+
+std::optional<std::string> Stage::run(const Member& member, const Case& c) {
+  Random random(c.contents);
+  Call call;
+  call.roi = c.roi;
+  call.srcStep = c.srcStep;
+  call.dstStep = c.dstStep;
+  call.maskStep = c.maskStep;
+  call.flags = c.flags;
+  placed_.clear();
+  placeImages(member, c, call);
+  for (const Placed& p : placed_) random.fill(p.low, static_cast<size_t>(p.high - p.low));
+  if (member.masked) fillMask(call, c.maskKind, random);
+  placeValues(member, c, call, random);
+  for (const Placed& p : placed_) p.arena->copyToTwin(p.low, p.high);
+
+  member.model(onTwins(member, call));
+  LumStatus status = 0;
+  if (const auto fault = faultOf([&] { status = member.run(call); })) {
+    makeEqual();
+    return "memory fault, " + where(fault->address);
+  }
+  if (status != lumStatusOk) return "status " + std::to_string(status);
+  auto failure = compare(member);
+  if (failure) makeEqual();
+  return failure;
+}
+
+std::optional<std::string> Stage::compare(const Member& member) const {
+  for (const Placed& p : placed_) {
+    const Byte* at = p.arena->firstDifference(p.low, p.high);
+    if (!at) continue;
+    std::ostringstream out;
+    out << p.role << ": byte " << at - p.first << " from the first pixel is " << int{*at} << ", not "
+        << int{*p.arena->twin(at)};
+    const bool isImage = p.role == "source" || p.role == "destination";
+    const int pixelBytes = !isImage ? 1 : p.role == "source" ? member.src.pixelBytes : member.dst.pixelBytes;
+    bool inside = false;
+    for (int y = 0; y < p.rows && !inside; ++y) {
+      const ptrdiff_t x = at - (p.first + static_cast<ptrdiff_t>(p.step) * (p.rows > 1 ? y : 0));
+      inside = x >= 0 && x < p.rowBytes;
+      if (inside) out << " (row " << y << ", column " << x / pixelBytes << ", byte " << x % pixelBytes << ")";
+    }
+    if (!inside) out << " (outside every row)";
+    return out.str();
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> Stage::compareEverything() const {
+  for (const auto& arena : arenas_) {
+    if (arena.get() == planes_) continue;
+    if (const Byte* at = arena->firstDifference(arena->begin(), arena->end()))
+      return "a byte far from the images changed, " + std::to_string(at - arena->begin()) +
+             " bytes into an arena";
+  }
+  return std::nullopt;
+}
+
+std::string Stage::where(const void* fault) const {
+  const auto* at = static_cast<const Byte*>(fault);
+  if (!at) return "no address told: a misaligned vector access or a wild pointer";
+  const auto guard = static_cast<ptrdiff_t>(Arena::pageBytes());
+  for (const Placed& p : placed_) {
+    if (at >= p.arena->end() && at < p.arena->end() + guard)
+      return std::to_string(at - p.arena->end() + 1) + " bytes past the accessible memory of the " + p.role;
+    if (at < p.arena->begin() && at >= p.arena->begin() - guard)
+      return std::to_string(p.arena->begin() - at) + " bytes before the accessible memory of the " + p.role;
+  }
+  return "far from every image";
+}
+
+void Stage::makeEqual() const {
+  for (const auto& arena : arenas_) arena->copyToTwin(arena->begin(), arena->end());
+}
+
+}  // namespace test

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "support/arena.hpp"
+#include "support/case.hpp"
+
+namespace test {
+
+// The guarded memory in which members are run and compared with their models, reused from case to case.
+class Stage {
+ public:
+  explicit Stage(size_t largestImage);
+
+  // Runs the member and its model; what went wrong, or nothing.
+  std::optional<std::string> run(const Member& member, const Case& c);
+
+  // Whether every byte of every arena, far from the images too, is as the models left it.
+  std::optional<std::string> compareEverything() const;
+
+ private:
+  // An image in its arena, and the bytes around it that are filled and watched.
+  struct Placed {
+    std::string role;
+    const Arena* arena;
+    Byte* first;
+    int step, rowBytes, rows;
+    Byte *low, *high;
+  };
+
+  Placed place(std::string role, const Arena& arena, const Placement& where, int step, LumiSize roi,
+               const Operand& operand) const;
+  void placeImages(const Member& member, const Case& c, Call& call);
+  void placeValues(const Member& member, const Case& c, Call& call, Random& random);
+  void fillMask(const Call& call, MaskKind kind, Random& random) const;
+  Call onTwins(const Member& member, const Call& call) const;
+  Byte* twin(const Byte* at) const;
+  std::optional<std::string> compare(const Member& member) const;
+  std::string where(const void* fault) const;
+  void makeEqual() const;
+
+  std::vector<std::unique_ptr<Arena>> arenas_;
+  Arena *src_[kMaxPlanes], *dst_[kMaxPlanes], *mask_, *values_, *planes_;
+  std::vector<Placed> placed_;
+};
+
+}  // namespace test
