@@ -58,7 +58,7 @@ LumStatus duplicatePlane(const T* src, int srcStep, T* dst, int dstStep, LumiSiz
 // What a split or merge moves against what the cache holds. Samples of 32 bits follow the rule of every
 // operation; the narrower ones have limits of their own.
 constexpr int64_t kSplitFloor = 0x600000;
-constexpr size_t kMergeWidth = 512;
+constexpr int kMergeWidth = 512;
 
 template <typename T>
 bool streamsSplit(int64_t bytes, bool tight) {
@@ -69,9 +69,9 @@ bool streamsSplit(int64_t bytes, bool tight) {
 }
 
 template <typename T>
-bool streamsMerge(int64_t bytes, size_t pixels) {
+bool streamsMerge(int64_t bytes, int width) {
   if (sizeof(T) == 4) return streamsOperation(bytes);
-  if (pixels < kMergeWidth) return false;
+  if (width < kMergeWidth || bytes <= kStreamingFloor) return false;
   const int64_t cache = reportedCache();
   return cache > 0 && bytes > cache / 2;
 }
@@ -109,7 +109,7 @@ LumStatus mergePlanes(const T* const* src, int srcStep, T* dst, int dstStep, Lum
   const Extent extent =
       fuse(roi, isTight(srcStep, roi.width, sizeof(T)), isTight(dstStep, roi.width, pixelBytes));
   const bool streaming =
-      allAligned(dstStep, dst) && streamsMerge<T>(bytesMoved(roi, 2 * pixelBytes), extent.pixels);
+      allAligned(dstStep, dst) && streamsMerge<T>(bytesMoved(roi, 2 * pixelBytes), roi.width);
   walkRows(
       extent.height,
       [&](const auto& s, Byte* d) { mergeRow<sizeof(T), channels>(s.data(), d, extent.pixels, streaming); },
