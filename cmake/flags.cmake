@@ -3,7 +3,7 @@
 
 add_library(lumi_warnings INTERFACE)
 target_compile_options(lumi_warnings INTERFACE
-  -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion -Wcast-qual -Wundef
+  -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion -Wno-sign-conversion -Wcast-qual -Wundef
   -Wformat=2 -Wvla
   $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wextra-semi>)
 
@@ -15,7 +15,9 @@ target_compile_options(lumi_level INTERFACE
   $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-mno-avx256-split-unaligned-load -mno-avx256-split-unaligned-store>
   $<$<COMPILE_LANGUAGE:CXX>:-fno-exceptions -fno-rtti>)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
-  target_compile_options(lumi_level INTERFACE $<$<COMPILE_LANGUAGE:C,CXX>:-mstackrealign>)
+  target_compile_options(lumi_level INTERFACE $<$<COMPILE_LANGUAGE:C,CXX>:-mstackrealign>
+    # Clang would still read several arguments at once with an aligned load.
+    $<$<COMPILE_LANG_AND_ID:CXX,Clang>:-mstack-alignment=4>)
 endif()
 
 # The same bytes from any folder.

@@ -19,7 +19,7 @@ ALLOWED_LIBRARIES = {"liblumcore.so.1", "libc.so.6", "libm.so.6", "libstdc++.so.
 YMM_AT_LEVEL = re.compile(
     r"v(mov(a|u|nt)p[sd]|movdq[au]|movntdq|mov(s[hl]dup|ddup|mskp[sd])"
     r"|(add|sub|mul|div|min|max|and|andn|or|xor|sqrt|hadd|hsub|addsub|unpckl|unpckh|shuf|round|blend|blendv"
-    r"|permil|test)p[sd]|cmp\w*p[sd]|dpps|rcpps|rsqrtps|cvt\w+|ptest|perm2f128|insertf128|extractf128"
+    r"|permil|test|maskmov)p[sd]|cmp\w*p[sd]|dpps|rcpps|rsqrtps|cvt\w+|ptest|perm2f128|insertf128|extractf128"
     r"|broadcast(f128|ss|sd)|zeroall|zeroupper)$")
 ABOVE_LEVEL = re.compile(
     r"(vf(n?m(add|sub)|maddsub|msubadd)\w*|vp?gather\w*|vpbroadcast\w*|vbroadcasti\w*|v(insert|extract|perm2)i128"
