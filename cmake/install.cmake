@@ -20,6 +20,7 @@ install(FILES ${PROJECT_BINARY_DIR}/lumiConfig.cmake ${PROJECT_BINARY_DIR}/lumiC
 # Paths in the .pc files are relative to the folder that they are found in.
 file(RELATIVE_PATH LUMI_PC_PREFIX ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 file(RELATIVE_PATH LUMI_PC_INCLUDE ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_FULL_INCLUDEDIR})
+string(REGEX REPLACE "/$" "" LUMI_PC_PREFIX "${LUMI_PC_PREFIX}")
 foreach(name lumi lumcore)
   configure_file(cmake/${name}.pc.in ${PROJECT_BINARY_DIR}/${name}.pc @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """Each public header compiles alone, in C99 and C++17, without a warning, and defines only its guard."""
 import argparse
+import os
 import pathlib
 import re
 import shutil
@@ -20,6 +21,12 @@ def compile_text(command, text):
     return done.returncode == 0, done.stdout, done.stderr
 
 
+def present(*names):
+    """Those of the compilers that are installed, each of them once."""
+    paths = [shutil.which(name) for name in names]
+    return list({os.path.realpath(path): path for path in paths if path}.values())
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     for name in ("root", "cc", "cxx"):
@@ -31,13 +38,12 @@ def main():
     headers = [file.relative_to(folder) for folder in folders for file in sorted(folder.rglob("*.h"))]
     if len(headers) < 8:
         sys.exit(f"only {len(headers)} headers found")
-    compilers = {"c": {shutil.which(c) for c in (args.cc, "gcc", "clang-14")},
-                 "c++": {shutil.which(c) for c in (args.cxx, "g++", "clang++-14")}}
+    compilers = {"c": present(args.cc, "gcc", "clang-14"), "c++": present(args.cxx, "g++", "clang++-14")}
     paths = [f"-I{folder}" for folder in folders] + [{4: "-m32", 8: "-m64"}[args.word_size]]
 
     failures = 0
     for language, flags in LANGUAGES.items():
-        for compiler in sorted(compilers[language] - {None}):
+        for compiler in compilers[language]:
             base = [compiler, *flags, *paths]
             _, known, _ = compile_text([*base, "-dM", "-E"], "#include <stdint.h>\n")
             for header in headers:
