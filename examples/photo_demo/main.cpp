@@ -2,14 +2,17 @@
 // photo_demo [picture.png|picture.jpg|-] [folder]
 // Works on a photo by calls of lumi, tells what each of them takes, and writes the results as PNG files with
 // a sheet that shows them all. Without a picture, or with "-", it draws a scene of its own.
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
 #include <iomanip>
 #include <new>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <system_error>
+#include <vector>
 
 #include "panels.hpp"
 #include "picture_file.hpp"
@@ -51,9 +54,9 @@ Colour thumbnail(const AnyImage& image) {
 }
 
 void createFolder(const fs::path& folder) {
-  std::error_code error;
+  std::error_code error, ignored;
   fs::create_directories(folder, error);
-  if (!fs::is_directory(folder)) {
+  if (!fs::is_directory(folder, ignored)) {
     const std::string why = error ? error.message() : "a file of this name exists";
     throw std::runtime_error("cannot create folder '" + folder.string() + "': " + why);
   }

@@ -2,6 +2,8 @@
 #include "panels.hpp"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 #include "shapes.hpp"
 

@@ -4,11 +4,13 @@
 #include <stb/stb_image.h>
 #include <stb/stb_image_write.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <stdexcept>
+#include <system_error>
 
 #include "calls.hpp"
 
@@ -23,17 +25,21 @@ using File = std::unique_ptr<FILE, int (*)(FILE*)>;
 }  // namespace
 
 Colour readPicture(const std::string& path) {
-  if (std::filesystem::is_directory(path)) fail("cannot read", path, "it is a folder");
+  std::error_code ignored;  // what cannot be asked about cannot be opened either
+  if (std::filesystem::is_directory(path, ignored)) fail("cannot read", path, "it is a folder");
   const File file(std::fopen(path.c_str(), "rb"), std::fclose);
   if (!file) fail("cannot open", path, std::strerror(errno));
 
-  constexpr int largestPicture = 40'000'000;  // pixels; a dozen images of it fit into 32-bit memory
+  // Pixels. A dozen images of the largest picture fit into 32-bit memory, and thumbnail steps into an int.
+  constexpr int largestArea = 40'000'000, largestSide = 32'000;
   LumiSize size{};
   int channels = 0;
   if (!stbi_info_from_file(file.get(), &size.width, &size.height, &channels)) {
     fail("cannot read", path, "it is not a PNG or JPEG picture");
   }
-  if (1.0 * size.width * size.height > largestPicture) fail("cannot read", path, "the picture is too large");
+  if (std::max(size.width, size.height) > largestSide || size.width * size.height > largestArea) {
+    fail("cannot read", path, "the picture is too large");
+  }
 
   const std::unique_ptr<stbi_uc, void (*)(void*)> pixels(
       stbi_load_from_file(file.get(), &size.width, &size.height, &channels, 3), stbi_image_free);

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "scene.hpp"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "shapes.hpp"
 #include "text.hpp"

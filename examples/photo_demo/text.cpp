@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "text.hpp"
 
+#include <iterator>
 #include <string_view>
 
 #include "calls.hpp"

@@ -167,13 +167,14 @@ class PhotoDemo(unittest.TestCase):
     def test_bad_pictures(self):
         good = self.picture(40, 30).read_bytes()
         huge = png.SIGNATURE + png.header(20000, 10000, 3) + good[33:]
+        wide = png.SIGNATURE + png.header(100000, 1, 3) + good[33:]
         for name, content, words in (
                 ("empty.png", b"", "not a PNG or JPEG"),
                 ("text.png", b"no picture\n" * 20, "not a PNG or JPEG"),
                 ("picture.bmp", b"BM" + bytes(60), "not a PNG or JPEG"),
                 ("cut.png", good[:len(good) // 2], "damaged"),
                 ("cut.jpg", JPEG[:300], "damaged"),
-                ("huge.png", huge, "too large")):
+                ("huge.png", huge, "too large"), ("wide.png", wide, "too large")):
             with self.subTest(name):
                 (self.folder / name).write_bytes(content)
                 self.expect_error(words, name, self.out)

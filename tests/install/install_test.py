@@ -50,7 +50,7 @@ def check_files(prefix, args):
 
 def configure(args, prefix, build, word_size):
     flag = word_flag(word_size)
-    return [args.cmake, "-S", CONSUMER, "-B", build, "-G", "Ninja", f"-DCMAKE_PREFIX_PATH={prefix}",
+    return [args.cmake, "-S", CONSUMER, "-B", build, "-G", args.generator, f"-DCMAKE_PREFIX_PATH={prefix}",
             f"-DCMAKE_C_COMPILER={args.cc}", f"-DCMAKE_CXX_COMPILER={args.cxx}",
             f"-DCMAKE_C_FLAGS={flag}", f"-DCMAKE_CXX_FLAGS={flag}"]
 
@@ -100,7 +100,7 @@ def check_pkg_config(prefix, folder, args, clean):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
-    for name in ("build", "cmake", "cc", "cxx", "version", "libdir", "includedir"):
+    for name in ("build", "cmake", "generator", "cc", "cxx", "version", "libdir", "includedir"):
         parser.add_argument(f"--{name}", required=True)
     parser.add_argument("--word-size", type=int, required=True)
     parser.add_argument("--pkg-config")
