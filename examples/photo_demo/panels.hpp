@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+// What the demo does with a photo: one panel for each operation that it shows.
+#pragma once
+
+#include <vector>
+
+#include "calls.hpp"
+#include "image.hpp"
+
+struct Panel {
+  const char* file;   // name of the written picture, without number and ending
+  const char* title;  // label on the sheet
+  AnyImage (*make)(const Colour& photo, Calls& calls);
+};
+
+const std::vector<Panel>& panels();
