@@ -10,6 +10,7 @@
 #include "frame/streaming.hpp"
 #include "kernels/copy_channels.hpp"
 #include "kernels/fence.hpp"
+#include "kernels/planes.hpp"
 
 namespace lumi {
 namespace {
@@ -79,7 +80,7 @@ bool streamsMerge(int64_t bytes, int width) {
 // Streaming stores take whole vectors only.
 template <typename... Image>
 bool allAligned(int step, Image... images) {
-  constexpr uintptr_t vector = 16;
+  constexpr uintptr_t vector = 32;
   return ((reinterpret_cast<uintptr_t>(images) | ...) | static_cast<uintptr_t>(step)) % vector == 0;
 }
 

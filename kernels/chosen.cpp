@@ -8,34 +8,47 @@ namespace {
 
 using namespace simd;
 
-// A block is as many pixels as a vector holds samples, and so `stored` vectors.
 template <int sampleBytes, int stored, int used>
 struct Chosen {
-  static constexpr size_t kPixelBytes = sampleBytes * stored, kUsedBytes = sampleBytes * used;
-  static constexpr size_t kBlockPixels = 16 / sampleBytes, kBlockBytes = kBlockPixels * kPixelBytes;
-  // One sample of 32 bits is moved faster alone than blended in.
-  static constexpr bool kBlend = sampleBytes < 4 || used > 1;
-  // A block ends with the last pixel's other channels, which lie outside the image when the chosen
-  // channel is not the first: one pixel must then be left for the tail.
-  static constexpr size_t kReserve = used == 1 ? 1 : 0;
+  static constexpr size_t kVector = sizeof(Bytes32), kPixelBytes = sampleBytes * stored,
+                          kUsedBytes = sampleBytes * used;
+  // `stored` vectors hold a whole number of pixels, whatever the sample.
+  static constexpr size_t kBlockBytes = kVector * stored;
 
-  // 0xFF where a byte is stored.
-  static constexpr auto masks() {
-    std::array<Control, stored> all{};
-    for (size_t i = 0; i < kBlockBytes; ++i) all[i / 16][i % 16] = i % kPixelBytes < kUsedBytes ? 0xFF : 0;
-    return all;
+  struct Masks {
+    alignas(kVector) Byte bytes[kBlockBytes];  // 0xFF where a byte is stored
+  };
+  static constexpr Masks masks() {
+    Masks m{};
+    for (size_t i = 0; i < kBlockBytes; ++i) m.bytes[i] = i % kPixelBytes < kUsedBytes ? 0xFF : 0;
+    return m;
   }
-  static constexpr auto kMasks = masks();
+  static constexpr Masks kMasks = masks();
 
-  static void block(const Byte* src, Byte* dst) {
-    for (size_t k = 0; k < stored; ++k) {
-      const Bytes16 mask = vectorOf(kMasks[k]);
-      store16(dst + 16 * k, merge(load16(dst + 16 * k), load16(src + 16 * k), mask));
-    }
+  // Bytes that vectors may touch. Behind a single chosen sample, the last pixel's other channels may lie
+  // outside the image.
+  static size_t span(size_t pixels) {
+    return pixels * kPixelBytes - (used == 1 ? kPixelBytes - kUsedBytes : 0);
   }
 
-  static void inOrder(const Byte* src, size_t srcPixel, Byte* dst, size_t pixels) {
-    for (size_t i = 0; i < pixels; ++i) move<kUsedBytes>(dst + i * kPixelBytes, src + i * srcPixel);
+  static void blendVector(const Byte* src, Byte* dst, size_t k) {
+    store32(dst, merge(load32(dst), load32(src), load32(kMasks.bytes + kVector * k)));
+  }
+
+  // Blends whole vectors and returns the pixels that are done. A source that stands still is one block.
+  template <bool moving>
+  static size_t blend(const Byte* src, Byte* dst, size_t bytes) {
+    size_t at = 0;
+    for (; at + kBlockBytes <= bytes; at += kBlockBytes)
+      for (size_t k = 0; k < stored; ++k)
+        blendVector(src + (moving ? at : 0) + kVector * k, dst + at + kVector * k, k);
+    for (size_t k = 0; at + kVector <= bytes; ++k, at += kVector)
+      blendVector(src + (moving ? at : kVector * k), dst + at, k);
+    return (at + kPixelBytes - 1) / kPixelBytes;  // no sample lies across the end of a vector
+  }
+
+  static void inOrder(const Byte* src, size_t srcPixel, Byte* dst, size_t from, size_t pixels) {
+    for (size_t i = from; i < pixels; ++i) move<kUsedBytes>(dst + i * kPixelBytes, src + i * srcPixel);
   }
 };
 
@@ -50,12 +63,9 @@ bool overlapByPixels(const Byte* src, const Byte* dst, size_t pixelBytes, size_t
 template <int sampleBytes, int stored, int used>
 void copyChosenRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
   using Row = Chosen<sampleBytes, stored, used>;
-  if (Row::kBlend && !overlapByPixels(src, dst, Row::kPixelBytes, pixels))
-    for (; pixels >= Row::kBlockPixels + Row::kReserve; pixels -= Row::kBlockPixels) {
-      Row::block(src, dst);
-      src += Row::kBlockBytes, dst += Row::kBlockBytes;
-    }
-  Row::inOrder(src, Row::kPixelBytes, dst, pixels);
+  const bool apart = !overlapByPixels(src, dst, Row::kPixelBytes, pixels);
+  const size_t done = apart ? Row::template blend<true>(src, dst, Row::span(pixels)) : 0;
+  Row::inOrder(src, Row::kPixelBytes, dst, done, pixels);
 }
 
 template <int sampleBytes, int stored, int used>
@@ -63,13 +73,9 @@ void fillChosenRow(const void* samples, uint8_t* dst, size_t pixels) {
   using Row = Chosen<sampleBytes, stored, used>;
   const Byte* value = static_cast<const Byte*>(samples);
   Byte block[Row::kBlockBytes] = {};
-  for (size_t i = 0; i < Row::kBlockPixels; ++i)
-    std::memcpy(block + i * Row::kPixelBytes, value, Row::kUsedBytes);
-  for (; Row::kBlend && pixels >= Row::kBlockPixels + Row::kReserve; pixels -= Row::kBlockPixels) {
-    Row::block(block, dst);
-    dst += Row::kBlockBytes;
-  }
-  Row::inOrder(value, 0, dst, pixels);
+  for (size_t i = 0; i < Row::kBlockBytes; i += Row::kPixelBytes)
+    std::memcpy(block + i, value, Row::kUsedBytes);
+  Row::inOrder(value, 0, dst, Row::template blend<false>(block, dst, Row::span(pixels)), pixels);
 }
 
 #define LUMI_CHOSEN(sample, stored, used)                                              \

@@ -90,7 +90,7 @@ bool storesAliasLaterLoads(const Byte* src, const Byte* dst) {
 // move is the fastest copy at every size: ahead of streaming stores beyond the largest cache too (23 to 30
 // against 17 to 24 GB/s). That is why no size asks for the cache here. The move is by dwords, which every
 // processor of the level does in whole lines.
-constexpr size_t kStringMove = 0x6000;
+constexpr size_t kStringMove = 0x7000;
 
 void copyByString(const Byte* src, Byte* dst, size_t bytes) {
   const Bytes32 first = load32(src), last = load32(src + bytes - kVector);

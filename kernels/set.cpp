@@ -25,13 +25,6 @@ void fillShort(const FillPattern& p, Byte* dst, size_t bytes) {
     for (size_t i = 0; i < bytes; ++i) dst[i] = p.bytes[i];
 }
 
-struct Cached {
-  static void store(Byte* p, Bytes32 v) { store32(p, v); }
-};
-struct Streaming {
-  static void store(Byte* p, Bytes32 v) { stream32(p, v); }
-};
-
 // The first vector goes unaligned to the row's start and the last to its end; the loop between them
 // is aligned, and starts at the phase that the head has reached.
 template <typename Store>
@@ -78,6 +71,22 @@ void fillByString(const FillPattern& p, Byte* dst, size_t bytes) {
   asm volatile("rep stosl" : "+D"(to), "+c"(count) : "a"(value) : "memory");
 }
 
+// A pixel in the low bytes of a vector, by way of registers: a vector load would have to wait for the
+// stores of a copy.
+template <int pixelBytes>
+Bytes16 loadPixel(const Byte* pixel) {
+  if constexpr (pixelBytes == 16) {
+    return load16(pixel);
+  } else {
+    uint32_t dwords[3] = {};
+    for (int i = 0; i < 3; ++i)
+      if (4 * i < pixelBytes)
+        std::memcpy(&dwords[i], pixel + 4 * i,
+                    static_cast<size_t>(pixelBytes - 4 * i < 4 ? pixelBytes - 4 * i : 4));
+    return dwordsOf(dwords[0], dwords[1], dwords[2]);
+  }
+}
+
 template <int pixelBytes>
 constexpr Control repeatControl(int vector) {
   Control c{};
@@ -91,12 +100,11 @@ template <int pixelBytes>
 FillPattern makePattern(const void* pixel) {
   static constexpr Control controls[] = {repeatControl<pixelBytes>(0), repeatControl<pixelBytes>(1),
                                          repeatControl<pixelBytes>(2)};
-  alignas(16) Byte once[16] = {};
-  std::memcpy(once, pixel, pixelBytes);
+  const Bytes16 once = loadPixel<pixelBytes>(static_cast<const Byte*>(pixel));
   FillPattern p;
   p.dwords = 4 % pixelBytes == 0;
   for (size_t i = 0; i < sizeof p.bytes / 16; ++i)
-    store16(p.bytes + 16 * i, shuffle(load16(once), vectorOf(controls[i % 3])));
+    store16(p.bytes + 16 * i, shuffle(once, vectorOf(controls[i % 3])));
   return p;
 }
 

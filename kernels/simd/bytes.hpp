@@ -26,6 +26,10 @@ inline Bytes16 streamingLoad16(const Byte* p) {
   return _mm_stream_load_si128(reinterpret_cast<__m128i*>(const_cast<Byte*>(p)));
 }
 
+inline Bytes16 dwordsOf(uint32_t a, uint32_t b, uint32_t c) {
+  return _mm_setr_epi32(static_cast<int>(a), static_cast<int>(b), static_cast<int>(c), 0);
+}
+
 inline Bytes32 load32(const Byte* p) { return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p)); }
 inline void store32(Byte* p, Bytes32 v) { _mm256_storeu_si256(reinterpret_cast<__m256i*>(p), v); }
 // Past the cache; p on a 32-byte boundary.
@@ -66,11 +70,46 @@ inline Bytes16 select(Bytes16 zero, Bytes16 one, Bytes16 mask) { return _mm_blen
 inline Bytes16 isZero(Bytes16 v) { return _mm_cmpeq_epi8(v, _mm_setzero_si128()); }
 inline bool noneSet(Bytes16 v) { return _mm_testz_si128(v, v) != 0; }
 
+// 32-byte vectors have no integer operations at this level; the float ones move and combine bits just
+// as well, and look at no value.
+inline Bytes32 asBytes(__m256 v) { return _mm256_castps_si256(v); }
+inline __m256 asFloats(Bytes32 v) { return _mm256_castsi256_ps(v); }
+
+inline Bytes32 merge(Bytes32 a, Bytes32 b, Bytes32 mask) {
+  return asBytes(_mm256_or_ps(_mm256_andnot_ps(asFloats(mask), asFloats(a)),
+                              _mm256_and_ps(asFloats(mask), asFloats(b))));
+}
+
+inline Bytes16 lowHalf(Bytes32 v) { return _mm256_castsi256_si128(v); }
+inline Bytes16 highHalf(Bytes32 v) { return _mm256_extractf128_si256(v, 1); }
+inline Bytes32 joined(Bytes16 low, Bytes16 high) {
+  return _mm256_insertf128_si256(_mm256_castsi128_si256(low), high, 1);
+}
+// A half of the first vector (0 low, 1 high), then a half of the second.
+template <int a, int b>
+inline Bytes32 halvesOf(Bytes32 first, Bytes32 second) {
+  return _mm256_permute2f128_si256(first, second, a | (b + 2) << 4);
+}
+
+// In each half: dwords a, b, c, d of the half.
+template <int a, int b, int c, int d>
+inline Bytes32 permuteDwords(Bytes32 v) {
+  return asBytes(_mm256_permute_ps(asFloats(v), a | b << 2 | c << 4 | d << 6));
+}
+
 // Dwords of a where the immediate's bit is 0, of b where it is 1.
+template <int which>
+inline Bytes32 mergeDwords(Bytes32 a, Bytes32 b) {
+  return asBytes(_mm256_blend_ps(asFloats(a), asFloats(b), which));
+}
 template <int which>
 inline Bytes16 mergeDwords(Bytes16 a, Bytes16 b) {
   return _mm_castps_si128(_mm_blend_ps(_mm_castsi128_ps(a), _mm_castsi128_ps(b), which));
 }
+
+// The low or the high dwords of two vectors in turn.
+inline Bytes16 unpackLowDwords(Bytes16 a, Bytes16 b) { return _mm_unpacklo_epi32(a, b); }
+inline Bytes16 unpackHighDwords(Bytes16 a, Bytes16 b) { return _mm_unpackhi_epi32(a, b); }
 
 // Half `a` of the first vector (0 low, 1 high), then half `b` of the second.
 template <int a, int b>
@@ -78,18 +117,54 @@ inline Bytes16 mergeHalves(Bytes16 first, Bytes16 second) {
   return _mm_castpd_si128(_mm_shuffle_pd(_mm_castsi128_pd(first), _mm_castsi128_pd(second), a | b << 1));
 }
 
-// Four vectors as the rows of a matrix of dwords.
+// Four vectors as the rows of a matrix of dwords; of 32-byte vectors each half is a matrix of its own.
 struct Dwords4x4 {
   Bytes16 row[4];
+};
+struct TwoDwords4x4 {
+  Bytes32 row[4];
 };
 
 inline Dwords4x4 transposed(const Dwords4x4& m) {
   const Bytes16 low01 = _mm_unpacklo_epi32(m.row[0], m.row[1]),
-                low23 = _mm_unpacklo_epi32(m.row[2], m.row[3]);
-  const Bytes16 high01 = _mm_unpackhi_epi32(m.row[0], m.row[1]),
+                low23 = _mm_unpacklo_epi32(m.row[2], m.row[3]),
+                high01 = _mm_unpackhi_epi32(m.row[0], m.row[1]),
                 high23 = _mm_unpackhi_epi32(m.row[2], m.row[3]);
   return {{_mm_unpacklo_epi64(low01, low23), _mm_unpackhi_epi64(low01, low23),
            _mm_unpacklo_epi64(high01, high23), _mm_unpackhi_epi64(high01, high23)}};
+}
+
+inline TwoDwords4x4 transposed(const TwoDwords4x4& m) {
+  const auto low = [](Bytes32 a, Bytes32 b) {
+    return _mm256_castps_pd(_mm256_unpacklo_ps(asFloats(a), asFloats(b)));
+  };
+  const auto high = [](Bytes32 a, Bytes32 b) {
+    return _mm256_castps_pd(_mm256_unpackhi_ps(asFloats(a), asFloats(b)));
+  };
+  const auto bytes = [](__m256d v) { return _mm256_castpd_si256(v); };
+  const __m256d low01 = low(m.row[0], m.row[1]), low23 = low(m.row[2], m.row[3]);
+  const __m256d high01 = high(m.row[0], m.row[1]), high23 = high(m.row[2], m.row[3]);
+  return {{bytes(_mm256_unpacklo_pd(low01, low23)), bytes(_mm256_unpackhi_pd(low01, low23)),
+           bytes(_mm256_unpacklo_pd(high01, high23)), bytes(_mm256_unpackhi_pd(high01, high23))}};
+}
+
+// How a kernel stores. Streaming destinations are on vector boundaries.
+struct Cached {
+  static void store(Byte* p, Bytes16 v) { store16(p, v); }
+  static void store(Byte* p, Bytes32 v) { store32(p, v); }
+};
+struct Streaming {
+  static void store(Byte* p, Bytes16 v) { stream16(p, v); }
+  static void store(Byte* p, Bytes32 v) { stream32(p, v); }
+};
+
+// Eight pixels of three dwords. In each half, the vectors hold the first, second and third dwords-of-four
+// of four pixels.
+template <typename Store>
+inline void storeThirds(Byte* dst, Bytes32 first, Bytes32 second, Bytes32 third) {
+  Store::store(dst, halvesOf<0, 0>(first, second));
+  Store::store(dst + 32, halvesOf<0, 1>(third, first));
+  Store::store(dst + 64, halvesOf<1, 1>(second, third));
 }
 
 }  // namespace lumi::simd
