@@ -162,13 +162,13 @@ void expectWrapped(const Allocator& a, int width, int height) {
 
 TEST_P(ImageMemory, SizesWrapIn32Bits) {
   const Allocator& a = GetParam();
-  const int halfway = static_cast<int>((int64_t{1} << 31) / a.pixelBytes);  // the row becomes negative
-  const int around = static_cast<int>((int64_t{1} << 32) / a.pixelBytes);   // and returns to small values
-  std::vector<int> widths = {1,       64,      65,          1 << 16,      (1 << 16) + 1,
-                             1 << 30, INT_MAX, INT_MAX - 1, INT_MAX - 63, INT_MAX - 64};
-  for (int near = -2; near <= 2; ++near)
-    for (int wide : {halfway, around})
-      if (int64_t{wide} + near <= INT_MAX && wide + near > 0) widths.push_back(wide + near);
+  const int64_t halfway = (int64_t{1} << 31) / a.pixelBytes;  // the row becomes negative
+  const int64_t around = (int64_t{1} << 32) / a.pixelBytes;   // and returns to small values
+  std::vector<int> widths = {1,       64,          65,           1 << 16,      (1 << 16) + 1,
+                             1 << 30, INT_MAX - 1, INT_MAX - 63, INT_MAX - 64, INT_MAX};
+  for (int64_t wide : {halfway, around})
+    for (int64_t near = wide - 2; near <= wide + 2; ++near)
+      if (near <= INT_MAX) widths.push_back(static_cast<int>(near));
   for (int width : widths)
     for (int height : {1, 2, 3, 1 << 15, 1 << 16, (1 << 16) + 1, 1 << 25, 1 << 26, 1 << 30, INT_MAX})
       expectWrapped(a, width, height);

@@ -7,9 +7,10 @@
 namespace test {
 namespace {
 
-sigjmp_buf resume;
-volatile sig_atomic_t watching = 0;
-const void* volatile faultAddress = nullptr;
+// The kernel gives the signal to the thread that made the access.
+thread_local sigjmp_buf resume;
+thread_local volatile sig_atomic_t watching = 0;
+thread_local const void* volatile faultAddress = nullptr;
 
 void onFault(int signal, siginfo_t* info, void*) {
   if (!watching) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <set>
 
@@ -13,7 +14,7 @@
 namespace test {
 namespace {
 
-constexpr int kRounds = 40;
+constexpr int kRounds = 60;  // of caseRound() cases each
 
 std::vector<Member>& added() {
   static std::vector<Member> list;

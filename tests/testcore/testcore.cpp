@@ -26,6 +26,7 @@ struct State {
   testcore::Counts counts{};
   int32_t lastRequest = 0;
   std::map<void*, void*> raw;  // block handed out, allocation that holds it
+  int64_t olderBlocks = 0;     // live ones at the last reset
 };
 
 State& state() {
@@ -46,7 +47,7 @@ namespace testcore {
 Counts counts() {
   std::lock_guard lock(state().mutex);
   Counts now = state().counts;
-  now.liveBlocks = static_cast<int64_t>(state().raw.size());
+  now.liveBlocks = static_cast<int64_t>(state().raw.size()) - state().olderBlocks;
   return now;
 }
 
@@ -60,6 +61,7 @@ void reset() {
   state().behaviour = {};
   state().counts = {};
   state().lastRequest = 0;
+  state().olderBlocks = static_cast<int64_t>(state().raw.size());
 }
 
 void failAllocation(int n) {

@@ -18,7 +18,7 @@ struct Counts {
 Counts counts();
 int32_t lastRequest();  // size that lumMalloc was asked for last
 
-// Behaves like a proper lumcore from now on, and counts from zero; live blocks stay counted.
+// Behaves like a proper lumcore from now on, and counts from zero: blocks of before are not counted as live.
 void reset();
 
 // The n-th allocation from now fails: 1 is the next one, 0 none.
