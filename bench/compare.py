@@ -17,7 +17,6 @@ HELD = {
     "OPENCV_CPU_DISABLE": "FP16,FMA3,AVX2,AVX512-SKX",
     "GLIBC_TUNABLES": "glibc.cpu.hwcaps=-AVX2,-AVX512F,-AVX512VL,-AVX512BW,-AVX512CD,-AVX512DQ",
 }
-NOT_PEERS = ("ours", "limit")
 # Rows of the compact table.
 SELECTED = ("fill 8u C1", "fill 8u C3", "fill masked 8u C1", "copy 8u C1", "copy 32f C1", "copy masked 8u C1",
             "copy masked 8u C3", "split 8u C3P3", "merge 8u P3C3", "channel 8u C3C1", "colour 8u AC4C3")
@@ -37,8 +36,7 @@ def run(program, options, held):
 
 def peers(row):
     """Times of the peers that did the same work, best first."""
-    allowed = {name: ns for name, ns in row["ns"].items()
-               if name not in NOT_PEERS and row["differs"].get(name) != ""}
+    allowed = {name: ns for name, ns in row["ns"].items() if name != "ours" and row["differs"].get(name) != ""}
     return sorted(allowed.items(), key=lambda item: item[1])
 
 
@@ -56,13 +54,12 @@ def merge(held, native):
     merged = []
     for row, native_row in zip(held["rows"], native["rows"]):
         pixels = row["width"] * row["height"]
-        ours, native_ours = row["ns"]["ours"], native_row["ns"]["ours"]
+        ours = row["ns"]["ours"]
         merged.append({
             "family": row["family"], "name": row["name"], "size": f'{row["width"]}x{row["height"]}',
             "bytes": row["bytes"], "ours": ours / pixels, "gbps": row["bytes"] / ours,
             "held": against(row), "native": against(native_row),
-            # The native run's limit: what the machine gives to whoever takes it.
-            "share": native_row["ns"]["limit"] / native_ours,
+            "share": native_row["limit"] / native_row["ns"]["ours"],
             "times": {"held": row["ns"], "native": native_row["ns"]},
             "differs": {**row["differs"], **native_row["differs"]},
         })

@@ -66,7 +66,8 @@ struct Timing {
 
 struct Result {
   double bytes;
-  std::vector<Timing> timings;  // ours first, the memory limit ("limit") last
+  double limitNanoseconds;      // of the same traffic without any work
+  std::vector<Timing> timings;  // ours first
 };
 
 // One row at one size: its images, our call and the peers'.

@@ -48,8 +48,9 @@ std::vector<Library> libraries() {
 void print(const Suite::Row& row, LumiSize size, const Result& result, bool isFirst) {
   std::printf(
       "%s\n    {\"family\": \"%s\", \"name\": \"%s\", \"width\": %d, \"height\": %d, \"bytes\": %.0f, "
-      "\"ns\": {",
-      isFirst ? "" : ",", row.family.c_str(), row.name.c_str(), size.width, size.height, result.bytes);
+      "\"limit\": %.2f, \"ns\": {",
+      isFirst ? "" : ",", row.family.c_str(), row.name.c_str(), size.width, size.height, result.bytes,
+      result.limitNanoseconds);
   const char* separator = "";
   for (const Timing& timing : result.timings) {
     std::printf("%s\"%s\": %.2f", separator, timing.name.c_str(), timing.nanoseconds);
@@ -66,7 +67,7 @@ void print(const Suite::Row& row, LumiSize size, const Result& result, bool isFi
   std::fflush(stdout);
 }
 
-// The library must not be compared with peers that are above the level they are said to be held to.
+// What the peers themselves say of the instructions they will use.
 bool isHeld() {
   bool held = true;
   for (const Library& library : libraries()) {

@@ -43,6 +43,15 @@ Peer fillChannel(Image<T> dst, T value) {
   });
 }
 
+// Both loads come before the choice, so that no branch is needed and vectors can be used.
+template <int C, typename T>
+void choose(T* kept, const T* taken, Lum8u mask) {
+  for (int c = 0; c < C; ++c) {
+    const T keep = kept[c], take = taken[c];
+    kept[c] = mask != 0 ? take : keep;
+  }
+}
+
 template <int C, typename T>
 Peer fillMasked(Image<T> dst, Value value, Image<Lum8u> mask) {
   const auto pixel = samples<C, T>(value);
@@ -50,10 +59,7 @@ Peer fillMasked(Image<T> dst, Value value, Image<Lum8u> mask) {
     T* __restrict d = dst.row(y);
     const Lum8u* __restrict m = mask.row(y);
     const auto local = pixel;
-    for (int x = 0; x < width; ++x) {
-      if (m[x] == 0) continue;
-      for (int c = 0; c < C; ++c) d[x * C + c] = local[static_cast<std::size_t>(c)];
-    }
+    for (int x = 0; x < width; ++x) choose<C>(d + x * C, local.data(), m[x]);
   });
 }
 
@@ -75,9 +81,7 @@ Peer copyMasked(Image<T> src, Image<T> dst, Image<Lum8u> mask) {
     const T* __restrict s = src.row(y);
     T* __restrict d = dst.row(y);
     const Lum8u* __restrict m = mask.row(y);
-    for (int x = 0; x < width; ++x) {
-      for (int c = 0; c < C; ++c) d[x * C + c] = m[x] != 0 ? s[x * C + c] : d[x * C + c];
-    }
+    for (int x = 0; x < width; ++x) choose<C>(d + x * C, s + x * C, m[x]);
   });
 }
 
