@@ -59,7 +59,7 @@ template <typename T, typename Layout>
 LumStatus copyMasked(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, const Lum8u* mask,
                      int maskStep) {
   if (LumStatus fault = firstFault(pointers(src, dst, mask), size(roi))) return fault;
-  constexpr int pixelBytes = kPixelBytes<T, Layout>, usedBytes = static_cast<int>(sizeof(T)) * Layout::kUsed;
+  constexpr int pixelBytes = kPixelBytes<T, Layout>, usedBytes = kUsedBytes<T, Layout>;
   walkRows(
       roi.height,
       [&](const Byte* s, Byte* d, const Byte* m) {

@@ -2,7 +2,6 @@
 // Fill with a value: plain, one chosen channel, under a mask.
 #include "lumi/set.h"
 
-#include <algorithm>
 #include <cstring>
 #include <type_traits>
 
@@ -20,25 +19,34 @@ namespace {
 
 using namespace check;
 
-// The value's samples in order, whether given by value or by pointer.
-template <typename T, int count>
-struct Pixel {
-  T samples[count];
+// The value's samples, whether given by value or by pointer.
+template <typename Value>
+const void* samplesOf(const Value& value) {
+  if constexpr (std::is_pointer_v<Value>)
+    return value;
+  else
+    return &value;
+}
 
-  explicit Pixel(T value) : samples{value} { static_assert(count == 1); }
-  explicit Pixel(const T* values) { std::copy_n(values, count, samples); }
+// A pixel over and over, read before any row is touched; bytes that are not stored are left zero.
+template <size_t blockBytes, int pixelBytes, int usedBytes>
+struct Block {
+  Byte bytes[blockBytes] = {};
+
+  explicit Block(const void* samples) {
+    for (size_t i = 0; i < blockBytes; i += pixelBytes) std::memcpy(bytes + i, samples, usedBytes);
+  }
 };
 
 template <typename T, typename Layout, typename Value>
 LumStatus fill(Value value, T* dst, int dstStep, LumiSize roi) {
   if (LumStatus fault = firstFault(pointers(value, dst), size(roi))) return fault;
   constexpr int pixelBytes = kPixelBytes<T, Layout>;
-  const Pixel<T, Layout::kUsed> pixel(value);
   const bool streaming = streamsOperation(bytesMoved(roi, pixelBytes));
   const Extent extent = fuse(roi, isTight(dstStep, roi.width, pixelBytes));
-  const FillPattern pattern = makePattern<pixelBytes>(pixel.samples);
+  const FillPattern pattern = makePattern<pixelBytes>(samplesOf(value));
   walkRows(
-      extent.height, [&](Byte* d) { fillRow(pattern, d, extent.pixels * pixelBytes, streaming); },
+      extent.height, [&](Byte* d) { fillRow<pixelBytes>(pattern, d, extent.pixels * pixelBytes, streaming); },
       rows(dst, dstStep));
   if (streaming) storeFence();
   return lumStatusOk;
@@ -48,12 +56,13 @@ LumStatus fill(Value value, T* dst, int dstStep, LumiSize roi) {
 template <typename T, typename Layout, typename Value>
 LumStatus fillChosen(Value value, T* dst, int dstStep, LumiSize roi) {
   if (LumStatus fault = firstFault(pointers(value, dst), size(roi))) return fault;
-  const Pixel<T, Layout::kUsed> pixel(value);
-  const Extent extent = fuse(roi, isTight(dstStep, roi.width, kPixelBytes<T, Layout>));
+  constexpr int pixelBytes = kPixelBytes<T, Layout>, usedBytes = kUsedBytes<T, Layout>;
+  const Block<kChosenBlock<Layout::kStored>, pixelBytes, usedBytes> block(samplesOf(value));
+  const Extent extent = fuse(roi, isTight(dstStep, roi.width, pixelBytes));
   walkRows(
       extent.height,
       [&](Byte* d) {
-        fillChosenRow<sizeof(T), Layout::kStored, Layout::kUsed>(pixel.samples, d, extent.pixels);
+        fillChosenRow<sizeof(T), Layout::kStored, Layout::kUsed>(block.bytes, d, extent.pixels);
       },
       rows(dst, dstStep));
   return lumStatusOk;
@@ -62,14 +71,12 @@ LumStatus fillChosen(Value value, T* dst, int dstStep, LumiSize roi) {
 template <typename T, typename Layout, typename Value>
 LumStatus fillMasked(Value value, T* dst, int dstStep, LumiSize roi, const Lum8u* mask, int maskStep) {
   if (LumStatus fault = firstFault(pointers(value, dst, mask), size(roi))) return fault;
-  constexpr int pixelBytes = kPixelBytes<T, Layout>, usedBytes = static_cast<int>(sizeof(T)) * Layout::kUsed;
-  const Pixel<T, Layout::kUsed> pixel(value);
-  Byte block[kMaskBlock * pixelBytes] = {};
-  for (size_t i = 0; i < kMaskBlock; ++i) std::memcpy(block + i * pixelBytes, pixel.samples, usedBytes);
+  constexpr int pixelBytes = kPixelBytes<T, Layout>, usedBytes = kUsedBytes<T, Layout>;
+  const Block<kMaskBlock * pixelBytes, pixelBytes, usedBytes> block(samplesOf(value));
   walkRows(
       roi.height,
       [&](Byte* d, const Byte* m) {
-        fillMaskedRow<pixelBytes, usedBytes>(block, d, m, static_cast<size_t>(roi.width));
+        fillMaskedRow<pixelBytes, usedBytes>(block.bytes, d, m, static_cast<size_t>(roi.width));
       },
       rows(dst, dstStep), rows(mask, maskStep));
   return lumStatusOk;

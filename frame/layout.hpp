@@ -38,4 +38,8 @@ struct P4 {
 template <typename T, typename Layout>
 inline constexpr int kPixelBytes = static_cast<int>(sizeof(T)) * Layout::kStored;
 
+// Bytes of a pixel that an operation works on, from its first one on.
+template <typename T, typename Layout>
+inline constexpr int kUsedBytes = static_cast<int>(sizeof(T)) * Layout::kUsed;
+
 }  // namespace lumi

@@ -12,8 +12,7 @@ template <int sampleBytes, int stored, int used>
 struct Chosen {
   static constexpr size_t kVector = sizeof(Bytes32), kPixelBytes = sampleBytes * stored,
                           kUsedBytes = sampleBytes * used;
-  // `stored` vectors hold a whole number of pixels, whatever the sample.
-  static constexpr size_t kBlockBytes = kVector * stored;
+  static constexpr size_t kBlockBytes = kChosenBlock<stored>;
 
   struct Masks {
     alignas(kVector) Byte bytes[kBlockBytes];  // 0xFF where a byte is stored
@@ -69,18 +68,15 @@ void copyChosenRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
 }
 
 template <int sampleBytes, int stored, int used>
-void fillChosenRow(const void* samples, uint8_t* dst, size_t pixels) {
+void fillChosenRow(const uint8_t* block, uint8_t* dst, size_t pixels) {
   using Row = Chosen<sampleBytes, stored, used>;
-  const Byte* value = static_cast<const Byte*>(samples);
-  Byte block[Row::kBlockBytes] = {};
-  for (size_t i = 0; i < Row::kBlockBytes; i += Row::kPixelBytes)
-    std::memcpy(block + i, value, Row::kUsedBytes);
-  Row::inOrder(value, 0, dst, Row::template blend<false>(block, dst, Row::span(pixels)), pixels);
+  const size_t done = Row::template blend<false>(block, dst, Row::span(pixels));
+  Row::inOrder(block, 0, dst, done, pixels);
 }
 
 #define LUMI_CHOSEN(sample, stored, used)                                              \
   template void copyChosenRow<sample, stored, used>(const uint8_t*, uint8_t*, size_t); \
-  template void fillChosenRow<sample, stored, used>(const void*, uint8_t*, size_t);
+  template void fillChosenRow<sample, stored, used>(const uint8_t*, uint8_t*, size_t);
 #define LUMI_LAYOUTS(sample) LUMI_CHOSEN(sample, 3, 1) LUMI_CHOSEN(sample, 4, 1) LUMI_CHOSEN(sample, 4, 3)
 LUMI_LAYOUTS(1)
 LUMI_LAYOUTS(2)

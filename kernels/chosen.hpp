@@ -14,8 +14,12 @@ namespace lumi {
 template <int sampleBytes, int stored, int used>
 void copyChosenRow(const uint8_t* src, uint8_t* dst, size_t pixels);
 
-// Stores `used` samples into each pixel, under the same promise.
+// Stores a value under the same promise; `block` is the pixel repeated over kChosenBlock bytes.
 template <int sampleBytes, int stored, int used>
-void fillChosenRow(const void* samples, uint8_t* dst, size_t pixels);
+void fillChosenRow(const uint8_t* block, uint8_t* dst, size_t pixels);
+
+// A whole number of pixels of `stored` samples, and of vectors.
+template <int stored>
+inline constexpr size_t kChosenBlock = 32 * stored;
 
 }  // namespace lumi

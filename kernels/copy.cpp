@@ -10,18 +10,25 @@ using namespace simd;
 
 constexpr size_t kVector = sizeof(Bytes32);
 
-// Below two vectors: two overlapping moves of the largest half, both read before either is stored.
-template <typename V>
+// At most twice `count` vectors of type V: as many from each end, all read before any is stored.
+template <typename V, size_t count = 1>
 void copyEnds(const Byte* src, Byte* dst, size_t bytes) {
-  V first, last;
-  std::memcpy(&first, src, sizeof(V));
-  std::memcpy(&last, src + bytes - sizeof(V), sizeof(V));
-  std::memcpy(dst, &first, sizeof(V));
-  std::memcpy(dst + bytes - sizeof(V), &last, sizeof(V));
+  constexpr size_t n = sizeof(V);
+  V first[count], last[count];
+  for (size_t i = 0; i < count; ++i) std::memcpy(&first[i], src + i * n, n);
+  for (size_t i = 0; i < count; ++i) std::memcpy(&last[i], src + bytes - (i + 1) * n, n);
+  for (size_t i = 0; i < count; ++i) std::memcpy(dst + i * n, &first[i], n);
+  for (size_t i = 0; i < count; ++i) std::memcpy(dst + bytes - (i + 1) * n, &last[i], n);
 }
 
+constexpr size_t kShort = 8 * kVector;
+
 void copyShort(const Byte* src, Byte* dst, size_t bytes) {
-  if (bytes >= 32)
+  if (bytes > 4 * kVector)
+    copyEnds<Bytes32, 4>(src, dst, bytes);
+  else if (bytes > 2 * kVector)
+    copyEnds<Bytes32, 2>(src, dst, bytes);
+  else if (bytes >= 32)
     copyEnds<Bytes32>(src, dst, bytes);
   else if (bytes >= 16)
     copyEnds<Bytes16>(src, dst, bytes);
@@ -106,7 +113,7 @@ void copyByString(const Byte* src, Byte* dst, size_t bytes) {
 }  // namespace
 
 void copyRow(const uint8_t* src, uint8_t* dst, size_t bytes) {
-  if (bytes < 2 * kVector)
+  if (bytes <= kShort)
     copyShort(src, dst, bytes);
   else if (bytes >= kStringMove)
     copyByString(src, dst, bytes);
@@ -123,14 +130,15 @@ void copyRowManaged(const uint8_t* src, uint8_t* dst, size_t bytes, CacheUse use
   if (head > bytes) return copyRow(src, dst, bytes);
   copyRow(src, dst, head);
   src += head, dst += head, bytes -= head;
-  const bool stream = use.streamingStores && isAligned(dst, 16);
+  const bool stream = use.streamingStores && isAligned(dst, kVector);
   for (; bytes >= line; src += line, dst += line, bytes -= line)
-    for (size_t i = 0; i < line; i += 16) {
-      const Bytes16 v = use.streamingLoads ? streamingLoad16(src + i) : load16(src + i);
+    for (size_t i = 0; i < line; i += kVector) {
+      const Bytes32 v = use.streamingLoads ? joined(streamingLoad16(src + i), streamingLoad16(src + i + 16))
+                                           : load32(src + i);
       if (stream)
-        stream16(dst + i, v);
+        stream32(dst + i, v);
       else
-        store16(dst + i, v);
+        store32(dst + i, v);
     }
   copyShort(src, dst, bytes);
 }

@@ -27,25 +27,38 @@ constexpr Control keptBytes() {
   return c;
 }
 
-// The source moves on with the pixels, or stands still (a value).
-template <int pixelBytes, int usedBytes, bool moving>
-void maskedRow(const Byte* src, Byte* dst, const Byte* mask, size_t pixels) {
+// Sixteen pixels, of which those are left alone whose byte of `skip` is 0xFF. Two vectors at a time where
+// they come in pairs.
+template <int pixelBytes, int usedBytes>
+inline void storeBlock(const Byte* src, Byte* dst, Bytes16 skip) {
   static constexpr auto controls = spreadControls<pixelBytes>();
   static constexpr Control kept = keptBytes<pixelBytes, usedBytes>();
-  constexpr size_t blockBytes = kMaskBlock * pixelBytes;
-  size_t i = 0;
-  for (; i + kMaskBlock <= pixels; i += kMaskBlock, dst += blockBytes, src += moving ? blockBytes : 0) {
-    const Bytes16 given = load16(mask + i);
-    if (noneSet(given)) continue;  // a block that is not chosen reads no source
-    const Bytes16 skip = isZero(given);
-    for (int k = 0; k < pixelBytes; ++k) {
-      Bytes16 m = pixelBytes == 1 ? skip : shuffle(skip, vectorOf(controls[k]));
-      if constexpr (usedBytes < pixelBytes) m = either(m, vectorOf(kept));
-      store16(dst + 16 * k, select(load16(src + 16 * k), load16(dst + 16 * k), m));
-    }
+  const auto skipOf = [&](int vector) {
+    const Bytes16 spread = pixelBytes == 1 ? skip : shuffle(skip, vectorOf(controls[vector]));
+    return usedBytes < pixelBytes ? either(spread, vectorOf(kept)) : spread;
+  };
+  if constexpr (pixelBytes % 2 == 0) {
+    for (int k = 0; k < pixelBytes; k += 2, src += 32, dst += 32)
+      store32(dst, merge(load32(src), load32(dst), joined(skipOf(k), skipOf(k + 1))));
+  } else {
+    for (int k = 0; k < pixelBytes; ++k, src += 16, dst += 16)
+      store16(dst, select(load16(src), load16(dst), skipOf(k)));
   }
-  for (; i < pixels; ++i, dst += pixelBytes, src += moving ? pixelBytes : 0)
-    if (mask[i]) move<usedBytes>(dst, src);
+}
+
+// The source moves on with the pixels, or stands still (a value, which is there even if no pixel is chosen).
+template <int pixelBytes, int usedBytes, bool moving>
+void maskedRow(const Byte* src, Byte* dst, const Byte* mask, size_t pixels) {
+  size_t i = 0;
+  const auto at = [&](size_t pixel) { return moving ? src + pixel * pixelBytes : src; };
+  for (; i + kMaskBlock <= pixels; i += kMaskBlock) {
+    const Bytes16 given = load16(mask + i);
+    // A block that is not chosen reads no source.
+    if (moving && noneSet(given)) continue;
+    storeBlock<pixelBytes, usedBytes>(at(i), dst + i * pixelBytes, isZero(given));
+  }
+  for (; i < pixels; ++i)
+    if (mask[i]) move<usedBytes>(dst + i * pixelBytes, at(i));
 }
 
 }  // namespace

@@ -8,6 +8,12 @@ namespace {
 
 using namespace simd;
 
+constexpr size_t kVector = sizeof(Bytes32);
+
+// Whether every aligned vector of a row is the same one.
+template <int pixelBytes>
+constexpr bool kUniform = kVector % pixelBytes == 0;
+
 // Rows below one vector: overlapping stores of halves from both ends, all from the pattern's phase.
 void fillShort(const FillPattern& p, Byte* dst, size_t bytes) {
   const auto ends = [&](auto half) {
@@ -25,47 +31,47 @@ void fillShort(const FillPattern& p, Byte* dst, size_t bytes) {
     for (size_t i = 0; i < bytes; ++i) dst[i] = p.bytes[i];
 }
 
-// The first vector goes unaligned to the row's start and the last to its end; the loop between them
-// is aligned, and starts at the phase that the head has reached.
-template <typename Store>
-void fillLong(const FillPattern& p, Byte* dst, size_t bytes) {
-  constexpr size_t period = FillPattern::kPeriod, vector = sizeof(Bytes32);
-  Byte* const end = dst + bytes;
-  store32(end - vector, load32(p.bytes + (bytes - vector) % period));
+// Stores the first and the last vector of the row, unaligned, and returns how far the first one reaches
+// past the boundary between them: 1 to 32 bytes.
+template <int pixelBytes>
+size_t fillEnds(const FillPattern& p, Byte* dst, size_t bytes) {
+  constexpr size_t period = kUniform<pixelBytes> ? kVector : FillPattern::kPeriod;
   store32(dst, load32(p.bytes));
-  const size_t head = vector - (reinterpret_cast<uintptr_t>(dst) & (vector - 1));
-  // head is at most 32: head + 96 stays inside the pattern.
-  const Bytes32 a = load32(p.bytes + head), b = load32(p.bytes + head + vector),
-                c = load32(p.bytes + head + 2 * vector);
+  store32(dst + bytes - kVector, load32(p.bytes + (kUniform<pixelBytes> ? 0 : (bytes - kVector) % period)));
+  return kVector - (reinterpret_cast<uintptr_t>(dst) & (kVector - 1));
+}
+
+// Between the ends the stores are aligned, at the phase that the first vector has reached.
+template <int pixelBytes, typename Store>
+void fillLong(const FillPattern& p, Byte* dst, size_t bytes) {
+  const size_t head = fillEnds<pixelBytes>(p, dst, bytes);
   Byte* d = dst + head;
-  for (; static_cast<size_t>(end - d) >= 2 * period; d += 2 * period) {
-    Store::store(d, a);
-    Store::store(d + vector, b);
-    Store::store(d + 2 * vector, c);
-    Store::store(d + 3 * vector, a);
-    Store::store(d + 4 * vector, b);
-    Store::store(d + 5 * vector, c);
+  Byte* const end = dst + bytes;
+  const auto left = [&] { return static_cast<size_t>(end - d); };
+  if constexpr (kUniform<pixelBytes>) {
+    const Bytes32 v = load32(p.bytes + head % pixelBytes);
+    for (; left() >= 4 * kVector; d += 4 * kVector)
+      for (size_t i = 0; i < 4; ++i) Store::store(d + i * kVector, v);
+    for (; left() >= kVector; d += kVector) Store::store(d, v);
+  } else {
+    // head is at most 32: head + 96 stays inside the pattern.
+    const Bytes32 v[] = {load32(p.bytes + head), load32(p.bytes + head + kVector),
+                         load32(p.bytes + head + 2 * kVector)};
+    for (; left() >= 6 * kVector; d += 6 * kVector)
+      for (size_t i = 0; i < 6; ++i) Store::store(d + i * kVector, v[i % 3]);
+    for (size_t i = 0; left() >= kVector; d += kVector, ++i) Store::store(d, v[i % 3]);
   }
-  for (; static_cast<size_t>(end - d) >= period; d += period) {
-    Store::store(d, a);
-    Store::store(d + vector, b);
-    Store::store(d + 2 * vector, c);
-  }
-  if (static_cast<size_t>(end - d) >= vector) Store::store(d, a), d += vector;
-  if (d < end && static_cast<size_t>(end - d) >= vector) Store::store(d, b);
 }
 
 // From here on, measured from 2 MiB to beyond the largest cache, the processor's string store is ahead of
 // vector stores, streaming ones included.
 constexpr size_t kStringFill = 0x200000;
 
+template <int pixelBytes>
 void fillByString(const FillPattern& p, Byte* dst, size_t bytes) {
-  constexpr size_t vector = sizeof(Bytes32);
-  store32(dst + bytes - vector, load32(p.bytes + (bytes - vector) % FillPattern::kPeriod));
-  store32(dst, load32(p.bytes));
-  const size_t head = vector - (reinterpret_cast<uintptr_t>(dst) & (vector - 1));
+  const size_t head = fillEnds<pixelBytes>(p, dst, bytes);
   uint32_t value = 0;
-  std::memcpy(&value, p.bytes + head % 4, sizeof value);
+  std::memcpy(&value, p.bytes + head % pixelBytes, sizeof value);
   Byte* to = dst + head;
   size_t count = (bytes - head) / sizeof value;
   asm volatile("rep stosl" : "+D"(to), "+c"(count) : "a"(value) : "memory");
@@ -102,30 +108,32 @@ FillPattern makePattern(const void* pixel) {
                                          repeatControl<pixelBytes>(2)};
   const Bytes16 once = loadPixel<pixelBytes>(static_cast<const Byte*>(pixel));
   FillPattern p;
-  p.dwords = 4 % pixelBytes == 0;
-  for (size_t i = 0; i < sizeof p.bytes / 16; ++i)
-    store16(p.bytes + 16 * i, shuffle(once, vectorOf(controls[i % 3])));
+  constexpr size_t vectors = kUniform<pixelBytes> ? 3 : sizeof p.bytes / 16;
+  for (size_t i = 0; i < vectors; ++i) store16(p.bytes + 16 * i, shuffle(once, vectorOf(controls[i % 3])));
   return p;
 }
 
-template FillPattern makePattern<1>(const void*);
-template FillPattern makePattern<2>(const void*);
-template FillPattern makePattern<3>(const void*);
-template FillPattern makePattern<4>(const void*);
-template FillPattern makePattern<6>(const void*);
-template FillPattern makePattern<8>(const void*);
-template FillPattern makePattern<12>(const void*);
-template FillPattern makePattern<16>(const void*);
-
+template <int pixelBytes>
 void fillRow(const FillPattern& pattern, uint8_t* dst, size_t bytes, bool streaming) {
-  if (bytes < sizeof(Bytes32))
-    fillShort(pattern, dst, bytes);
-  else if (pattern.dwords && bytes >= kStringFill)
-    fillByString(pattern, dst, bytes);
-  else if (streaming)
-    fillLong<Streaming>(pattern, dst, bytes);
+  if (bytes < kVector) return fillShort(pattern, dst, bytes);
+  if constexpr (4 % pixelBytes == 0)
+    if (bytes >= kStringFill) return fillByString<pixelBytes>(pattern, dst, bytes);
+  if (streaming)
+    fillLong<pixelBytes, Streaming>(pattern, dst, bytes);
   else
-    fillLong<Cached>(pattern, dst, bytes);
+    fillLong<pixelBytes, Cached>(pattern, dst, bytes);
 }
+
+#define LUMI_PIXEL(bytes)                               \
+  template FillPattern makePattern<bytes>(const void*); \
+  template void fillRow<bytes>(const FillPattern&, uint8_t*, size_t, bool);
+LUMI_PIXEL(1)
+LUMI_PIXEL(2)
+LUMI_PIXEL(3)
+LUMI_PIXEL(4)
+LUMI_PIXEL(6)
+LUMI_PIXEL(8)
+LUMI_PIXEL(12)
+LUMI_PIXEL(16)
 
 }  // namespace lumi
