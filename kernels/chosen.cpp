@@ -46,6 +46,16 @@ struct Chosen {
     return (at + kPixelBytes - 1) / kPixelBytes;  // no sample lies across the end of a vector
   }
 
+  // Pixels up to the first that starts a vector, on rows long enough to gain by aligned stores; none where
+  // no pixel does.
+  static size_t pixelsToBoundary(const Byte* dst, size_t pixels) {
+    constexpr size_t longRow = 1024;
+    if (pixels < longRow) return 0;
+    for (size_t i = 0; i < kVector; ++i)
+      if (isAligned(dst + i * kPixelBytes, kVector)) return i;
+    return 0;
+  }
+
   static void inOrder(const Byte* src, size_t srcPixel, Byte* dst, size_t from, size_t pixels) {
     for (size_t i = from; i < pixels; ++i) move<kUsedBytes>(dst + i * kPixelBytes, src + i * srcPixel);
   }
@@ -62,15 +72,22 @@ bool overlapByPixels(const Byte* src, const Byte* dst, size_t pixelBytes, size_t
 template <int sampleBytes, int stored, int used>
 void copyChosenRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
   using Row = Chosen<sampleBytes, stored, used>;
-  const bool apart = !overlapByPixels(src, dst, Row::kPixelBytes, pixels);
-  const size_t done = apart ? Row::template blend<true>(src, dst, Row::span(pixels)) : 0;
+  size_t done = 0;
+  if (!overlapByPixels(src, dst, Row::kPixelBytes, pixels)) {
+    done = Row::pixelsToBoundary(dst, pixels);
+    Row::inOrder(src, Row::kPixelBytes, dst, 0, done);
+    done += Row::template blend<true>(src + done * Row::kPixelBytes, dst + done * Row::kPixelBytes,
+                                      Row::span(pixels - done));
+  }
   Row::inOrder(src, Row::kPixelBytes, dst, done, pixels);
 }
 
 template <int sampleBytes, int stored, int used>
 void fillChosenRow(const uint8_t* block, uint8_t* dst, size_t pixels) {
   using Row = Chosen<sampleBytes, stored, used>;
-  const size_t done = Row::template blend<false>(block, dst, Row::span(pixels));
+  size_t done = Row::pixelsToBoundary(dst, pixels);
+  Row::inOrder(block, 0, dst, 0, done);
+  done += Row::template blend<false>(block, dst + done * Row::kPixelBytes, Row::span(pixels - done));
   Row::inOrder(block, 0, dst, done, pixels);
 }
 

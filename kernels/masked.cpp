@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "kernels/masked.hpp"
 
-#include <algorithm>
+#include <type_traits>
 
 #include "kernels/simd/bytes.hpp"
 
@@ -27,50 +27,93 @@ constexpr Control keptBytes() {
   return c;
 }
 
-// Sixteen pixels, of which those are left alone whose byte of `skip` is 0xFF. Two vectors at a time where
-// they come in pairs.
+// Vectors of 32 bytes where pixels are whole dwords, else of 16.
+struct Narrow {
+  using V = Bytes16;
+  static V load(const Byte* p) { return load16(p); }
+  static void blend(Byte* p, V value, V skip) { store16(p, select(value, load16(p), skip)); }
+};
+struct Wide {
+  using V = Bytes32;
+  static V load(const Byte* p) { return load32(p); }
+  static void blend(Byte* p, V value, V skip) { store32(p, merge(value, load32(p), skip)); }
+};
+template <int pixelBytes>
+using Unit = std::conditional_t<pixelBytes % 4 == 0, Wide, Narrow>;
+
+// The source moves on with the pixels.
+template <int pixelBytes>
+struct Moving {
+  using U = Unit<pixelBytes>;
+  const Byte* src;
+
+  typename U::V vector(size_t pixel, size_t k) const {
+    return U::load(src + pixel * pixelBytes + k * sizeof(typename U::V));
+  }
+  const Byte* sample(size_t pixel) const { return src + pixel * pixelBytes; }
+  // A block that is not chosen reads no source.
+  static bool leavesOut(Bytes16 given) { return noneSet(given); }
+};
+
+// A value: one vector, or three that take turns, in registers. In memory they would be read between stores
+// that the processor cannot always tell from them.
+template <int pixelBytes>
+struct Still {
+  using U = Unit<pixelBytes>;
+  static constexpr size_t kPeriod = sizeof(typename U::V) % pixelBytes == 0 ? 1 : 3;
+  const Byte* block;
+  typename U::V vectors[kPeriod];
+
+  explicit Still(const Byte* pixels) : block(pixels) {
+    for (size_t k = 0; k < kPeriod; ++k) vectors[k] = U::load(pixels + k * sizeof(typename U::V));
+  }
+  typename U::V vector(size_t, size_t k) const { return vectors[k % kPeriod]; }
+  const Byte* sample(size_t) const { return block; }
+  static bool leavesOut(Bytes16) { return false; }
+};
+
+// 0xFF over the bytes of vector k of sixteen pixels that stay, from a byte a pixel.
 template <int pixelBytes, int usedBytes>
-inline void storeBlock(const Byte* src, Byte* dst, Bytes16 skip) {
+inline Bytes16 spreadOver(Bytes16 skip, size_t k) {
   static constexpr auto controls = spreadControls<pixelBytes>();
   static constexpr Control kept = keptBytes<pixelBytes, usedBytes>();
-  const auto skipOf = [&](int vector) {
-    const Bytes16 spread = pixelBytes == 1 ? skip : shuffle(skip, vectorOf(controls[vector]));
-    return usedBytes < pixelBytes ? either(spread, vectorOf(kept)) : spread;
-  };
-  if constexpr (pixelBytes % 2 == 0) {
-    for (int k = 0; k < pixelBytes; k += 2, src += 32, dst += 32)
-      store32(dst, merge(load32(src), load32(dst), joined(skipOf(k), skipOf(k + 1))));
-  } else {
-    for (int k = 0; k < pixelBytes; ++k, src += 16, dst += 16)
-      store16(dst, select(load16(src), load16(dst), skipOf(k)));
-  }
+  const Bytes16 spread = pixelBytes == 1 ? skip : shuffle(skip, vectorOf(controls[k]));
+  return usedBytes < pixelBytes ? either(spread, vectorOf(kept)) : spread;
 }
 
-// The source moves on with the pixels, or stands still (a value, which is there even if no pixel is chosen).
-template <int pixelBytes, int usedBytes, bool moving>
-void maskedRow(const Byte* src, Byte* dst, const Byte* mask, size_t pixels) {
+template <int pixelBytes, int usedBytes, typename Source>
+void maskedRow(const Source& source, Byte* dst, const Byte* mask, size_t pixels) {
+  using U = Unit<pixelBytes>;
   size_t i = 0;
-  const auto at = [&](size_t pixel) { return moving ? src + pixel * pixelBytes : src; };
   for (; i + kMaskBlock <= pixels; i += kMaskBlock) {
     const Bytes16 given = load16(mask + i);
-    // A block that is not chosen reads no source.
-    if (moving && noneSet(given)) continue;
-    storeBlock<pixelBytes, usedBytes>(at(i), dst + i * pixelBytes, isZero(given));
+    if (Source::leavesOut(given)) continue;
+    const Bytes16 skip = isZero(given);
+    Byte* d = dst + i * pixelBytes;
+    if constexpr (pixelBytes % 4 == 0) {
+      for (size_t k = 0; k < pixelBytes / 2; ++k)
+        U::blend(d + 32 * k, source.vector(i, k),
+                 joined(spreadOver<pixelBytes, usedBytes>(skip, 2 * k),
+                        spreadOver<pixelBytes, usedBytes>(skip, 2 * k + 1)));
+    } else {
+      for (size_t k = 0; k < pixelBytes; ++k)
+        U::blend(d + 16 * k, source.vector(i, k), spreadOver<pixelBytes, usedBytes>(skip, k));
+    }
   }
   for (; i < pixels; ++i)
-    if (mask[i]) move<usedBytes>(dst + i * pixelBytes, at(i));
+    if (mask[i]) move<usedBytes>(dst + i * pixelBytes, source.sample(i));
 }
 
 }  // namespace
 
 template <int pixelBytes, int usedBytes>
 void copyMaskedRow(const uint8_t* src, uint8_t* dst, const uint8_t* mask, size_t pixels) {
-  maskedRow<pixelBytes, usedBytes, true>(src, dst, mask, pixels);
+  maskedRow<pixelBytes, usedBytes>(Moving<pixelBytes>{src}, dst, mask, pixels);
 }
 
 template <int pixelBytes, int usedBytes>
 void fillMaskedRow(const uint8_t* block, uint8_t* dst, const uint8_t* mask, size_t pixels) {
-  maskedRow<pixelBytes, usedBytes, false>(block, dst, mask, pixels);
+  maskedRow<pixelBytes, usedBytes>(Still<pixelBytes>(block), dst, mask, pixels);
 }
 
 #define LUMI_PIXEL(bytes, used)                                                               \

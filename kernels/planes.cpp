@@ -158,11 +158,11 @@ void mergeRowBy(const uint8_t* const* planes, Byte* dst, size_t pixels) {
     for (int c = 0; c < channels; ++c) move<sampleBytes>(dst + channels * i + c * sampleBytes, from[c] + i);
 }
 
-// The first of every three dwords of eight pixels: in each half they stand at different places of the three
-// vectors of four pixels, and are put in order at the end.
-Bytes32 firstOfThree(const Byte* src) {
-  const auto third = [&](int i) { return joined(load16(src + 16 * i), load16(src + 48 + 16 * i)); };
-  const Bytes32 found = mergeDwords<0b00100010>(mergeDwords<0b01000100>(third(0), third(1)), third(2));
+// The first of every three dwords of four pixels: they stand at different places of the three vectors, and
+// are put in order at the end.
+Bytes16 firstOfThree(const Byte* src) {
+  const Bytes16 found =
+      mergeDwords<0b0010>(mergeDwords<0b0100>(load16(src), load16(src + 16)), load16(src + 32));
   return permuteDwords<0, 3, 2, 1>(found);
 }
 
@@ -190,13 +190,14 @@ template <int sampleBytes, int channels>
 void channelToPlaneRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
   const size_t bytes = pixels * sampleBytes;
   size_t i = 0;
-  for (; i + 32 < bytes; i += 32)
-    if constexpr (sampleBytes == 4 && channels == 3)
-      store32(dst + i, firstOfThree(src + channels * i));
-    else
+  if constexpr (sampleBytes == 4 && channels == 3) {
+    for (; i + 16 < bytes; i += 16) store16(dst + i, firstOfThree(src + channels * i));
+  } else {
+    for (; i + 32 < bytes; i += 32)
       store32(dst + i, splitTwoBlocks<sampleBytes, channels>(src + channels * i).row[0]);
-  for (; i + 16 < bytes; i += 16)
-    store16(dst + i, splitBlock<sampleBytes, channels>(src + channels * i).row[0]);
+    for (; i + 16 < bytes; i += 16)
+      store16(dst + i, splitBlock<sampleBytes, channels>(src + channels * i).row[0]);
+  }
   for (; i < bytes; i += sampleBytes) move<sampleBytes>(dst + i, src + channels * i);
 }
 

@@ -2,6 +2,7 @@
 #include "kernels/set.hpp"
 
 #include "kernels/simd/bytes.hpp"
+#include "kernels/simd/strings.hpp"
 
 namespace lumi {
 namespace {
@@ -72,9 +73,7 @@ void fillByString(const FillPattern& p, Byte* dst, size_t bytes) {
   const size_t head = fillEnds<pixelBytes>(p, dst, bytes);
   uint32_t value = 0;
   std::memcpy(&value, p.bytes + head % pixelBytes, sizeof value);
-  Byte* to = dst + head;
-  size_t count = (bytes - head) / sizeof value;
-  asm volatile("rep stosl" : "+D"(to), "+c"(count) : "a"(value) : "memory");
+  storeDwords(dst + head, value, (bytes - head) / sizeof value);
 }
 
 // A pixel in the low bytes of a vector, by way of registers: a vector load would have to wait for the

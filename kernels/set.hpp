@@ -17,8 +17,8 @@ struct FillPattern {
 template <int pixelBytes>
 FillPattern makePattern(const void* pixel);
 
-// Fills `bytes` bytes, a multiple of the pixel. With `streaming` the stores bypass the cache, and the
-// caller fences.
+// Fills `bytes` bytes, a multiple of the pixel. With `streaming` vector stores bypass the cache, and the
+// caller fences; the string store of long rows finds its own way.
 template <int pixelBytes>
 void fillRow(const FillPattern& pattern, uint8_t* dst, size_t bytes, bool streaming);
 

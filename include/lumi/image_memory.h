@@ -22,7 +22,7 @@ extern "C" {
  * 32-bit and wraps, so sizes beyond 2 GiB must be ruled out by the caller. The image belongs to the
  * caller until lumiFree.
  *
- * Sharing: bytes a pixel decide alone: members of equal size are one implementation.
+ * Bytes a pixel decide alone: members of equal size are one implementation.
  *
  *   width      pixels in a row
  *   height     rows

@@ -97,6 +97,11 @@ inline Bytes32 permuteDwords(Bytes32 v) {
   return asBytes(_mm256_permute_ps(asFloats(v), a | b << 2 | c << 4 | d << 6));
 }
 
+template <int a, int b, int c, int d>
+inline Bytes16 permuteDwords(Bytes16 v) {
+  return _mm_shuffle_epi32(v, a | b << 2 | c << 4 | d << 6);
+}
+
 // Dwords of a where the immediate's bit is 0, of b where it is 1.
 template <int which>
 inline Bytes32 mergeDwords(Bytes32 a, Bytes32 b) {

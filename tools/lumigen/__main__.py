@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """lumigen: everything that follows from the registry.
 
   python3 -m lumigen headers OUT    the public headers (committed under include/)

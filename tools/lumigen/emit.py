@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Writes every file that follows from the registry."""
 
 import json

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The naming grammar: from an export's name pieces to its argument list."""
 
 import re
@@ -11,6 +12,8 @@ SAMPLE_TYPES = {
 # Samples a constant or a per-channel result has; layouts absent here are planar.
 CHANNELS = {"C1": 1, "C2": 2, "C3": 3, "C4": 4, "AC4": 3, "AC1": 1, "C3C": 1, "C4C": 1}
 PLANES = {"P2": 2, "P3": 3, "P4": 4, "AP4": 4}
+
+ROLES = ("src", "src1", "src2", "dst", "srcDst", "roi", "mask", "value", "sfs")
 
 _TYPE = r"\d+(?:uc|sc|fc|u|s|f)"
 _TYPES = re.compile(rf"({_TYPE})({_TYPE})?$")
@@ -114,7 +117,9 @@ def _image(role, sample, layout, writable):
 
 
 def _value(sample, layout):
-    count = CHANNELS.get(layout) or PLANES[layout]
+    count = CHANNELS.get(layout) or PLANES.get(layout)
+    if not count:
+        raise GrammarError(f"'{layout}' does not tell how many values a constant has")
     if count == 1:
         return [Arg("value", "value", f"{sample} value")]
     return [Arg("values", "value", f"const {sample} value[{count}]", str(count))]
@@ -128,10 +133,12 @@ def _param(param, ctype):
 
 def _grammar_args(role, types, descriptor):
     """The arguments of one role of the grammar; None for a role it does not know."""
-    source_layout = descriptor.layouts[0] if descriptor else ""
-    dest_layout = descriptor.layouts[-1] if descriptor else ""
-    source = SAMPLE_TYPES.get(types[0], "") if types else ""
-    dest = SAMPLE_TYPES.get(types[-1], "") if types else ""
+    if role not in ROLES:
+        return None
+    if not types or not descriptor:
+        raise GrammarError(f"'{role}' follows from a sample type and a descriptor, and the member lacks one")
+    source_layout, dest_layout = descriptor.layouts[0], descriptor.layouts[-1]
+    source, dest = SAMPLE_TYPES[types[0]], SAMPLE_TYPES[types[-1]]
     if role in ("src", "src1", "src2"):
         return _image(role, source, source_layout, False)
     if role in ("dst", "srcDst"):

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Reads registry/*.reg. Every complaint names file, line and reason."""
 
 import pathlib
@@ -136,7 +137,7 @@ class _Reader:
         self._operation().returns = rest
 
     def _on_group(self, rest):
-        self._operation().text += ["", f"Sharing: {rest}."]
+        self._operation().text += ["", rest]
 
     def _on_same(self, rest):
         """same A=B: B is one implementation with A, a member with a row of its own."""

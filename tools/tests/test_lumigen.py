@@ -107,6 +107,8 @@ class Complaints(unittest.TestCase):
     CASES = (
         (HEAD + "  args src\n  8u C9R bind x\n", 5, "'C9R' is no layout descriptor"),
         (HEAD + "  args nosuch\n  8u C1R bind x\n", 5, "'nosuch' is neither a role"),
+        (HEAD + "  args roi\n  8u bind x\n", 5, "'roi' follows from a sample type and a descriptor"),
+        (HEAD + "  args value\n  8u C3A0C4R bind x\n", 5, "'C3A0C4' does not tell how many values"),
         (HEAD + "  args src\n  8u C1R\n", 5, "a row ends in: bind name"),
         (HEAD + "  args src\n  8u C1R check nul bind x\n", 5, "check takes words of"),
         (HEAD + "  args src\n  8u C1R bind x\n  8u C1R bind x\n", 6, "lumiProbe_8u_C1R stands twice"),
