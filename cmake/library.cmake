@@ -5,11 +5,17 @@ add_dependencies(lumi lumi_generated)
 
 # lumi_sources(<home> <stem>...): family code, and the kernels of the same stem where it has some.
 # Kernels are optimised in every build type: unoptimised vector code is 15 to 30 times slower.
+# Loops start on 32 bytes: where one falls otherwise costs up to a third of a copy's speed. Tails of up to
+# fifteen samples stay loops: unrolled, they would take registers from the loop before them.
+set(LUMI_KERNEL_OPTIONS -O3 -falign-loops=32)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+  list(APPEND LUMI_KERNEL_OPTIONS --param=max-completely-peel-times=8)
+endif()
 function(lumi_kernels)
   foreach(stem ${ARGN})
     target_sources(lumi PRIVATE ${PROJECT_SOURCE_DIR}/kernels/${stem}.cpp)
     if(NOT LUMI_COVERAGE)
-      set_source_files_properties(${PROJECT_SOURCE_DIR}/kernels/${stem}.cpp PROPERTIES COMPILE_OPTIONS "-O3")
+      set_source_files_properties(${PROJECT_SOURCE_DIR}/kernels/${stem}.cpp PROPERTIES COMPILE_OPTIONS "${LUMI_KERNEL_OPTIONS}")
     endif()
   endforeach()
 endfunction()
