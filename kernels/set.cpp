@@ -32,25 +32,26 @@ void fillShort(const FillPattern& p, Byte* dst, size_t bytes) {
     for (size_t i = 0; i < bytes; ++i) dst[i] = p.bytes[i];
 }
 
-// Stores the first and the last vector of the row, unaligned, and returns how far the first one reaches
-// past the boundary between them: 1 to 32 bytes.
+// How far a vector at dst reaches past the boundary inside it: 1 to 32 bytes.
+size_t reachOf(const Byte* dst) { return kVector - (reinterpret_cast<uintptr_t>(dst) & (kVector - 1)); }
+
 template <int pixelBytes>
-size_t fillEnds(const FillPattern& p, Byte* dst, size_t bytes) {
-  constexpr size_t period = kUniform<pixelBytes> ? kVector : FillPattern::kPeriod;
-  store32(dst, load32(p.bytes));
-  store32(dst + bytes - kVector, load32(p.bytes + (kUniform<pixelBytes> ? 0 : (bytes - kVector) % period)));
-  return kVector - (reinterpret_cast<uintptr_t>(dst) & (kVector - 1));
+Bytes32 lastVector(const FillPattern& p, size_t bytes) {
+  return load32(p.bytes + (kUniform<pixelBytes> ? 0 : (bytes - kVector) % FillPattern::kPeriod));
 }
 
-// Between the ends the stores are aligned, at the phase that the first vector has reached.
+// The first and the last vector go unaligned; between them the stores are aligned, at the phase that the
+// first one has reached. All of the pattern is read before the first store, which might be anywhere.
 template <int pixelBytes, typename Store>
 void fillLong(const FillPattern& p, Byte* dst, size_t bytes) {
-  const size_t head = fillEnds<pixelBytes>(p, dst, bytes);
+  const size_t head = reachOf(dst);
+  const Bytes32 first = load32(p.bytes), last = lastVector<pixelBytes>(p, bytes);
   Byte* d = dst + head;
   Byte* const end = dst + bytes;
   const auto left = [&] { return static_cast<size_t>(end - d); };
   if constexpr (kUniform<pixelBytes>) {
     const Bytes32 v = load32(p.bytes + head % pixelBytes);
+    store32(dst, first);
     for (; left() >= 4 * kVector; d += 4 * kVector)
       for (size_t i = 0; i < 4; ++i) Store::store(d + i * kVector, v);
     for (; left() >= kVector; d += kVector) Store::store(d, v);
@@ -58,10 +59,12 @@ void fillLong(const FillPattern& p, Byte* dst, size_t bytes) {
     // head is at most 32: head + 96 stays inside the pattern.
     const Bytes32 v[] = {load32(p.bytes + head), load32(p.bytes + head + kVector),
                          load32(p.bytes + head + 2 * kVector)};
+    store32(dst, first);
     for (; left() >= 6 * kVector; d += 6 * kVector)
       for (size_t i = 0; i < 6; ++i) Store::store(d + i * kVector, v[i % 3]);
     for (size_t i = 0; left() >= kVector; d += kVector, ++i) Store::store(d, v[i % 3]);
   }
+  store32(end - kVector, last);
 }
 
 // From here on, measured from 2 MiB to beyond the largest cache, the processor's string store is ahead of
@@ -70,9 +73,12 @@ constexpr size_t kStringFill = 0x200000;
 
 template <int pixelBytes>
 void fillByString(const FillPattern& p, Byte* dst, size_t bytes) {
-  const size_t head = fillEnds<pixelBytes>(p, dst, bytes);
+  const size_t head = reachOf(dst);
+  const Bytes32 first = load32(p.bytes), last = lastVector<pixelBytes>(p, bytes);
   uint32_t value = 0;
   std::memcpy(&value, p.bytes + head % pixelBytes, sizeof value);
+  store32(dst, first);
+  store32(dst + bytes - kVector, last);
   storeDwords(dst + head, value, (bytes - head) / sizeof value);
 }
 
@@ -107,8 +113,11 @@ FillPattern makePattern(const void* pixel) {
                                          repeatControl<pixelBytes>(2)};
   const Bytes16 once = loadPixel<pixelBytes>(static_cast<const Byte*>(pixel));
   FillPattern p;
-  constexpr size_t vectors = kUniform<pixelBytes> ? 3 : sizeof p.bytes / 16;
-  for (size_t i = 0; i < vectors; ++i) store16(p.bytes + 16 * i, shuffle(once, vectorOf(controls[i % 3])));
+  const auto vector = [&](size_t i) { return shuffle(once, vectorOf(controls[i % 3])); };
+  // As wide as they will be loaded: a load over two stores would wait for both.
+  constexpr size_t vectors = kUniform<pixelBytes> ? 2 : sizeof p.bytes / kVector;
+  for (size_t i = 0; i < vectors; ++i)
+    store32(p.bytes + i * kVector, joined(vector(2 * i), vector(2 * i + 1)));
   return p;
 }
 

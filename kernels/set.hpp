@@ -11,7 +11,7 @@ namespace lumi {
 // than a pixel more; those of three samples 96 bytes, a period common to pixel and vector, and a vector more.
 struct FillPattern {
   static constexpr size_t kPeriod = 96;
-  alignas(16) uint8_t bytes[kPeriod + 32];
+  alignas(32) uint8_t bytes[kPeriod + 32];
 };
 
 template <int pixelBytes>
