@@ -52,7 +52,7 @@ struct Moving {
   }
   const Byte* sample(size_t pixel) const { return src + pixel * pixelBytes; }
   // A block that is not chosen reads no source.
-  static bool leavesOut(Bytes16 given) { return noneSet(given); }
+  static bool leavesOut(Bytes16 skip) { return allSet(skip); }
 };
 
 // A value: one vector, or three that take turns, in registers. In memory they would be read between stores
@@ -82,24 +82,31 @@ inline Bytes16 spreadOver(Bytes16 skip, size_t k) {
 }
 
 template <int pixelBytes, int usedBytes, typename Source>
-void maskedRow(const Source& source, Byte* dst, const Byte* mask, size_t pixels) {
+inline void maskedBlock(const Source& source, Byte* dst, const Byte* mask, size_t i) {
   using U = Unit<pixelBytes>;
-  size_t i = 0;
-  for (; i + kMaskBlock <= pixels; i += kMaskBlock) {
-    const Bytes16 given = load16(mask + i);
-    if (Source::leavesOut(given)) continue;
-    const Bytes16 skip = isZero(given);
-    Byte* d = dst + i * pixelBytes;
-    if constexpr (pixelBytes % 4 == 0) {
-      for (size_t k = 0; k < pixelBytes / 2; ++k)
-        U::blend(d + 32 * k, source.vector(i, k),
-                 joined(spreadOver<pixelBytes, usedBytes>(skip, 2 * k),
-                        spreadOver<pixelBytes, usedBytes>(skip, 2 * k + 1)));
-    } else {
-      for (size_t k = 0; k < pixelBytes; ++k)
-        U::blend(d + 16 * k, source.vector(i, k), spreadOver<pixelBytes, usedBytes>(skip, k));
-    }
+  const Bytes16 skip = isZero(load16(mask + i));
+  if (Source::leavesOut(skip)) return;
+  Byte* d = dst + i * pixelBytes;
+  if constexpr (pixelBytes % 4 == 0) {
+    for (size_t k = 0; k < pixelBytes / 2; ++k)
+      U::blend(d + 32 * k, source.vector(i, k),
+               joined(spreadOver<pixelBytes, usedBytes>(skip, 2 * k),
+                      spreadOver<pixelBytes, usedBytes>(skip, 2 * k + 1)));
+  } else {
+    for (size_t k = 0; k < pixelBytes; ++k)
+      U::blend(d + 16 * k, source.vector(i, k), spreadOver<pixelBytes, usedBytes>(skip, k));
   }
+}
+
+template <int pixelBytes, int usedBytes, typename Source>
+void maskedRow(const Source& source, Byte* dst, const Byte* mask, size_t pixels) {
+  size_t i = 0;
+  if constexpr (pixelBytes <= 2)  // so little work a block that the loop itself would count
+    for (; i + 2 * kMaskBlock <= pixels; i += 2 * kMaskBlock) {
+      maskedBlock<pixelBytes, usedBytes>(source, dst, mask, i);
+      maskedBlock<pixelBytes, usedBytes>(source, dst, mask, i + kMaskBlock);
+    }
+  for (; i + kMaskBlock <= pixels; i += kMaskBlock) maskedBlock<pixelBytes, usedBytes>(source, dst, mask, i);
   for (; i < pixels; ++i)
     if (mask[i]) move<usedBytes>(dst + i * pixelBytes, source.sample(i));
 }

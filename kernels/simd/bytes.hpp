@@ -68,7 +68,8 @@ inline Bytes16 both(Bytes16 a, Bytes16 b) { return _mm_and_si128(a, b); }
 inline Bytes16 select(Bytes16 zero, Bytes16 one, Bytes16 mask) { return _mm_blendv_epi8(zero, one, mask); }
 // 0xFF where the byte is zero, else 0.
 inline Bytes16 isZero(Bytes16 v) { return _mm_cmpeq_epi8(v, _mm_setzero_si128()); }
-inline bool noneSet(Bytes16 v) { return _mm_testz_si128(v, v) != 0; }
+// Whether the top bit of every byte is set.
+inline bool allSet(Bytes16 v) { return _mm_movemask_epi8(v) == 0xFFFF; }
 
 // 32-byte vectors have no integer operations at this level; the float ones move and combine bits just
 // as well, and look at no value.
