@@ -91,7 +91,7 @@ TEST(CallDiscipline, TheStackMayBeAlignedBadly) {
 }
 #endif
 
-#ifndef LUMI_SANITIZED  // the sanitizers count in the library's data, and fence it
+#ifndef LUMI_INSTRUMENTED  // sanitizers and coverage count in the library's data, or fence it
 struct Segment {
   std::string bytes;
   const char* start;
