@@ -10,7 +10,7 @@
 
 #include "support/call_checked.hpp"
 
-namespace lumi::test {
+namespace test {
 namespace {
 
 constexpr int kRowBytes = 4096, kRows = 3;
@@ -125,4 +125,4 @@ TEST(CallDiscipline, NoByteOfTheLibraryChanges) {
 #endif
 
 }  // namespace
-}  // namespace lumi::test
+}  // namespace test

@@ -6,9 +6,10 @@
 
 #include <string>
 
+#include "support/fault.hpp"
 #include "support/invoke.hpp"
 
-namespace lumi::test {
+namespace test {
 namespace {
 
 // A page that no access survives.
@@ -20,7 +21,7 @@ void* forbidden() {
 enum class Category { Null, Width, Height, Step, Harmless };
 
 // One change to an otherwise valid list of arguments.
-struct Fault {
+struct BadArgument {
   size_t argument;
   Category category;
   std::string name;
@@ -56,9 +57,9 @@ bool finds(Check check, Category category) {
 }
 
 // The first check that finds one of the faults.
-LumStatus expected(const ExportRow& row, const std::vector<const Fault*>& faults) {
+LumStatus expected(const ExportRow& row, const std::vector<const BadArgument*>& faults) {
   for (Check check : row.checks)
-    for (const Fault* fault : faults)
+    for (const BadArgument* fault : faults)
       if (finds(check, fault->category)) return statusOf(check);
   return lumStatusOk;
 }
@@ -69,9 +70,9 @@ bool checksSteps(const ExportRow& row) {
   return false;
 }
 
-std::vector<Fault> faultsOf(const ExportRow& row, size_t index) {
+std::vector<BadArgument> faultsOf(const ExportRow& row, size_t index) {
   const Argument& argument = row.arguments[index];
-  std::vector<Fault> faults;
+  std::vector<BadArgument> faults;
   const auto add = [&](Category category, const char* name, void (*apply)(Slot&, int), int detail = 0) {
     faults.push_back({index, category, name + (" of argument " + std::to_string(index)), apply, detail});
   };
@@ -121,30 +122,35 @@ std::vector<Slot> validArguments(const ExportRow& row) {
 }
 
 // Runs the call with the faults in place; returns whether it did what it should.
-::testing::AssertionResult holds(const ExportRow& row, const std::vector<const Fault*>& faults) {
+::testing::AssertionResult holds(const ExportRow& row, const std::vector<const BadArgument*>& faults) {
   std::vector<Slot> slots = validArguments(row);
-  for (const Fault* fault : faults) fault->apply(slots[fault->argument], fault->detail);
+  for (const BadArgument* fault : faults) fault->apply(slots[fault->argument], fault->detail);
   const LumStatus want = expected(row, faults);
-  const LumStatus got = row.invoke.call(row.invoke.function, slots.data());
-  if (want == got) return ::testing::AssertionSuccess();
-  auto failure = ::testing::AssertionFailure() << row.name << " gives " << got << ", not " << want << ", for";
-  for (const Fault* fault : faults) failure << " [" << fault->name << " = " << fault->detail << "]";
+  LumStatus got = lumStatusOk;
+  const auto touched = faultOf([&] { got = row.invoke.call(row.invoke.function, slots.data()); });
+  if (!touched && want == got) return ::testing::AssertionSuccess();
+  auto failure = ::testing::AssertionFailure() << row.name;
+  if (touched)
+    failure << " touches memory, and should give " << want << ", for";
+  else
+    failure << " gives " << got << ", not " << want << ", for";
+  for (const BadArgument* fault : faults) failure << " [" << fault->name << " = " << fault->detail << "]";
   return failure;
 }
 
 TEST(FaultMatrix, EveryFaultAloneAndInPairs) {
   size_t calls = 0;
   for (const ExportRow& row : exportRows()) {
-    std::vector<Fault> faults;
+    std::vector<BadArgument> faults;
     for (size_t i = 0; i < row.arguments.size(); ++i)
-      for (Fault& fault : faultsOf(row, i)) faults.push_back(std::move(fault));
-    for (const Fault& first : faults) {
+      for (BadArgument& fault : faultsOf(row, i)) faults.push_back(std::move(fault));
+    for (const BadArgument& first : faults) {
       // A harmless change alone would run the operation.
       if (first.category != Category::Harmless) {
         EXPECT_TRUE(holds(row, {&first}));
         ++calls;
       }
-      for (const Fault& second : faults) {
+      for (const BadArgument& second : faults) {
         if (&second <= &first || (second.argument == first.argument && second.category == first.category))
           continue;
         if (first.category == Category::Harmless && second.category == Category::Harmless) continue;
@@ -161,11 +167,11 @@ TEST(FaultMatrix, EveryRowHasChecksForItsArguments) {
   ASSERT_FALSE(exportRows().empty());
   for (const ExportRow& row : exportRows())
     for (size_t i = 0; i < row.arguments.size(); ++i)
-      for (const Fault& fault : faultsOf(row, i)) {
+      for (const BadArgument& fault : faultsOf(row, i)) {
         if (fault.category == Category::Harmless) continue;
         EXPECT_NE(expected(row, {&fault}), lumStatusOk) << row.name << ": no check finds " << fault.name;
       }
 }
 
 }  // namespace
-}  // namespace lumi::test
+}  // namespace test

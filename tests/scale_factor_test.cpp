@@ -6,8 +6,10 @@
 
 #include "lumi/types.h"
 
-namespace lumi::test {
+namespace test {
 namespace {
+
+using lumi::scaleAndSaturate;
 
 // x / 2^s by floor division and comparison of the remainder: no shift, no carry trick.
 int64_t nearestEven(int64_t x, int s) {
@@ -77,4 +79,4 @@ TEST(ScaleFactor, LimitsFollowFromTheRange) {
 }
 
 }  // namespace
-}  // namespace lumi::test
+}  // namespace test

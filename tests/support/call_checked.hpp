@@ -6,7 +6,7 @@
 
 #include "support/invoke.hpp"
 
-namespace lumi::test {
+namespace test {
 
 // Laid out for call_checked.S: every member is one word.
 struct CheckedCall {
@@ -21,4 +21,4 @@ struct CheckedCall {
 
 extern "C" int32_t lumiCallChecked(CheckedCall* call);
 
-}  // namespace lumi::test
+}  // namespace test

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/invoke.hpp"
 
-namespace lumi::test {
+namespace test {
 
 const std::vector<ExportRow>& exportRows() {
   static const std::vector<ExportRow> rows = {
@@ -10,4 +10,4 @@ const std::vector<ExportRow>& exportRows() {
   return rows;
 }
 
-}  // namespace lumi::test
+}  // namespace test

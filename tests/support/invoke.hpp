@@ -11,7 +11,7 @@
 
 #include "lumi.h"
 
-namespace lumi::test {
+namespace test {
 
 // What an argument is: decides which faults it can have.
 enum class Kind { Image, Planes, Values, Value, Step, Size, Number, Pointer, Optional };
@@ -107,4 +107,4 @@ struct ExportRow {
 // Every export that returns a status, in the order of the names.
 const std::vector<ExportRow>& exportRows();
 
-}  // namespace lumi::test
+}  // namespace test
