@@ -60,10 +60,12 @@ LumStatus copyMasked(const T* src, int srcStep, T* dst, int dstStep, LumiSize ro
                      int maskStep) {
   if (LumStatus fault = firstFault(pointers(src, dst, mask), size(roi))) return fault;
   constexpr int pixelBytes = kPixelBytes<T, Layout>, usedBytes = kUsedBytes<T, Layout>;
+  const Extent extent = fuse(roi, isTight(srcStep, roi.width, pixelBytes),
+                             isTight(dstStep, roi.width, pixelBytes), isTight(maskStep, roi.width, 1));
   walkRows(
-      roi.height,
+      extent.height,
       [&](const Byte* s, Byte* d, const Byte* m) {
-        copyMaskedRow<pixelBytes, usedBytes>(s, d, m, static_cast<size_t>(roi.width));
+        copyMaskedRow<pixelBytes, usedBytes>(s, d, m, extent.pixels);
       },
       rows(src, srcStep), rows(dst, dstStep), rows(mask, maskStep));
   return lumStatusOk;

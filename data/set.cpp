@@ -73,11 +73,10 @@ LumStatus fillMasked(Value value, T* dst, int dstStep, LumiSize roi, const Lum8u
   if (LumStatus fault = firstFault(pointers(value, dst, mask), size(roi))) return fault;
   constexpr int pixelBytes = kPixelBytes<T, Layout>, usedBytes = kUsedBytes<T, Layout>;
   const Block<kMaskBlock * pixelBytes, pixelBytes, usedBytes> block(samplesOf(value));
+  const Extent extent = fuse(roi, isTight(dstStep, roi.width, pixelBytes), isTight(maskStep, roi.width, 1));
   walkRows(
-      roi.height,
-      [&](Byte* d, const Byte* m) {
-        fillMaskedRow<pixelBytes, usedBytes>(block.bytes, d, m, static_cast<size_t>(roi.width));
-      },
+      extent.height,
+      [&](Byte* d, const Byte* m) { fillMaskedRow<pixelBytes, usedBytes>(block.bytes, d, m, extent.pixels); },
       rows(dst, dstStep), rows(mask, maskStep));
   return lumStatusOk;
 }
