@@ -4,7 +4,7 @@ add_library(lumi::lumi ALIAS lumi)
 add_dependencies(lumi lumi_generated)
 
 # lumi_sources(<home> <stem>...): family code, and the kernels of the same stem where it has some.
-# Kernels are optimised in every build type: unoptimised vector code is 15 to 30 times slower.
+# Kernels are optimised in every build type: unoptimised vector code is many times slower.
 # Loops start on 32 bytes: where one falls otherwise costs up to a third of a copy's speed. Tails of up to
 # fifteen samples stay loops: unrolled, they would take registers from the loop before them.
 set(LUMI_KERNEL_OPTIONS -O3 -falign-loops=32)

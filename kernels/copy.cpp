@@ -76,7 +76,7 @@ inline void copyShort(const Byte* src, Byte* dst, size_t bytes) {
 void copyForwards(const Byte* src, Byte* dst, size_t bytes) {
   const Bytes32 first = load32(src), last = load32(src + bytes - kVector);
   Byte* const end = dst + bytes;
-  const size_t head = kVector - (reinterpret_cast<uintptr_t>(dst) & (kVector - 1));
+  const size_t head = reachPastBoundary(dst, kVector);
   const Byte* s = src + head;
   Byte* d = dst + head;
   store32(dst, first);
@@ -130,7 +130,7 @@ constexpr size_t kStringMove = 0x7000;
 
 void copyByString(const Byte* src, Byte* dst, size_t bytes) {
   const Bytes32 first = load32(src), last = load32(src + bytes - kVector);
-  const size_t head = kVector - (reinterpret_cast<uintptr_t>(dst) & (kVector - 1));
+  const size_t head = reachPastBoundary(dst, kVector);
   moveDwords(dst + head, src + head, (bytes - head) / 4);
   store32(dst, first);
   store32(dst + bytes - kVector, last);

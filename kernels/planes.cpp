@@ -76,8 +76,8 @@ void splitRowBy(const Byte* src, uint8_t* const* planes, size_t pixels) {
   for (int c = 0; c < channels; ++c) to[c] = planes[c];
   const size_t bytes = pixels * sampleBytes;
   size_t i = 0;
-  // A cache line of a plane is written in one go, which doubles the speed on images that the second-level
-  // cache does not hold.
+  // A cache line of a plane is written in one go, which is up to 1.6 times faster on images that the
+  // second-level cache does not hold.
   for (; i + line <= bytes; i += line) {
     const TwoDwords4x4 low = splitTwoBlocks<sampleBytes, channels>(src + channels * i),
                        high = splitTwoBlocks<sampleBytes, channels>(src + channels * (i + line / 2));

@@ -32,9 +32,6 @@ void fillShort(const FillPattern& p, Byte* dst, size_t bytes) {
     for (size_t i = 0; i < bytes; ++i) dst[i] = p.bytes[i];
 }
 
-// How far a vector at dst reaches past the boundary inside it: 1 to 32 bytes.
-size_t reachOf(const Byte* dst) { return kVector - (reinterpret_cast<uintptr_t>(dst) & (kVector - 1)); }
-
 template <int pixelBytes>
 Bytes32 lastVector(const FillPattern& p, size_t bytes) {
   return load32(p.bytes + (kUniform<pixelBytes> ? 0 : (bytes - kVector) % FillPattern::kPeriod));
@@ -44,7 +41,7 @@ Bytes32 lastVector(const FillPattern& p, size_t bytes) {
 // first one has reached. All of the pattern is read before the first store, which might be anywhere.
 template <int pixelBytes, typename Store>
 void fillLong(const FillPattern& p, Byte* dst, size_t bytes) {
-  const size_t head = reachOf(dst);
+  const size_t head = reachPastBoundary(dst, kVector);
   const Bytes32 first = load32(p.bytes), last = lastVector<pixelBytes>(p, bytes);
   Byte* d = dst + head;
   Byte* const end = dst + bytes;
@@ -73,7 +70,7 @@ constexpr size_t kStringFill = 0x180000;
 
 template <int pixelBytes>
 void fillByString(const FillPattern& p, Byte* dst, size_t bytes) {
-  const size_t head = reachOf(dst);
+  const size_t head = reachPastBoundary(dst, kVector);
   const Bytes32 first = load32(p.bytes), last = lastVector<pixelBytes>(p, bytes);
   uint32_t value = 0;
   std::memcpy(&value, p.bytes + head % pixelBytes, sizeof value);

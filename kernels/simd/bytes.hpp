@@ -50,6 +50,11 @@ inline size_t bytesToBoundary(const void* p, size_t boundary) {
   return (0 - reinterpret_cast<uintptr_t>(p)) & (boundary - 1);
 }
 
+// How far a block of that size at p reaches past the boundary inside it: 1 to `boundary` bytes.
+inline size_t reachPastBoundary(const void* p, size_t boundary) {
+  return boundary - (reinterpret_cast<uintptr_t>(p) & (boundary - 1));
+}
+
 // A shuffle control, in memory as the instruction takes it: byte j of the result is byte control[j] of
 // the source, or zero for kZero.
 using Control = std::array<Byte, 16>;
@@ -58,10 +63,6 @@ inline constexpr Byte kZero = 0x80;
 inline Bytes16 vectorOf(const Control& c) { return load16(c.data()); }
 inline Bytes16 shuffle(Bytes16 v, Bytes16 control) { return _mm_shuffle_epi8(v, control); }
 
-// The bytes of b where mask is 0xFF, of a where it is 0.
-inline Bytes16 merge(Bytes16 a, Bytes16 b, Bytes16 mask) {
-  return _mm_or_si128(_mm_andnot_si128(mask, a), _mm_and_si128(mask, b));
-}
 inline Bytes16 either(Bytes16 a, Bytes16 b) { return _mm_or_si128(a, b); }
 inline Bytes16 both(Bytes16 a, Bytes16 b) { return _mm_and_si128(a, b); }
 // One where the mask's top bit is set, else zero's sample.
@@ -76,13 +77,12 @@ inline bool allSet(Bytes16 v) { return _mm_movemask_epi8(v) == 0xFFFF; }
 inline Bytes32 asBytes(__m256 v) { return _mm256_castps_si256(v); }
 inline __m256 asFloats(Bytes32 v) { return _mm256_castsi256_ps(v); }
 
+// The bytes of b where mask is 0xFF, of a where it is 0.
 inline Bytes32 merge(Bytes32 a, Bytes32 b, Bytes32 mask) {
   return asBytes(_mm256_or_ps(_mm256_andnot_ps(asFloats(mask), asFloats(a)),
                               _mm256_and_ps(asFloats(mask), asFloats(b))));
 }
 
-inline Bytes16 lowHalf(Bytes32 v) { return _mm256_castsi256_si128(v); }
-inline Bytes16 highHalf(Bytes32 v) { return _mm256_extractf128_si256(v, 1); }
 inline Bytes32 joined(Bytes16 low, Bytes16 high) {
   return _mm256_insertf128_si256(_mm256_castsi128_si256(low), high, 1);
 }
