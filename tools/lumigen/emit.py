@@ -190,7 +190,7 @@ def fault_rows(families):
 
 
 def _fault_arg(arg):
-    extra = {"planes": arg.about, "number": arg.base}.get(arg.kind, "0")
+    extra = {"planes": arg.count, "number": arg.base}.get(arg.kind, 0)
     return f"{{Kind::{_KIND[arg.kind]}, {extra}}}"
 
 

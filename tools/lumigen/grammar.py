@@ -32,7 +32,7 @@ class Arg:
     kind: str      # image planes step size value values number pointer optional
     name: str
     decl: str      # C declaration, name included
-    about: str = ""
+    count: int = 0   # planes of an array of them, values of an array of those
     base: str = "0"  # a valid value of a number
 
 
@@ -112,7 +112,7 @@ def _image(role, sample, layout, writable):
     step = Arg("step", f"{role}Step", f"int {role}Step")
     planes = PLANES.get(layout)
     if planes:
-        return [Arg("planes", role, f"{const}{sample}* const {role}[{planes}]", str(planes)), step]
+        return [Arg("planes", role, f"{const}{sample}* const {role}[{planes}]", planes), step]
     return [Arg("image", role, f"{const}{sample}* {role}"), step]
 
 
@@ -122,7 +122,7 @@ def _value(sample, layout):
         raise GrammarError(f"'{layout}' does not tell how many values a constant has")
     if count == 1:
         return [Arg("value", "value", f"{sample} value")]
-    return [Arg("values", "value", f"const {sample} value[{count}]", str(count))]
+    return [Arg("values", "value", f"const {sample} value[{count}]", count)]
 
 
 def _param(param, ctype):
@@ -149,9 +149,7 @@ def _grammar_args(role, types, descriptor):
         return _image("mask", "Lum8u", "C1", False) if descriptor.masked else []
     if role == "value":
         return _value(source, source_layout)
-    if role == "sfs":
-        return [Arg("number", "scaleFactor", "int scaleFactor")] if descriptor.scaled else []
-    return None
+    return [Arg("number", "scaleFactor", "int scaleFactor")] if descriptor.scaled else []
 
 
 def _in_place_roles(roles):
