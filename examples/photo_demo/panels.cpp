@@ -25,12 +25,6 @@ Planes split(const Colour& photo) {
   return planes;
 }
 
-Colour copyOf(const Colour& photo) {
-  Colour copy(photo.size());
-  place(photo, copy, 0, 0);
-  return copy;
-}
-
 int shortSide(const Colour& photo) { return std::min(photo.size().width, photo.size().height); }
 
 // The disc that several panels choose their pixels by.

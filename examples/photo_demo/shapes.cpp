@@ -43,6 +43,12 @@ void place(const Colour& picture, Colour& on, int x, int y) {
 }
 
 // A step of n rows leaves out the rows between; the columns are taken one by one.
+Colour copyOf(const Colour& picture) {
+  Colour copy(picture.size());
+  place(picture, copy, 0, 0);
+  return copy;
+}
+
 Colour everyNth(const Colour& picture, int n) {
   const LumiSize size = {(picture.size().width + n - 1) / n, (picture.size().height + n - 1) / n};
   Colour small(size);
@@ -76,11 +82,7 @@ Colour shownImage(const Grey& grey) {
   return colour;
 }
 
-Colour shownImage(const Colour& image) {
-  Colour copy(image.size());
-  place(image, copy, 0, 0);
-  return copy;
-}
+Colour shownImage(const Colour& image) { return copyOf(image); }
 
 // The alpha channel serves as the mask.
 Colour shownImage(const ColourAlpha& image) {

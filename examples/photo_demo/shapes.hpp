@@ -23,6 +23,8 @@ void fillMasked(Colour& image, const Grey& mask, const Rgb& colour);
 // Copies a whole picture into another one, its corner at (x, y).
 void place(const Colour& picture, Colour& on, int x, int y);
 
+Colour copyOf(const Colour& picture);
+
 // Every n-th pixel of every n-th row.
 Colour everyNth(const Colour& picture, int n);
 
