@@ -44,7 +44,7 @@ LumStatus fill(Value value, T* dst, int dstStep, LumiSize roi) {
   constexpr int pixelBytes = kPixelBytes<T, Layout>;
   const bool streaming = streamsOperation(bytesMoved(roi, pixelBytes));
   const Extent extent = fuse(roi, isTight(dstStep, roi.width, pixelBytes));
-  const FillPattern pattern = makePattern<pixelBytes>(samplesOf(value));
+  const PixelPattern pattern = makePattern<pixelBytes>(samplesOf(value));
   walkRows(
       extent.height, [&](Byte* d) { fillRow<pixelBytes>(pattern, d, extent.pixels * pixelBytes, streaming); },
       rows(dst, dstStep));

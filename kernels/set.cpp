@@ -16,7 +16,7 @@ template <int pixelBytes>
 constexpr bool kUniform = kVector % pixelBytes == 0;
 
 // Rows below one vector: overlapping stores of halves from both ends, all from the pattern's phase.
-void fillShort(const FillPattern& p, Byte* dst, size_t bytes) {
+void fillShort(const PixelPattern& p, Byte* dst, size_t bytes) {
   const auto ends = [&](auto half) {
     constexpr size_t n = decltype(half)::value;
     move<n>(dst, p.bytes);
@@ -33,14 +33,14 @@ void fillShort(const FillPattern& p, Byte* dst, size_t bytes) {
 }
 
 template <int pixelBytes>
-Bytes32 lastVector(const FillPattern& p, size_t bytes) {
-  return load32(p.bytes + (kUniform<pixelBytes> ? 0 : (bytes - kVector) % FillPattern::kPeriod));
+Bytes32 lastVector(const PixelPattern& p, size_t bytes) {
+  return load32(p.bytes + (kUniform<pixelBytes> ? 0 : (bytes - kVector) % PixelPattern::kPeriod));
 }
 
 // The first and the last vector go unaligned; between them the stores are aligned, at the phase that the
 // first one has reached. All of the pattern is read before the first store, which might be anywhere.
 template <int pixelBytes, typename Store>
-void fillLong(const FillPattern& p, Byte* dst, size_t bytes) {
+void fillLong(const PixelPattern& p, Byte* dst, size_t bytes) {
   const size_t head = reachPastBoundary(dst, kVector);
   const Bytes32 first = load32(p.bytes), last = lastVector<pixelBytes>(p, bytes);
   Byte* d = dst + head;
@@ -69,7 +69,7 @@ void fillLong(const FillPattern& p, Byte* dst, size_t bytes) {
 constexpr size_t kStringFill = 0x180000;
 
 template <int pixelBytes>
-void fillByString(const FillPattern& p, Byte* dst, size_t bytes) {
+void fillByString(const PixelPattern& p, Byte* dst, size_t bytes) {
   const size_t head = reachPastBoundary(dst, kVector);
   const Bytes32 first = load32(p.bytes), last = lastVector<pixelBytes>(p, bytes);
   uint32_t value = 0;
@@ -79,47 +79,10 @@ void fillByString(const FillPattern& p, Byte* dst, size_t bytes) {
   storeDwords(dst + head, value, (bytes - head) / sizeof value);
 }
 
-// A pixel in the low bytes of a vector, by way of registers: a vector load would have to wait for the
-// stores of a copy.
-template <int pixelBytes>
-Bytes16 loadPixel(const Byte* pixel) {
-  if constexpr (pixelBytes == 16) {
-    return load16(pixel);
-  } else {
-    uint32_t dwords[3] = {};
-    for (int i = 0; i < 3; ++i)
-      if (4 * i < pixelBytes)
-        std::memcpy(&dwords[i], pixel + 4 * i,
-                    static_cast<size_t>(pixelBytes - 4 * i < 4 ? pixelBytes - 4 * i : 4));
-    return dwordsOf(dwords[0], dwords[1], dwords[2]);
-  }
-}
-
-template <int pixelBytes>
-constexpr Control repeatControl(int vector) {
-  Control c{};
-  for (int j = 0; j < 16; ++j) c[j] = static_cast<Byte>((vector * 16 + j) % pixelBytes);
-  return c;
-}
-
 }  // namespace
 
 template <int pixelBytes>
-FillPattern makePattern(const void* pixel) {
-  static constexpr Control controls[] = {repeatControl<pixelBytes>(0), repeatControl<pixelBytes>(1),
-                                         repeatControl<pixelBytes>(2)};
-  const Bytes16 once = loadPixel<pixelBytes>(static_cast<const Byte*>(pixel));
-  FillPattern p;
-  const auto vector = [&](size_t i) { return shuffle(once, vectorOf(controls[i % 3])); };
-  // As wide as they will be loaded: a load over two stores would wait for both.
-  constexpr size_t vectors = kUniform<pixelBytes> ? 2 : sizeof p.bytes / kVector;
-  for (size_t i = 0; i < vectors; ++i)
-    store32(p.bytes + i * kVector, joined(vector(2 * i), vector(2 * i + 1)));
-  return p;
-}
-
-template <int pixelBytes>
-void fillRow(const FillPattern& pattern, uint8_t* dst, size_t bytes, bool streaming) {
+void fillRow(const PixelPattern& pattern, uint8_t* dst, size_t bytes, bool streaming) {
   if (bytes < kVector) return fillShort(pattern, dst, bytes);
   if constexpr (4 % pixelBytes == 0)
     if (bytes >= kStringFill) return fillByString<pixelBytes>(pattern, dst, bytes);
@@ -129,9 +92,7 @@ void fillRow(const FillPattern& pattern, uint8_t* dst, size_t bytes, bool stream
     fillLong<pixelBytes, Cached>(pattern, dst, bytes);
 }
 
-#define LUMI_PIXEL(bytes)                               \
-  template FillPattern makePattern<bytes>(const void*); \
-  template void fillRow<bytes>(const FillPattern&, uint8_t*, size_t, bool);
+#define LUMI_PIXEL(bytes) template void fillRow<bytes>(const PixelPattern&, uint8_t*, size_t, bool);
 LUMI_PIXEL(1)
 LUMI_PIXEL(2)
 LUMI_PIXEL(3)

@@ -5,21 +5,13 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "kernels/pattern.hpp"
+
 namespace lumi {
-
-// A pixel repeated, as vectors at any phase need it. Pixels that divide a vector need that vector and less
-// than a pixel more; those of three samples 96 bytes, a period common to pixel and vector, and a vector more.
-struct FillPattern {
-  static constexpr size_t kPeriod = 96;
-  alignas(32) uint8_t bytes[kPeriod + 32];
-};
-
-template <int pixelBytes>
-FillPattern makePattern(const void* pixel);
 
 // Fills `bytes` bytes, a multiple of the pixel. With `streaming` vector stores bypass the cache, and the
 // caller fences; the string store of long rows finds its own way.
 template <int pixelBytes>
-void fillRow(const FillPattern& pattern, uint8_t* dst, size_t bytes, bool streaming);
+void fillRow(const PixelPattern& pattern, uint8_t* dst, size_t bytes, bool streaming);
 
 }  // namespace lumi

@@ -46,6 +46,17 @@ typedef struct {
   int x, y, width, height;
 } LumiRect;
 
+/** How a result between two integers becomes one. */
+typedef int32_t LumRoundMode;
+enum {
+  lumRoundTowardZero = 0,  /**< magnitude truncated */
+  lumRoundNearestEven = 1, /**< to the nearest integer, ties to the even one */
+  lumRoundHalfAway = 2     /**< to the nearest integer, ties away from zero */
+};
+
+/** 2 asks for the accurate way of an operation that has two; any other value for the fast one. */
+typedef int32_t LumAlgorithmHint;
+
 /** What lumiGetLibVersion returns: a constant record. */
 typedef struct {
   int major;               /**< release number */

@@ -31,6 +31,12 @@ inline Bytes16 dwordsOf(uint32_t a, uint32_t b, uint32_t c) {
 }
 
 inline Bytes32 load32(const Byte* p) { return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p)); }
+// The same for values whose halves are used apart, which compilers would load apart: twice the loads.
+inline Bytes32 load32Whole(const Byte* p) {
+  Bytes32 v = load32(p);
+  asm("" : "+x"(v));
+  return v;
+}
 inline void store32(Byte* p, Bytes32 v) { _mm256_storeu_si256(reinterpret_cast<__m256i*>(p), v); }
 // Past the cache; p on a 32-byte boundary.
 inline void stream32(Byte* p, Bytes32 v) { _mm256_stream_si256(reinterpret_cast<__m256i*>(p), v); }
@@ -86,6 +92,17 @@ inline Bytes32 merge(Bytes32 a, Bytes32 b, Bytes32 mask) {
 inline Bytes32 joined(Bytes16 low, Bytes16 high) {
   return _mm256_insertf128_si256(_mm256_castsi128_si256(low), high, 1);
 }
+inline Bytes16 lowHalf(Bytes32 v) { return _mm256_castsi256_si128(v); }
+inline Bytes16 highHalf(Bytes32 v) { return _mm256_extractf128_si256(v, 1); }
+
+// Thirty-two bytes in two registers.
+struct Halves32 {
+  Bytes16 low, high;
+};
+inline Halves32 merge(Bytes32 a, Halves32 b, Bytes32 mask) {
+  return {select(lowHalf(a), b.low, lowHalf(mask)), select(highHalf(a), b.high, highHalf(mask))};
+}
+
 // A half of the first vector (0 low, 1 high), then a half of the second.
 template <int a, int b>
 inline Bytes32 halvesOf(Bytes32 first, Bytes32 second) {
@@ -158,10 +175,18 @@ inline TwoDwords4x4 transposed(const TwoDwords4x4& m) {
 struct Cached {
   static void store(Byte* p, Bytes16 v) { store16(p, v); }
   static void store(Byte* p, Bytes32 v) { store32(p, v); }
+  static void store(Byte* p, Halves32 v) {
+    store16(p, v.low);
+    store16(p + 16, v.high);
+  }
 };
 struct Streaming {
   static void store(Byte* p, Bytes16 v) { stream16(p, v); }
   static void store(Byte* p, Bytes32 v) { stream32(p, v); }
+  static void store(Byte* p, Halves32 v) {
+    stream16(p, v.low);
+    stream16(p + 16, v.high);
+  }
 };
 
 // Eight pixels of three dwords. In each half, the vectors hold the first, second and third dwords-of-four

@@ -13,6 +13,8 @@ CHECK_TEXT = {
     "size": "lumStatusBadSize (-6)      roi.width or roi.height is below 1",
     "width": "lumStatusBadSize (-6)      roi.width is below 1",
     "step": "lumStatusBadStep (-14)     a step is below 1",
+    "offset": "lumStatusBadSize (-6)      a bit offset is negative",
+    "range": "lumStatusBadDataRange (-13) upper is not above lower",
 }
 
 
@@ -107,12 +109,15 @@ def headers(families):
     return files
 
 
-def _template_args(export):
-    """A binding is instantiated over every sample type and then every layout of the name."""
-    if "<" in export.bind or not (export.types or export.layouts):
-        return ""
-    names = [grammar.SAMPLE_TYPES[t] for t in export.types] + list(export.layouts)
-    return "<" + ", ".join(names) + ">"
+def bound_function(export):
+    """A binding is instantiated over every sample type and then every layout of the name. Template arguments
+    of its own replace them, or stand before them where the list ends in a star."""
+    names = ", ".join([grammar.SAMPLE_TYPES[t] for t in export.types] + list(export.layouts))
+    if export.bind.endswith("*>"):
+        return f"{export.bind[:-2]}{names}>"
+    if "<" in export.bind or not names:
+        return export.bind
+    return f"{export.bind}<{names}>"
 
 
 def bindings(family):
@@ -126,7 +131,7 @@ def bindings(family):
             result = "" if export.returns == "void" else "return "
             lines += [
                 f"{prototype(export, implementation(export))} {{",
-                f"  {result}{export.bind}{_template_args(export)}({call});",
+                f"  {result}{bound_function(export)}({call});",
                 "}",
             ]
     return "\n".join(lines + ['}  // extern "C"', ""])
@@ -174,7 +179,8 @@ def entry_stubs(families):
 
 
 _KIND = {"image": "Image", "planes": "Planes", "values": "Values", "value": "Value", "step": "Step",
-         "size": "Size", "number": "Number", "pointer": "Pointer", "optional": "Optional"}
+         "size": "Size", "number": "Number",
+         "offset": "Offset", "lower": "Lower", "upper": "Upper", "pointer": "Pointer", "optional": "Optional"}
 
 
 def fault_rows(families):

@@ -13,7 +13,7 @@ SAMPLE_TYPES = {
 CHANNELS = {"C1": 1, "C2": 2, "C3": 3, "C4": 4, "AC4": 3, "AC1": 1, "C3C": 1, "C4C": 1}
 PLANES = {"P2": 2, "P3": 3, "P4": 4, "AP4": 4}
 
-ROLES = ("src", "src1", "src2", "dst", "srcDst", "roi", "mask", "value", "sfs")
+ROLES = ("src", "src1", "src2", "dst", "srcDst", "roi", "mask", "value", "bounds", "sfs")
 
 _TYPE = r"\d+(?:uc|sc|fc|u|s|f)"
 _TYPES = re.compile(rf"({_TYPE})({_TYPE})?$")
@@ -29,7 +29,7 @@ class GrammarError(ValueError):
 class Arg:
     """One argument of a C prototype. `kind` says what the fault tests may do with it."""
 
-    kind: str      # image planes step size value values number pointer optional
+    kind: str      # image planes step offset size value values number lower upper pointer optional
     name: str
     decl: str      # C declaration, name included
     count: int = 0   # planes of an array of them, values of an array of those
@@ -107,13 +107,15 @@ def parse_descriptor(token):
     return Descriptor(layouts, bool(in_place), bool(masked), bool(roi), bool(scaled))
 
 
-def _image(role, sample, layout, writable):
-    const = "" if writable else "const "
-    step = Arg("step", f"{role}Step", f"int {role}Step")
+def _image(role, token, layout, writable):
+    const, sample = "" if writable else "const ", SAMPLE_TYPES[token]
+    place = [Arg("step", f"{role}Step", f"int {role}Step")]
+    if token == "1u":
+        place.append(Arg("offset", f"{role}BitOffset", f"int {role}BitOffset"))
     planes = PLANES.get(layout)
     if planes:
-        return [Arg("planes", role, f"{const}{sample}* const {role}[{planes}]", planes), step]
-    return [Arg("image", role, f"{const}{sample}* {role}"), step]
+        return [Arg("planes", role, f"{const}{sample}* const {role}[{planes}]", planes)] + place
+    return [Arg("image", role, f"{const}{sample}* {role}")] + place
 
 
 def _value(sample, layout):
@@ -138,34 +140,26 @@ def _grammar_args(role, types, descriptor):
     if not types or not descriptor:
         raise GrammarError(f"'{role}' follows from a sample type and a descriptor, and the member lacks one")
     source_layout, dest_layout = descriptor.layouts[0], descriptor.layouts[-1]
-    source, dest = SAMPLE_TYPES[types[0]], SAMPLE_TYPES[types[-1]]
     if role in ("src", "src1", "src2"):
-        return _image(role, source, source_layout, False)
+        return _image(role, types[0], source_layout, False)
     if role in ("dst", "srcDst"):
-        return _image(role, dest, dest_layout, True)
+        return _image(role, types[-1], dest_layout, True)
     if role == "roi":
         return [Arg("size", "roi", "LumiSize roi")] if descriptor.roi else []
     if role == "mask":
-        return _image("mask", "Lum8u", "C1", False) if descriptor.masked else []
+        return _image("mask", "8u", "C1", False) if descriptor.masked else []
     if role == "value":
-        return _value(source, source_layout)
+        return _value(SAMPLE_TYPES[types[0]], source_layout)
+    if role == "bounds":
+        return [Arg("lower", "lower", "Lum32f lower"), Arg("upper", "upper", "Lum32f upper")]
     return [Arg("number", "scaleFactor", "int scaleFactor")] if descriptor.scaled else []
 
 
 def _in_place_roles(roles):
-    """In place the destination goes, and the last source is both."""
+    """In place the last source is the destination, and stands where that would."""
     sources = [r for r in roles if r in ("src", "src1", "src2")]
-    kept = []
-    for role in roles:
-        if role == "dst":
-            if not sources:
-                kept.append("srcDst")
-            continue
-        if sources and role == sources[-1]:
-            kept.append("srcDst")
-        else:
-            kept.append({"src1": "src"}.get(role, role))
-    return kept
+    names = {"dst": "srcDst", "src1": "src"}
+    return [names.get(r, r) for r in roles if not sources or r != sources[-1]]
 
 
 def arguments(roles, params, types, descriptor):

@@ -61,8 +61,18 @@ class Prototypes(unittest.TestCase):
 
     def test_in_place_with_a_constant(self):
         self.assertEqual(self.prototype("src value dst roi", "32f C3IR", "32f_C3IR"),
-                         "LumStatus lumiProbe_32f_C3IR(Lum32f* srcDst, int srcDstStep, const Lum32f value[3], "
+                         "LumStatus lumiProbe_32f_C3IR(const Lum32f value[3], Lum32f* srcDst, int srcDstStep, "
                          "LumiSize roi)")
+
+    def test_bit_images_have_an_offset(self):
+        self.assertEqual(self.prototype("src dst roi", "8u1u C1R", "8u1u_C1R"),
+                         "LumStatus lumiProbe_8u1u_C1R(const Lum8u* src, int srcStep, Lum8u* dst, int dstStep, "
+                         "int dstBitOffset, LumiSize roi)")
+
+    def test_bounds(self):
+        self.assertEqual(self.prototype("src dst roi bounds", "32f8u C1R", "32f8u_C1R"),
+                         "LumStatus lumiProbe_32f8u_C1R(const Lum32f* src, int srcStep, Lum8u* dst, int dstStep, "
+                         "LumiSize roi, Lum32f lower, Lum32f upper)")
 
     def test_two_types_and_planes(self):
         self.assertEqual(self.prototype("src dst roi", "8u32f C3P3R", "8u32f_C3P3R"),
