@@ -23,21 +23,21 @@ extern "C" {
  * a source. Where it overlaps one otherwise, each row is done sample by sample in order. Real members take
  * any step, zero and negative ones included, and any alignment.
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u 16u 16s 32f: C1 AC4):
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u 16u 16s 32f: C3 C4):
  *   lumStatusBadSize (-6)      roi.width is below 1
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (16sc 32sc 32fc: C1 AC4):
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
  *   lumStatusBadStep (-14)     a step is below 1
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (16sc 32sc 32fc: C3):
  *   lumStatusBadSize (-6)      roi.width is below 1
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
@@ -146,21 +146,21 @@ LumStatus lumiAdd_8u_C4RSfs(const Lum8u* src1, int src1Step, const Lum8u* src2, 
  * members a negative difference counts as 0 before it is scaled. Float, complex and AC4 members, limits
  * of the scale factor, overlap, steps and alignment are as in lumiAdd.
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u 16u 16s 32f: C1 AC4):
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u 16u 16s 32f: C3 C4):
  *   lumStatusBadSize (-6)      roi.width is below 1
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (16sc 32sc 32fc: C1 AC4):
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
  *   lumStatusBadStep (-14)     a step is below 1
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (16sc 32sc 32fc: C3):
  *   lumStatusBadSize (-6)      roi.width is below 1
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
@@ -267,11 +267,11 @@ LumStatus lumiSub_8u_C4RSfs(const Lum8u* src1, int src1Step, const Lum8u* src2, 
  * AC4 three, C4 four, one for each channel; they are read before any pixel is touched. Scaling, limits,
  * float, complex and AC4 members, overlap, steps and alignment are as in lumiAdd.
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u 16u 16s 32f: C1 C3 C4 AC4):
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (16sc 32sc 32fc: C1 C3 AC4):
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
  *   lumStatusBadStep (-14)     a step is below 1
@@ -373,11 +373,11 @@ LumStatus lumiAddC_8u_C4RSfs(const Lum8u* src, int srcStep, const Lum8u value[4]
  * dst(x, y) = src(x, y) - value, in place srcDst(x, y) = srcDst(x, y) - value. In unsigned members a
  * negative difference counts as 0 before it is scaled. All else is as in lumiAddC.
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u 16u 16s 32f: C1 C3 C4 AC4):
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (16sc 32sc 32fc: C1 C3 AC4):
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
  *   lumStatusBadStep (-14)     a step is below 1
