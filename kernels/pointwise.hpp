@@ -54,8 +54,9 @@ template <typename Rule>
 // Where the first and last block lie over others, all of them are made of what was there before: they are
 // made first and stored last, so that the destination may be the source.
 template <typename Store, typename Rule, size_t... k, size_t... rest>
-[[gnu::noinline, gnu::flatten]] void runLong(Byte* d, size_t bytes, const Rule& rule,
+[[gnu::noinline, gnu::flatten]] void runLong(Byte* d, size_t bytes, const Rule& given,
                                              std::index_sequence<k...>, std::index_sequence<rest...>) {
+  const Rule rule = given;  // of our own: bytes stored could change the other, for all that compilers know
   const size_t reach = reachPastBoundary(d, kBlock);
   const bool canAlign = reach % Rule::kSample == 0;
   const auto first = rule.block(0, rule.phase(0));
@@ -121,7 +122,9 @@ struct ImageRow {
 
   const Byte* operator()(size_t at) const { return first + sourceBytes(at); }
   Phase phase(size_t) const { return {}; }
-  Bytes32 block(size_t at, Phase) const { return load32Whole(first + at); }
+  Bytes32 block(size_t at, Phase) const {
+    return std::is_same_v<S, float> ? load32(first + at) : load32Whole(first + at);
+  }
   Bytes16 half(size_t at) const { return load16(first + at); }
   size_t distance(const Byte* d, size_t bytes) const {
     if (sizeof(S) != sizeof(D) || d == first) return bytes;
