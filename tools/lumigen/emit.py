@@ -66,7 +66,7 @@ def _doc_block(op):
         lines += [""] + [f"  {p.name:<10} {p.about}" for p in op.params]
     cohorts = {}
     for export in op.exports:
-        if export.check:
+        if export.check and export.check != ("own",):
             cohorts.setdefault(export.check, []).append(export)
     for check, exports in cohorts.items():
         members = f" ({_members(exports)})" if len(cohorts) > 1 else ""
