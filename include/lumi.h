@@ -6,6 +6,7 @@
 
 #include "lumi/types.h"
 
+#include "lumi/convert.h"
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"
 #include "lumi/image_memory.h"
