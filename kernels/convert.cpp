@@ -57,13 +57,18 @@ struct Conversion : Unary<S, D, Converted<S, D>> {
 
 template <typename S, typename D, int alpha, bool streaming>
 void convertRow(const uint8_t* src, uint8_t* dst, size_t samples) {
-  using Store = std::conditional_t<streaming, Streaming, Cached>;
-  constexpr size_t pixel = alpha ? 4 * sizeof(D) : sizeof(D);
-  runPixels<pixel, pixel - alpha * sizeof(D), Store>(dst, samples * sizeof(D), Conversion<S, D>(src));
+  constexpr size_t pixel = alpha ? 4 * sizeof(D) : sizeof(D), used = pixel - alpha * sizeof(D);
+  const Conversion<S, D> rule(src);
+  if constexpr (streaming) {
+    // Streaming blocks lie on boundaries, which samples at odd addresses never reach.
+    if (isAligned(dst, sizeof(D))) return runPixels<pixel, used, Streaming>(dst, samples * sizeof(D), rule);
+  }
+  runPixels<pixel, used>(dst, samples * sizeof(D), rule);
 }
 
 #define LUMI_PLAIN(S, D) template void convertRow<S, D, 0, false>(const Byte*, Byte*, size_t);
-#define LUMI_ALPHA(S, D) LUMI_PLAIN(S, D) template void convertRow<S, D, 1, false>(const Byte*, Byte*, size_t);
+#define LUMI_ALPHA(S, D) \
+  LUMI_PLAIN(S, D) template void convertRow<S, D, 1, false>(const Byte*, Byte*, size_t);
 #define LUMI_STREAMING(S, D) \
   LUMI_ALPHA(S, D) template void convertRow<S, D, 0, true>(const Byte*, Byte*, size_t);
 LUMI_STREAMING(uint8_t, int16_t)

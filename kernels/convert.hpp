@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Row kernels of the conversions between sample types. All convert `samples` samples; where alpha is not 0 the
-// last sample of every four is alpha, which stays in the destination. Rows of samples of equal size may be one
-// row, and where they overlap otherwise the samples are made one by one in order; other rows do not overlap.
+// Row kernels of the conversions between sample types. All convert `samples` samples; where alpha is not 0
+// the last sample of every four is alpha, which stays in the destination. Rows of samples of equal size may
+// be one row, and where they overlap otherwise the samples are made one by one in order; other rows do not
+// overlap.
 #pragma once
 
 #include <cstddef>
@@ -16,7 +17,7 @@ void convertRow(const uint8_t* src, uint8_t* dst, size_t samples);
 
 // How floats become integers. The rounding control has to be set: to truncate where ties go away from zero.
 struct FloatConversion {
-  bool away;     // to nearest, ties away from zero; otherwise as the rounding control says
+  bool away;  // to nearest, ties away from zero; otherwise as the rounding control says
   bool isScaled;
   float factor;  // of the samples, where they are scaled
 };

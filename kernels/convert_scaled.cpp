@@ -11,9 +11,8 @@ using namespace simd;
 // What the work is done in: words or dwords that hold every sample, signed if a result can be negative.
 template <typename S, typename D>
 struct WorkOf {
-  using Type = std::conditional_t<
-      sizeof(S) == 1, uint16_t,
-      std::conditional_t<std::is_signed_v<D>, S, std::make_unsigned_t<S>>>;
+  using Type = std::conditional_t<sizeof(S) == 1, uint16_t,
+                                  std::conditional_t<std::is_signed_v<D>, S, std::make_unsigned_t<S>>>;
 };
 
 template <typename W>
@@ -72,9 +71,7 @@ struct RoundAway {
   struct Divided {
     Shift shift, toHalves;
     explicit Divided(int s) : shift(s), toHalves(s - 1) {}
-    Samples<W> operator()(Samples<W> x) const {
-      return (x >> shift) + ((x >> toHalves) & broadcast<W>(1));
-    }
+    Samples<W> operator()(Samples<W> x) const { return (x >> shift) + ((x >> toHalves) & broadcast<W>(1)); }
   };
 };
 

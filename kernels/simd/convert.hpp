@@ -70,7 +70,8 @@ std::enable_if_t<std::is_unsigned_v<T>, Samples<D>> packed(Samples<T> a, Samples
 template <typename D, typename W>
 Samples<D> narrowed(Samples<W> x) {
   static_assert(sizeof(D) == sizeof(W));
-  if constexpr (std::is_same_v<D, W>) return x;
+  if constexpr (std::is_same_v<D, W>)
+    return x;
   else if constexpr (std::is_unsigned_v<W>)
     return {smaller(x, broadcast<W>(std::numeric_limits<D>::max())).v};
   else

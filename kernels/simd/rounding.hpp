@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Floats to integers and back. What rounds does so by the vector unit's rounding control, unless its name says
-// otherwise.
+// Floats to integers and back. What rounds does so by the vector unit's rounding control, unless its name
+// says otherwise.
 #pragma once
 
 #include "kernels/simd/samples.hpp"
