@@ -325,12 +325,13 @@ TEST(Convert, FailureLeavesTheRoundingAlone) {
 template <typename S>
 void expectCallersRounding(const char* name) {
   const std::vector<S> samples = specialIntegers<S>();
+  const std::vector<double> exact(samples.begin(), samples.end());
   for (unsigned rounding : kRoundings) {
     const CallerRounding caller(rounding);
     const auto results = converted<S, float>(memberNamed(name), samples, 0, 0);
     for (size_t i = 0; i < samples.size(); ++i) {
-      volatile double exact = samples[i];  // rounds here and now, not when compiled
-      const auto right = static_cast<float>(exact);
+      volatile double x = exact[i];  // rounds here and now, not when compiled
+      const auto right = static_cast<float>(x);
       ASSERT_EQ(results[i], right) << name << " of " << samples[i] << ", caller's rounding " << rounding;
       ASSERT_EQ(std::signbit(results[i]), std::signbit(right)) << name << " of " << samples[i];
     }

@@ -82,4 +82,10 @@ Peer spread(View src, View dst) {
   return peer("opencv", [s = mat(src), d = mat(dst)] { cv::cvtColor(s, d, cv::COLOR_GRAY2BGR); });
 }
 
+Peer convert(View src, View dst) { return convertScaled(src, dst, 1); }
+
+Peer convertScaled(View src, View dst, double factor) {
+  return peer("opencv", [s = mat(src), d = mat(dst), factor]() mutable { s.convertTo(d, d.type(), factor); });
+}
+
 }  // namespace bench::opencv

@@ -20,4 +20,8 @@ namespace bench::opencv {
 [[gnu::weak]] Peer dropAlpha(View src, View dst);
 [[gnu::weak]] Peer spread(View src, View dst);
 
+// To the destination's type; multiplied by a factor before.
+[[gnu::weak]] Peer convert(View src, View dst);
+[[gnu::weak]] Peer convertScaled(View src, View dst, double factor);
+
 }  // namespace bench::opencv
