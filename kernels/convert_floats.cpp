@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "kernels/conversion_rule.hpp"
 #include "kernels/convert.hpp"
-#include "kernels/pointwise.hpp"
 #include "kernels/simd/convert.hpp"
 #include "kernels/simd/rounding.hpp"
 
@@ -90,15 +90,13 @@ struct FromFloats {
     if constexpr (sizeof(D) == 4)
       return at(p, 0).v;
     else
-      return Halves32{half(p), half(p + kHalf / sizeof(D) * sizeof(float))};
+      return Halves32{half(p), half(p + kSourceOfHalf<float, D>)};
   }
 };
 
 template <typename D, int alpha, typename Rounding, bool isScaled>
 void run(const Byte* src, Byte* dst, size_t samples, float factor) {
-  constexpr size_t pixel = alpha ? 4 * sizeof(D) : sizeof(D);
-  const Unary<float, D, FromFloats<D, Rounding, isScaled>> rule{{src}, {{factor}}};
-  runPixels<pixel, pixel - alpha * sizeof(D)>(dst, samples * sizeof(D), rule);
+  runConversion<float, D, alpha>(src, dst, samples, FromFloats<D, Rounding, isScaled>{{factor}});
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "kernels/conversion_rule.hpp"
 #include "kernels/convert.hpp"
-#include "kernels/pointwise.hpp"
 #include "kernels/simd/convert.hpp"
 
 namespace lumi {
@@ -97,8 +97,6 @@ template <typename S, typename D, typename F>
 struct Rescaled {
   F f;
   using W = typename WorkOf<S, D>::Type;
-  static constexpr size_t kHalfSource = kHalf / sizeof(D) * sizeof(S);
-
   Samples<W> at(const Byte* p, size_t vector) const {
     return f(loadAs<S, W>(p + vector * (kHalf / sizeof(W) * sizeof(S))));
   }
@@ -110,7 +108,7 @@ struct Rescaled {
     else
       return narrowed<D>(at(p, 0), at(p, 1), at(p, 2), at(p, 3)).v;
   }
-  Halves32 block(const Byte* p) const { return {half(p), half(p + kHalfSource)}; }
+  Halves32 block(const Byte* p) const { return {half(p), half(p + kSourceOfHalf<S, D>)}; }
 };
 
 }  // namespace
@@ -118,9 +116,7 @@ struct Rescaled {
 template <typename S, typename D>
 void convertScaledRow(const uint8_t* src, uint8_t* dst, size_t samples, Rescaling how) {
   using W = typename WorkOf<S, D>::Type;
-  const auto run = [&](auto f) {
-    runRow(dst, samples * sizeof(D), Unary<S, D, Rescaled<S, D, decltype(f)>>{{src}, {f}});
-  };
+  const auto run = [&](auto f) { runConversion<S, D, 0>(src, dst, samples, Rescaled<S, D, decltype(f)>{f}); };
   switch (how.path) {
     case Rescaling::Saturate:
       return run(Unscaled<W>(0));

@@ -38,12 +38,27 @@ Samples<W> widened(Samples<T> x) {
   }
 }
 
+// The first or the last eight bytes as words.
+inline U16 widenedLow(U8 x) { return {_mm_unpacklo_epi8(x.v, _mm_setzero_si128())}; }
+inline U16 widenedHigh(U8 x) { return {_mm_unpackhi_epi8(x.v, _mm_setzero_si128())}; }
+
 // As many T samples as a vector of W has, with every negative one made 0 if W is unsigned.
 template <typename T, typename W>
 Samples<W> loadAs(const Byte* p) {
   Samples<T> x{loadFew<sizeof(T) * 16 / sizeof(W)>(p)};
   if constexpr (std::is_signed_v<T> && std::is_unsigned_v<W>) x = larger(x, broadcast<T>(0));
   return widened<W>(x);
+}
+
+// Two vectors at once.
+template <typename T>
+struct TwoSamples {
+  Samples<T> low, high;
+};
+template <typename T>
+TwoSamples<T> loadTwo(const Byte* p) {
+  const Bytes32 v = load32Whole(p);
+  return {{lowHalf(v)}, {highHalf(v)}};
 }
 
 // Limited to a type D of half the size.
@@ -81,9 +96,17 @@ template <typename D, typename W>
 Samples<D> narrowed(Samples<W> a, Samples<W> b) {
   return packed<D>(a, b);
 }
+template <typename D, typename W>
+Samples<D> narrowed(TwoSamples<W> x) {
+  return packed<D>(x.low, x.high);
+}
 template <typename D>
 Samples<D> narrowed(S32 a, S32 b, S32 c, S32 d) {
   return packed<D>(packed<int16_t>(a, b), packed<int16_t>(c, d));
+}
+template <typename D, typename W>
+Samples<D> narrowed(TwoSamples<W> a, TwoSamples<W> b) {
+  return narrowed<D>(a.low, a.high, b.low, b.high);
 }
 template <typename D>
 Samples<D> narrowed(U32 a, U32 b, U32 c, U32 d) {
