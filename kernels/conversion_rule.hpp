@@ -50,11 +50,13 @@ template <typename S, typename D, typename Store, typename F>
   const size_t reach = reachPastBoundary(dst, kBlock);
   make(cached, 0);
   size_t i = reach / sizeof(D);
-  for (; i + 2 * block <= samples; i += 2 * block) {
+  for (; i + 4 * block <= samples; i += 4 * block) {
     make(chosen, i);
     make(chosen, i + block);
+    make(chosen, i + 2 * block);
+    make(chosen, i + 3 * block);
   }
-  if (i + block <= samples) make(cached, i);
+  for (; i + block <= samples; i += block) make(cached, i);
   make(cached, samples - block);
 }
 

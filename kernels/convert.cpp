@@ -27,7 +27,7 @@ struct Converted {
     if constexpr (std::is_same_v<D, float> && std::is_same_v<S, int32_t>) {
       return bytesOf(floatsOf(Ints8{load32(p)}));
     } else if constexpr (std::is_same_v<S, uint8_t> && sizeof(D) == 2) {
-      const U8 x{load16(p)};
+      const U8 x{load16Whole(p)};
       return Halves32{widenedLow(x).v, widenedHigh(x).v};
     } else {
       return Halves32{half(p), half(p + kSourceOfHalf<S, D>)};

@@ -21,6 +21,13 @@ Bytes16 loadFew(const Byte* p) {
   }
 }
 
+// A load for values that are used twice, which compilers would load twice.
+inline Bytes16 load16Whole(const Byte* p) {
+  Bytes16 v = load16(p);
+  asm("" : "+x"(v));
+  return v;
+}
+
 // The first samples of a vector in a wider type W, one that holds them all.
 template <typename W, typename T>
 Samples<W> widened(Samples<T> x) {
