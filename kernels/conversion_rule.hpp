@@ -39,30 +39,26 @@ struct Conversion {
 };
 
 // A row of a block or more that shares no memory with its source. It counts in samples: offsets of the wider
-// side follow from those of the narrower one for nothing, but not the other way round.
-template <typename S, typename D, typename Store, typename F>
-[[gnu::noinline, gnu::flatten]] void runApart(const Byte* src, Byte* dst, size_t samples, const F& work) {
-  constexpr size_t block = kBlock / sizeof(D);
+// side follow from those of the narrower one for nothing, but not the other way round. First come the blocks
+// on boundaries, in rounds, then the first block and those that are left.
+template <typename S, typename D, typename Store, typename F, size_t... k>
+[[gnu::noinline, gnu::flatten]] void runApart(const Byte* src, Byte* dst, size_t samples, const F& work,
+                                              std::index_sequence<k...>) {
+  constexpr size_t block = kBlock / sizeof(D), round = sizeof...(k) * block;
   const F f = work;  // no store changes a copy
-  const auto make = [&](auto store, size_t i) { store(dst + i * sizeof(D), f.block(src + i * sizeof(S))); };
-  const auto cached = [](Byte* d, auto results) { Cached::store(d, results); };
-  const auto chosen = [](Byte* d, auto results) { Store::store(d, results); };
-  const size_t reach = reachPastBoundary(dst, kBlock);
-  make(cached, 0);
-  size_t i = reach / sizeof(D);
-  for (; i + 4 * block <= samples; i += 4 * block) {
-    make(chosen, i);
-    make(chosen, i + block);
-    make(chosen, i + 2 * block);
-    make(chosen, i + 3 * block);
+  const auto results = [&](size_t i) { return f.block(src + i * sizeof(S)); };
+  size_t next = reachPastBoundary(dst, kBlock) / sizeof(D);
+  for (; next + round <= samples; next += round)
+    (Store::store(dst + (next + k * block) * sizeof(D), results(next + k * block)), ...);
+  for (size_t i = 0; i < samples; i = i == 0 ? next : i + block) {
+    const size_t at = i + block <= samples ? i : samples - block;
+    Cached::store(dst + at * sizeof(D), results(at));
   }
-  for (; i + block <= samples; i += block) make(cached, i);
-  make(cached, samples - block);
 }
 
-// Runs a conversion over `samples` samples, of which the last `alpha` of every four stay. Store is how whole
-// blocks on boundaries are stored; samples at odd addresses never reach one.
-template <typename S, typename D, int alpha, typename Store = Cached, typename F>
+// Runs a conversion over `samples` samples, of which the last `alpha` of every four stay; `blocks` a round.
+// Store is how blocks on boundaries are stored; samples at odd addresses never reach one.
+template <typename S, typename D, int alpha, size_t blocks = 4, typename Store = Cached, typename F>
 void runConversion(const Byte* src, Byte* dst, size_t samples, const F& f) {
   const Conversion<S, D, F> rule{{src}, f};
   const size_t bytes = samples * sizeof(D);
@@ -76,9 +72,9 @@ void runConversion(const Byte* src, Byte* dst, size_t samples, const F& f) {
     store16(dst, rule.half(0));
     store16(dst + bytes - kHalf, rule.half(bytes - kHalf));
   } else if (isAligned(dst, sizeof(D))) {
-    runApart<S, D, Store>(src, dst, samples, f);
+    runApart<S, D, Store>(src, dst, samples, f, std::make_index_sequence<blocks>());
   } else {
-    runApart<S, D, Cached>(src, dst, samples, f);
+    runApart<S, D, Cached>(src, dst, samples, f, std::make_index_sequence<blocks>());
   }
 }
 

@@ -40,7 +40,7 @@ struct Converted {
 template <typename S, typename D, int alpha, bool streaming>
 void convertRow(const uint8_t* src, uint8_t* dst, size_t samples) {
   using Store = std::conditional_t<streaming, Streaming, Cached>;
-  runConversion<S, D, alpha, Store>(src, dst, samples, Converted<S, D>());
+  runConversion<S, D, alpha, 4, Store>(src, dst, samples, Converted<S, D>());
 }
 
 #define LUMI_PLAIN(S, D) template void convertRow<S, D, 0, false>(const Byte*, Byte*, size_t);

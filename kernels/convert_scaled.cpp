@@ -8,12 +8,9 @@ namespace {
 
 using namespace simd;
 
-// What the work is done in: words or dwords that hold every sample, signed if a result can be negative.
-template <typename S, typename D>
-struct WorkOf {
-  using Type = std::conditional_t<sizeof(S) == 1, uint16_t,
-                                  std::conditional_t<std::is_signed_v<D>, S, std::make_unsigned_t<S>>>;
-};
+// What the work is done in: bytes are widened.
+template <typename S>
+using WorkOf = std::conditional_t<sizeof(S) == 1, uint16_t, S>;
 
 template <typename W>
 struct Unscaled {
@@ -75,6 +72,24 @@ struct RoundAway {
   };
 };
 
+// To nearest, ties to even, for s below the type's bits by 2 at least. The quotient may be negative: it is
+// the floor then, and the rest is what is above it.
+template <typename W>
+inline constexpr int kMostBits = 8 * sizeof(W) - 2;
+template <typename W>
+struct DividedToEven {
+  Shift shift;
+  Samples<W> rest, half;
+  explicit DividedToEven(int s)
+      : shift(s),
+        rest(broadcast(static_cast<W>((uint32_t{1} << s) - 1))),
+        half(broadcast(static_cast<W>(uint32_t{1} << (s - 1)))) {}
+  Samples<W> operator()(Samples<W> x) const {
+    const Samples<W> q = x >> shift, tieUp = q & broadcast<W>(1);
+    return q - isAboveSigned((x & rest) + tieUp, half);  // all ones is -1
+  }
+};
+
 // Signed numbers are divided as magnitudes.
 template <typename W, typename Rounding>
 class Divided {
@@ -96,7 +111,7 @@ class Divided {
 template <typename S, typename D, typename F>
 struct Rescaled {
   F f;
-  using W = typename WorkOf<S, D>::Type;
+  using W = WorkOf<S>;
   Samples<W> at(const Byte* p, size_t vector) const {
     return f(loadAs<S, W>(p + vector * (kHalf / sizeof(W) * sizeof(S))));
   }
@@ -115,8 +130,10 @@ struct Rescaled {
 
 template <typename S, typename D>
 void convertScaledRow(const uint8_t* src, uint8_t* dst, size_t samples, Rescaling how) {
-  using W = typename WorkOf<S, D>::Type;
-  const auto run = [&](auto f) { runConversion<S, D, 0>(src, dst, samples, Rescaled<S, D, decltype(f)>{f}); };
+  using W = WorkOf<S>;
+  const auto run = [&](auto f) {
+    runConversion<S, D, 0, 2>(src, dst, samples, Rescaled<S, D, decltype(f)>{f});
+  };
   switch (how.path) {
     case Rescaling::Saturate:
       return run(Unscaled<W>(0));
@@ -125,6 +142,7 @@ void convertScaledRow(const uint8_t* src, uint8_t* dst, size_t samples, Rescalin
     case Rescaling::Truncate:
       return run(Divided<W, Truncate>(how.bits));
     case Rescaling::RoundEven:
+      if (how.bits <= kMostBits<W>) return run(DividedToEven<W>(how.bits));
       return run(Divided<W, RoundEven>(how.bits));
     case Rescaling::RoundAway:
       return run(Divided<W, RoundAway>(how.bits));

@@ -120,6 +120,13 @@ Samples<D> narrowed(U32 a, U32 b, U32 c, U32 d) {
   return packed<D>(packed<int16_t>(a, b), packed<int16_t>(c, d));
 }
 
+// All ones where a is above b, both taken as signed.
+template <typename T>
+Samples<T> isAboveSigned(Samples<T> a, Samples<T> b) {
+  static_assert(sizeof(T) == 2 || sizeof(T) == 4);
+  return {sizeof(T) == 2 ? _mm_cmpgt_epi16(a.v, b.v) : _mm_cmpgt_epi32(a.v, b.v)};
+}
+
 // |x| as an unsigned number of the same size.
 inline U16 magnitude(S16 x) { return {_mm_abs_epi16(x.v)}; }
 inline U32 magnitude(S32 x) { return {_mm_abs_epi32(x.v)}; }
