@@ -29,9 +29,10 @@ function(lumi_sources home)
 endfunction()
 
 lumi_sources(frame attach image_memory version streaming)
-lumi_sources(data set copy copy_channels)
+lumi_sources(data set copy copy_channels convert)
 lumi_sources(arithmetic add_sub)
 lumi_kernels(masked chosen planes pattern)  # not of one family alone
+lumi_kernels(convert_floats convert_scaled)
 
 # The date of the version record: SOURCE_DATE_EPOCH where it is set, so that builds can be repeated.
 string(TIMESTAMP LUMI_BUILD_DATE "%b %d %Y" UTC)

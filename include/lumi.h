@@ -7,6 +7,7 @@
 #include "lumi/types.h"
 
 #include "lumi/add_sub.h"
+#include "lumi/convert.h"
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"
 #include "lumi/image_memory.h"

@@ -94,4 +94,10 @@ Peer addConstant(View src, View dst, Value value) {
   return peer("opencv", [s = mat(src), d = mat(dst), v = scalar(value)] { cv::add(s, v, d); });
 }
 
+Peer convert(View src, View dst) { return convertScaled(src, dst, 1); }
+
+Peer convertScaled(View src, View dst, double factor) {
+  return peer("opencv", [s = mat(src), d = mat(dst), factor]() mutable { s.convertTo(d, d.type(), factor); });
+}
+
 }  // namespace bench::opencv

@@ -24,4 +24,8 @@ namespace bench::opencv {
 [[gnu::weak]] Peer subtract(View a, View b, View dst);
 [[gnu::weak]] Peer addConstant(View src, View dst, Value value);
 
+// To the destination's type; multiplied by a factor before.
+[[gnu::weak]] Peer convert(View src, View dst);
+[[gnu::weak]] Peer convertScaled(View src, View dst, double factor);
+
 }  // namespace bench::opencv

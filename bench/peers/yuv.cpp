@@ -77,4 +77,15 @@ Peer dropAlpha(View src, View dst) {
   });
 }
 
+Peer convert(View src, View dst) {
+  if (src.depth != Depth::u8 || dst.depth != Depth::f32) return {};
+  const bool isOneRow = src.isTight() && dst.isTight();
+  const int height = isOneRow ? 1 : src.roi.height;
+  const int samples = src.roi.width * src.channels * (isOneRow ? src.roi.height : 1);
+  return peer("libyuv", [=] {
+    for (int y = 0; y < height; ++y)
+      libyuv::ByteToFloat(src.row(y), reinterpret_cast<float*>(dst.row(y)), 1, samples);
+  });
+}
+
 }  // namespace bench::yuv

@@ -15,4 +15,6 @@ namespace bench::yuv {
 [[gnu::weak]] Peer merge(std::vector<View> src, View dst);
 [[gnu::weak]] Peer dropAlpha(View src, View dst);
 
+[[gnu::weak]] Peer convert(View src, View dst);  // 8u to 32f
+
 }  // namespace bench::yuv
