@@ -30,6 +30,7 @@ endfunction()
 
 lumi_sources(frame attach image_memory version streaming)
 lumi_sources(data set copy copy_channels)
+lumi_sources(data scale bits)
 lumi_kernels(masked chosen planes pattern)  # not of one family alone
 
 # The date of the version record: SOURCE_DATE_EPOCH where it is set, so that builds can be repeated.

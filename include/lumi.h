@@ -6,9 +6,11 @@
 
 #include "lumi/types.h"
 
+#include "lumi/bits.h"
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"
 #include "lumi/image_memory.h"
+#include "lumi/scale.h"
 #include "lumi/set.h"
 #include "lumi/version.h"
 
