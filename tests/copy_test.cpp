@@ -1,61 +1,44 @@
 // SPDX-License-Identifier: MIT
-// Copy within one layout, against the model.
-#include "lumi/copy.h"
-
+// Copies, against the model: within a layout, between layouts, under a mask; planes and pixels.
 #include "model/copy.hpp"
+
 #include "support/member.hpp"
 
 namespace test {
 namespace {
 
-template <typename T, typename Function>
-Member copy(const char* name, Function* function, model::Channels channels) {
-  Member member;
-  member.name = name;
-  member.sampleBytes = sizeof(T);
-  const bool chosen = channels.moved == 1 && channels.dst > 1;
-  member.dst =
-      chosen ? Operand::chosenChannel(sizeof(T), channels.dst) : Operand::pixels(sizeof(T), channels.dst);
-  member.src = member.dst;
-  member.aliasing = chosen ? Aliasing::OtherChannel : Aliasing::SameImage;
-  member.run = invoke::of(function);
-  member.model = [=](const Call& c) { model::copy<T>(c.srcImage(), c.dstImage(), c.roi, channels); };
-  return member;
+template <typename T>
+std::function<void(const Call&)> modelOf(const Member& m) {
+  const model::Channels channels = m.channels;
+  const int planes = std::max(m.src.planes, m.dst.planes);
+  if (m.dst.planes > 1)
+    return [=](const Call& c) { model::split<T>(c.srcImage(), c.dst, c.dstStep, c.roi, planes); };
+  if (m.src.planes > 1)
+    return [=](const Call& c) { model::merge<T>(c.src, c.srcStep, c.dstImage(), c.roi, planes); };
+  if (m.masked)
+    return [=](const Call& c) {
+      model::copyMasked<T>(c.srcImage(), c.dstImage(), c.roi, c.maskImage(), channels);
+    };
+  return [=](const Call& c) { model::copy<T>(c.srcImage(), c.dstImage(), c.roi, channels); };
 }
 
-template <typename T, typename Function>
-Member copyMasked(const char* name, Function* function, model::Channels channels) {
-  Member member = copy<T>(name, function, channels);
-  member.masked = true;
-  member.model = [=](const Call& c) {
-    model::copyMasked<T>(c.srcImage(), c.dstImage(), c.roi, c.maskImage(), channels);
+const bool added = addModelTests(membersOf("Copy", [](Member& m, auto, auto dst) {
+  m.model = modelOf<decltype(dst)>(m);
+  // Of a plane and pixels one channel takes part: the pixels' image ends with its last sample.
+  if (m.channels.moved == 1 && !m.planar()) m.src.lastPixelBytes = m.dst.lastPixelBytes = m.sampleBytes;
+  if (m.layouts.size() == 1)
+    m.aliasing = m.channels.moved == 1 && m.channels.dst > 1 ? Aliasing::OtherChannel : Aliasing::SameImage;
+}));
+
+const bool managedAdded = addModelTests(
+    membersOf("CopyManaged", [](Member& m, auto, auto dst) { m.model = modelOf<decltype(dst)>(m); }));
+
+const bool spreadAdded = addModelTests(membersOf("Dup", [](Member& m, auto, auto dst) {
+  const int channels = m.channels.dst;
+  m.model = [=](const Call& c) {
+    model::duplicate<decltype(dst)>(c.srcImage(), c.dstImage(), c.roi, channels);
   };
-  return member;
-}
-
-template <typename T, typename Function>
-Member copyManaged(const char* name, Function* function, model::Channels channels) {
-  Member member = copy<T>(name, function, channels);
-  member.aliasing = Aliasing::None;
-  member.flagBits = 2;
-  return member;
-}
-
-constexpr model::Channels kC1{1, 1, 1}, kC3{3, 3, 3}, kC4{4, 4, 4}, kAC4{4, 4, 3}, kC3C{3, 3, 1},
-    kC4C{4, 4, 1};
-
-#define COPY_MEMBERS(type, T)                                                                               \
-  copy<T>(LUMI_NAMED(lumiCopy_##type##_C1R), kC1), copy<T>(LUMI_NAMED(lumiCopy_##type##_C3R), kC3),         \
-      copy<T>(LUMI_NAMED(lumiCopy_##type##_C4R), kC4), copy<T>(LUMI_NAMED(lumiCopy_##type##_AC4R), kAC4),   \
-      copy<T>(LUMI_NAMED(lumiCopy_##type##_C3CR), kC3C), copy<T>(LUMI_NAMED(lumiCopy_##type##_C4CR), kC4C), \
-      copyMasked<T>(LUMI_NAMED(lumiCopy_##type##_C1MR), kC1),                                               \
-      copyMasked<T>(LUMI_NAMED(lumiCopy_##type##_C3MR), kC3),                                               \
-      copyMasked<T>(LUMI_NAMED(lumiCopy_##type##_C4MR), kC4),                                               \
-      copyMasked<T>(LUMI_NAMED(lumiCopy_##type##_AC4MR), kAC4)
-
-const bool added = addModelTests(
-    {COPY_MEMBERS(8u, Lum8u), COPY_MEMBERS(16s, Lum16s), COPY_MEMBERS(16u, Lum16u), COPY_MEMBERS(32s, Lum32s),
-     COPY_MEMBERS(32f, Lum32f), copyManaged<Lum8u>(LUMI_NAMED(lumiCopyManaged_8u_C1R), kC1)});
+}));
 
 }  // namespace
 }  // namespace test

@@ -18,7 +18,7 @@ void* forbidden() {
   return page;
 }
 
-enum class Category { Null, Width, Height, Step, Harmless };
+enum class Category { Null, Width, Height, Step, Offset, Range, Harmless };
 
 // One change to an otherwise valid list of arguments.
 struct BadArgument {
@@ -35,9 +35,12 @@ LumStatus statusOf(Check check) {
       return lumStatusNullPointer;
     case Check::Size:
     case Check::Width:
+    case Check::Offset:
       return lumStatusBadSize;
     case Check::Step:
       return lumStatusBadStep;
+    case Check::Range:
+      return lumStatusBadDataRange;
   }
   return lumStatusOk;
 }
@@ -52,6 +55,10 @@ bool finds(Check check, Category category) {
       return category == Category::Width;
     case Check::Step:
       return category == Category::Step;
+    case Check::Offset:
+      return category == Category::Offset;
+    case Check::Range:
+      return category == Category::Range;
   }
   return false;
 }
@@ -102,6 +109,21 @@ std::vector<BadArgument> faultsOf(const ExportRow& row, size_t index) {
             checksSteps(row) ? Category::Step : Category::Harmless, "step below 1",
             [](Slot& s, int v) { s.number = v; }, bad);
       break;
+    case Kind::Offset:
+      for (int bad : {-1, INT32_MIN})
+        add(
+            Category::Offset, "negative offset", [](Slot& s, int v) { s.number = v; }, bad);
+      break;
+    case Kind::Lower:  // the other bound is 255
+      for (int bad : {255, 256})
+        add(
+            Category::Range, "lower bound", [](Slot& s, int v) { s.number = v; }, bad);
+      break;
+    case Kind::Upper:  // the other bound is 0
+      for (int bad : {0, -1})
+        add(
+            Category::Range, "upper bound", [](Slot& s, int v) { s.number = v; }, bad);
+      break;
     case Kind::Value:
     case Kind::Number:
     case Kind::Optional:
@@ -116,7 +138,7 @@ std::vector<Slot> validArguments(const ExportRow& row) {
     slots[i].pointer = forbidden();
     for (void*& plane : slots[i].planes) plane = forbidden();
     slots[i].size = {7, 3};
-    slots[i].number = row.arguments[i].kind == Kind::Number ? row.arguments[i].extra : 256;
+    slots[i].number = row.arguments[i].kind == Kind::Step ? 256 : row.arguments[i].extra;
   }
   return slots;
 }

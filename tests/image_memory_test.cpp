@@ -32,6 +32,8 @@ Allocator allocator(const char* name, T* (*function)(int, int, int*), int pixelB
           [=](int width, int height, int* step) -> void* { return function(width, height, step); }};
 }
 
+#define LUMI_NAMED(function) #function, function
+
 const std::vector<Allocator>& allocators() {
   static const std::vector<Allocator> list = {
       allocator(LUMI_NAMED(lumiMalloc_8u_C1), 1),     allocator(LUMI_NAMED(lumiMalloc_8u_C2), 2),

@@ -20,7 +20,10 @@ constexpr int64_t kFloor = 1 << 20;  // no call that moves less asks for the cac
 constexpr size_t kLargestImage = 8 << 20;
 
 // Bytes read and written for each pixel; a fill only writes.
-int bytesMoved(const Member& m) { return m.src.planes * m.src.pixelBytes + m.dst.planes * m.dst.pixelBytes; }
+int bytesMoved(const Member& m) {
+  const int bytes = m.src.planes * m.src.pixelBytes + m.src2.pixelBytes + m.dst.planes * m.dst.pixelBytes;
+  return std::max(1, bytes);
+}
 
 Stage& largeStage() {
   static Stage stage(kLargestImage);
@@ -61,13 +64,17 @@ Case largeCase(const Member& m, int64_t moved, Rows rows, int index) {
   c.roi.height = random.pick(heights);
   c.roi.width = static_cast<int>(moved / bytesMoved(m) / c.roi.height);
   if (rows.aligned) c.roi.width = c.roi.width / 64 * 64;
+  for (size_t i = 0; i < m.numbers.size(); ++i) c.numbers[i] = random.pick(m.numbers[i]);
+  if (!m.bounds.empty()) c.bounds = random.pick(m.bounds);
+  c.inputs = random.pick(m.contents);
   const auto step = [&](const Operand& operand) {
-    const int row = c.roi.width * operand.pixelBytes;
+    const int row = operand.tightStep(c.roi.width, c.numbers[0]);
     if (rows.tight) return row;
     return rows.aligned ? row + 64 : row + random.between(1, 99);
   };
   c.srcStep = step(m.src);
   c.dstStep = step(m.dst);
+  c.src2Step = step(m.src2);
   c.maskStep = step(Operand::pixels(1, 1));
   for (int p = 0; p < kMaxPlanes; ++p) {
     c.src[p] = {Placement::Phase, rows.aligned ? 0 : random.below(64), random.below(64)};
@@ -75,8 +82,8 @@ Case largeCase(const Member& m, int64_t moved, Rows rows, int index) {
     if (!rows.aligned && random.oneIn(4)) c.src[p].kind = Placement::End;
     if (!rows.aligned && random.oneIn(4)) c.dst[p].kind = Placement::End;
   }
+  c.src2 = {Placement::Phase, rows.aligned ? 0 : random.below(64), random.below(64)};
   c.maskKind = random.pick(kMaskKinds);
-  c.flags = index % (1 << m.flagBits);
   return c;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/case.hpp"
 
+#include <algorithm>
 #include <climits>
 #include <sstream>
 #include <vector>
@@ -110,11 +111,18 @@ Case makeCase(const Member& member, uint64_t seed, int index) {
   c.roi.width = widths()[static_cast<size_t>(index % widthCount)];
   c.roi.height = kHeights[index / widthCount % static_cast<int>(std::size(kHeights))];
 
-  const int srcTight = c.roi.width * member.src.pixelBytes, dstTight = c.roi.width * member.dst.pixelBytes;
+  for (size_t i = 0; i < member.numbers.size(); ++i) c.numbers[i] = random.pick(member.numbers[i]);
+  if (!member.bounds.empty()) c.bounds = random.pick(member.bounds);
+  const int srcTight = member.src.tightStep(c.roi.width, c.numbers[0]);
+  const int src2Tight = member.src2.tightStep(c.roi.width, 0);
+  const int dstTight = member.dst.tightStep(c.roi.width, c.numbers[0]);
   const bool allTight = random.oneIn(3);
-  c.srcStep = allTight ? srcTight : anyStep(random, srcTight, c.roi.height);
-  c.dstStep = allTight ? dstTight : anyStep(random, dstTight, c.roi.height);
-  c.maskStep = allTight ? c.roi.width : anyStep(random, c.roi.width, c.roi.height);
+  const auto step = [&](int tight) { return allTight ? tight : anyStep(random, tight, c.roi.height); };
+  c.srcStep = step(srcTight);
+  c.dstStep = step(dstTight);
+  c.maskStep = step(c.roi.width);
+  c.src2Step = step(src2Tight);
+  if (member.floatResults && !allTight) c.dstStep = separateStep(random, dstTight);
 
   // The destination's phase takes every value in turn; the source's is any.
   for (int p = 0; p < kMaxPlanes; ++p) {
@@ -122,21 +130,28 @@ Case makeCase(const Member& member, uint64_t seed, int index) {
     c.src[p] = anyPlacement(random, random.below(64));
   }
   c.mask = anyPlacement(random, random.below(64));
+  c.src2 = anyPlacement(random, random.below(64));
   c.maskKind = random.pick(kMaskKinds);
-  c.flags = random.below(1 << member.flagBits);
-  c.valuesInDst = member.values > 1 && random.oneIn(8);
+  c.inputs = random.pick(member.contents);
+  c.valuesInDst = member.values > 1 && !member.floatResults && random.oneIn(8);
   c.valuesPhase = random.oneIn(2) ? 0 : random.below(64);
 
   if (member.aliasing != Aliasing::None && random.oneIn(8)) {
     c.overlap = Overlap::SameImage;
-    c.srcStep = c.dstStep;
+    c.srcIsDst = member.src2.planes == 0 || random.oneIn(2);
+    c.src2IsDst = member.src2.planes > 0 && (!c.srcIsDst || random.oneIn(2));
   } else if (member.aliasing == Aliasing::OtherChannel && random.oneIn(4)) {
     const int channels = member.dst.pixelBytes / member.sampleBytes;
     c.overlap = Overlap::OtherChannel;
+    c.srcIsDst = true;
     c.srcChannel = random.below(channels);
     c.dstChannel = (c.srcChannel + random.between(1, channels - 1)) % channels;
-    c.srcStep = c.dstStep = separateStep(random, dstTight);
+    c.dstStep = separateStep(random, dstTight);
   }
+  if (member.checksSteps)
+    for (int* each : {&c.srcStep, &c.src2Step, &c.dstStep, &c.maskStep}) *each = std::max(1, *each);
+  if (c.srcIsDst) c.srcStep = c.dstStep;
+  if (c.src2IsDst) c.src2Step = c.dstStep;
   return c;
 }
 
@@ -144,13 +159,17 @@ std::string describe(const Member& member, const Case& c) {
   std::ostringstream out;
   out << member.name << " case " << c.index << ": " << c.roi.width << " x " << c.roi.height;
   if (member.src.planes) out << ", source and destination " << text(c.overlap);
+  if (c.src2IsDst) out << (c.srcIsDst ? " (both sources)" : " (second source)");
   if (c.overlap == Overlap::OtherChannel) out << " (" << c.srcChannel << " to " << c.dstChannel << ")";
-  if (member.flagBits) out << ", flags " << c.flags;
+  for (size_t i = 0; i < member.numbers.size(); ++i) out << (i ? " " : ", numbers ") << c.numbers[i];
+  if (!member.bounds.empty()) out << ", bounds " << c.bounds.first << " to " << c.bounds.second;
+  out << ", contents " << static_cast<int>(c.inputs);
   if (member.values > 1) {
     out << ", values " << (c.valuesInDst ? "inside the destination" : "") << c.valuesPhase;
     if (!c.valuesInDst) out << " bytes before the end";
   }
   describeImage(out, "source", member.src, c.srcStep, c.src);
+  describeImage(out, "second source", member.src2, c.src2Step, &c.src2);
   describeImage(out, "destination", member.dst, c.dstStep, c.dst);
   if (member.masked)
     out << "\n  mask: " << text(c.maskKind) << ", step " << c.maskStep << ", " << text(c.mask);

@@ -32,12 +32,15 @@ struct Case {
   int index = 0;
   uint64_t contents = 0;
   LumiSize roi{1, 1};
-  int srcStep = 0, dstStep = 0, maskStep = 0;
-  Placement src[kMaxPlanes], dst[kMaxPlanes], mask;
+  int srcStep = 0, src2Step = 0, dstStep = 0, maskStep = 0;
+  Placement src[kMaxPlanes], src2, dst[kMaxPlanes], mask;
   Overlap overlap = Overlap::Apart;
-  int srcChannel = 0, dstChannel = 0;  // for OtherChannel
+  int srcChannel = 0, dstChannel = 0;        // for OtherChannel
+  bool srcIsDst = false, src2IsDst = false;  // for SameImage
   MaskKind maskKind = MaskKind::Ones;
-  int flags = 0;
+  Contents inputs = Contents::Bytes;
+  int numbers[kMaxNumbers]{};
+  std::pair<Lum32f, Lum32f> bounds{};
   bool valuesInDst = false;  // the value array lies in the destination image
   int valuesPhase = 0;       // bytes between the value array and the end of accessible memory
 };

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstring>
 #include <initializer_list>
+#include <string>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -14,22 +15,38 @@
 namespace test {
 
 // What an argument is: decides which faults it can have.
-enum class Kind { Image, Planes, Values, Value, Step, Size, Number, Pointer, Optional };
+enum class Kind {
+  Image,
+  Planes,
+  Values,
+  Value,
+  Step,
+  Offset,  // of the first pixel's bit in an image of bits
+  Size,
+  Number,
+  Lower,  // bounds of a range
+  Upper,
+  Pointer,
+  Optional
+};
 
 // A step of the order in which an operation checks its arguments.
-enum class Check { Null, Size, Width, Step };
+enum class Check { Null, Size, Width, Step, Offset, Range };
 
 struct Argument {
   Kind kind;
-  int extra;  // planes of a planar argument, a valid value of a number
+  const char* name;
+  int extra;  // planes of a planar argument, values of an array of them, a valid value of a number
 };
 
 // A value for any argument.
 struct Slot {
   void* pointer = nullptr;
   void* planes[4] = {};
+  void* planeArray = nullptr;  // an array elsewhere, instead of the planes here
   bool planesNull = false;
   int number = 0;
+  const void* value = nullptr;  // the bytes of an argument by value; without them, its number
   LumiSize size = {};
 };
 
@@ -45,13 +62,16 @@ template <typename P>
 P argumentFrom(const Slot& slot) {
   if constexpr (std::is_same_v<P, LumiSize>) {
     return slot.size;
-  } else if constexpr (std::is_arithmetic_v<P>) {
-    return static_cast<P>(slot.number);
+  } else if constexpr (!std::is_pointer_v<P>) {
+    P value{};
+    if constexpr (std::is_arithmetic_v<P>) value = static_cast<P>(slot.number);
+    if (slot.value) std::memcpy(&value, slot.value, sizeof value);
+    return value;
   } else if constexpr (std::is_pointer_v<std::remove_cv_t<std::remove_pointer_t<P>>>) {
     using Plane = std::remove_cv_t<std::remove_pointer_t<P>>;
-    return slot.planesNull
-               ? nullptr
-               : reinterpret_cast<P>(const_cast<Plane*>(reinterpret_cast<Plane const*>(slot.planes)));
+    if (slot.planesNull) return nullptr;
+    const void* array = slot.planeArray ? slot.planeArray : slot.planes;
+    return reinterpret_cast<P>(const_cast<Plane*>(static_cast<Plane const*>(array)));
   } else {
     return static_cast<P>(slot.pointer);
   }
@@ -60,7 +80,9 @@ P argumentFrom(const Slot& slot) {
 template <typename P>
 void pack(const Slot& slot, PackedCall& call) {
   const P value = argumentFrom<P>(slot);
-  if constexpr (sizeof(uintptr_t) == 8 && std::is_floating_point_v<P>) {
+  // A pair of floats goes into one vector register.
+  constexpr bool isFloat = std::is_floating_point_v<P> || std::is_same_v<P, Lum32fc>;
+  if constexpr (sizeof(uintptr_t) == 8 && isFloat) {
     double raw = 0;
     std::memcpy(&raw, &value, sizeof value);
     call.floats.push_back(raw);
@@ -98,7 +120,8 @@ Invoker invoker(LumStatus (*function)(P...)) {
 }
 
 struct ExportRow {
-  const char* name;
+  const char *name, *operation;
+  std::vector<std::string> types, layouts;
   Invoker invoke;
   std::vector<Argument> arguments;
   std::vector<Check> checks;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the driver has to know of an export to run it over any images and compare it with its model.
+// What the driver has to know of an export to run it over any images and compare it with its model. Nearly
+// all of it follows from the export's registry row; a family's test adds the model.
 #pragma once
 
 #include <functional>
@@ -8,26 +9,32 @@
 
 #include "lumi/types.h"
 #include "model/access.hpp"
+#include "support/contents.hpp"
+#include "support/invoke.hpp"
 
 namespace test {
 
 using model::Byte;
 
-constexpr int kMaxPlanes = 4;
+constexpr int kMaxPlanes = 4, kMaxNumbers = 4;
 
-// The arguments of one call, untyped. Images of one plane use the first pointer.
+// The arguments of one call, untyped. Images of one plane use the first pointer. In place, the last source is
+// the destination.
 struct Call {
   LumiSize roi{};
   Byte* src[kMaxPlanes]{};
+  Byte* src2 = nullptr;
   Byte* dst[kMaxPlanes]{};
-  int srcStep = 0, dstStep = 0;
+  int srcStep = 0, src2Step = 0, dstStep = 0;
   Byte* planes = nullptr;  // the array of plane pointers of a planar argument
   Byte* mask = nullptr;
   int maskStep = 0;
   const Byte* values = nullptr;
-  int flags = 0;
+  int numbers[kMaxNumbers]{};  // bit offsets and plain numbers, in the order of the arguments
+  Lum32f lower = 0, upper = 0;
 
   model::Image srcImage() const { return {src[0], srcStep}; }
+  model::Image src2Image() const { return {src2, src2Step}; }
   model::Image dstImage() const { return {dst[0], dstStep}; }
   model::Image maskImage() const { return {mask, maskStep}; }
 };
@@ -35,111 +42,92 @@ struct Call {
 // An image argument, or as many as it has planes.
 struct Operand {
   int planes = 0;          // 0: there is no such argument
-  int pixelBytes = 0;      // from one pixel to the next
+  int pixelBytes = 0;      // from one pixel to the next; 0 in images of bits
   int lastPixelBytes = 0;  // how much of a row's last pixel belongs to the image
+  bool bits = false;
 
-  // The last pixel ends with the last chosen sample.
   static Operand pixels(int sampleBytes, int channels) {
-    return {1, sampleBytes * channels, sampleBytes * channels};
+    return {1, sampleBytes * channels, sampleBytes * channels, false};
   }
+  // The last pixel ends with the last chosen sample.
   static Operand chosenChannel(int sampleBytes, int channels) {
-    return {1, sampleBytes * channels, sampleBytes};
+    return {1, sampleBytes * channels, sampleBytes, false};
   }
-  static Operand planar(int sampleBytes, int planes) { return {planes, sampleBytes, sampleBytes}; }
+  static Operand planar(int sampleBytes, int planes) { return {planes, sampleBytes, sampleBytes, false}; }
+
+  int rowBytes(int width, int bitOffset) const {
+    return bits ? ((bitOffset & 7) + width + 7) / 8 : (width - 1) * pixelBytes + lastPixelBytes;
+  }
+  // From one row to the next where they touch one another.
+  int tightStep(int width, int bitOffset) const {
+    return bits ? rowBytes(width, bitOffset) : width * pixelBytes;
+  }
 };
 
 enum class Aliasing {
   None,
-  SameImage,     // source and destination may be the very same image
+  SameImage,     // a source and the destination may be the very same image
   OtherChannel,  // they may also be two channels of one image
 };
 
 struct Member {
   std::string name;
-  int sampleBytes = 0;
-  Operand src, dst;
+  std::vector<std::string> types, layouts;  // of the name, source first
+  int sampleBytes = 0;                      // of the first sample type
+  int components = 1;                       // 2 in complex samples
+  model::Channels channels{};               // samples of a pixel, and how many of them are worked on
+  Operand src, src2, dst;
+  bool inPlace = false;
   Aliasing aliasing = Aliasing::None;
-  bool masked = false;
-  int values = 0;  // samples of the value argument; one is passed by value
-  int flagBits = 0;
+  bool masked = false, checksSteps = false;
+  bool floatResults = false;  // NaNs need not have equal bits, and rows of the destination are apart
+  int values = 0;             // samples of the value argument; one is passed by value
+  std::vector<Contents> contents = {Contents::Bytes};  // of sources and values
+  std::vector<std::vector<int>> numbers;               // what each number is chosen from
+  std::vector<std::pair<Lum32f, Lum32f>> bounds;
   std::function<LumStatus(const Call&)> run;
   std::function<void(const Call&)> model;
 
   bool planar() const { return src.planes > 1 || dst.planes > 1; }
 };
 
-// An export's name with the export itself.
-#define LUMI_NAMED(function) #function, function
+// All that follows from the row.
+Member memberOf(const ExportRow& row);
 
-// Calls through the real signatures.
-namespace invoke {
-
-using Run = std::function<LumStatus(const Call&)>;
-
-template <typename T>
-T* as(Byte* at) {
-  return reinterpret_cast<T*>(at);
-}
-template <typename T>
-const T* as(const Byte* at) {
-  return reinterpret_cast<const T*>(at);
+// Calls f with a value of the sample type.
+template <typename F>
+auto withType(const std::string& token, F f) {
+  if (token == "8u" || token == "1u") return f(Lum8u());
+  if (token == "8s") return f(Lum8s());
+  if (token == "16u") return f(Lum16u());
+  if (token == "16s" || token == "16sc") return f(Lum16s());  // complex: of its component
+  if (token == "32u") return f(Lum32u());
+  if (token == "32s" || token == "32sc") return f(Lum32s());
+  return f(Lum32f());
 }
 
-template <typename T>
-Run of(LumStatus (*f)(T, T*, int, LumiSize)) {
-  return [f](const Call& c) { return f(model::load<T>(c.values, 0), as<T>(c.dst[0]), c.dstStep, c.roi); };
+// The members of an operation, each given its model by describe(member, source sample, destination sample).
+template <typename Describe>
+std::vector<Member> membersOf(const std::string& operation, Describe describe) {
+  std::vector<Member> result;
+  for (const ExportRow& row : exportRows()) {
+    if (row.operation != operation) continue;
+    result.push_back(memberOf(row));
+    Member& member = result.back();
+    withType(row.types.front(),
+             [&](auto src) { withType(row.types.back(), [&](auto dst) { describe(member, src, dst); }); });
+  }
+  return result;
 }
-template <typename T>
-Run of(LumStatus (*f)(const T*, T*, int, LumiSize)) {
-  return [f](const Call& c) { return f(as<T>(c.values), as<T>(c.dst[0]), c.dstStep, c.roi); };
-}
-template <typename T>
-Run of(LumStatus (*f)(T, T*, int, LumiSize, const Lum8u*, int)) {
-  return [f](const Call& c) {
-    return f(model::load<T>(c.values, 0), as<T>(c.dst[0]), c.dstStep, c.roi, c.mask, c.maskStep);
-  };
-}
-template <typename T>
-Run of(LumStatus (*f)(const T*, T*, int, LumiSize, const Lum8u*, int)) {
-  return [f](const Call& c) {
-    return f(as<T>(c.values), as<T>(c.dst[0]), c.dstStep, c.roi, c.mask, c.maskStep);
-  };
-}
-template <typename T>
-Run of(LumStatus (*f)(const T*, int, T*, int, LumiSize)) {
-  return [f](const Call& c) { return f(as<T>(c.src[0]), c.srcStep, as<T>(c.dst[0]), c.dstStep, c.roi); };
-}
-template <typename T>
-Run of(LumStatus (*f)(const T*, int, T*, int, LumiSize, const Lum8u*, int)) {
-  return [f](const Call& c) {
-    return f(as<T>(c.src[0]), c.srcStep, as<T>(c.dst[0]), c.dstStep, c.roi, c.mask, c.maskStep);
-  };
-}
-template <typename T>
-Run of(LumStatus (*f)(const T*, int, T*, int, LumiSize, int)) {
-  return [f](const Call& c) {
-    return f(as<T>(c.src[0]), c.srcStep, as<T>(c.dst[0]), c.dstStep, c.roi, c.flags);
-  };
-}
-template <typename T>
-Run of(LumStatus (*f)(const T*, int, T* const*, int, LumiSize)) {
-  return [f](const Call& c) { return f(as<T>(c.src[0]), c.srcStep, as<T*>(c.planes), c.dstStep, c.roi); };
-}
-template <typename T>
-Run of(LumStatus (*f)(const T* const*, int, T*, int, LumiSize)) {
-  return
-      [f](const Call& c) { return f(as<const T*>(c.planes), c.srcStep, as<T>(c.dst[0]), c.dstStep, c.roi); };
-}
-
-}  // namespace invoke
 
 // Registers a test of each member against its model, and the members as covered.
-bool addModelTests(std::vector<Member> members);
+bool addModelTests(const std::vector<Member>& members);
 
 // All members that have been added.
 const std::vector<Member>& members();
+const Member& memberNamed(const std::string& name);
 
 // Registers exports that have tests of their own, which need no images.
-bool addCovered(std::vector<std::string> names);
+bool addCovered(const std::vector<std::string>& names);
 
 }  // namespace test

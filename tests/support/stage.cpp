@@ -2,6 +2,7 @@
 #include "support/stage.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <sstream>
@@ -77,14 +78,15 @@ Stage::Stage(size_t largestImage) {
   };
   for (auto& arena : src_) arena = add(largestImage + kPlacementRoom);
   for (auto& arena : dst_) arena = add(largestImage + kPlacementRoom);
+  src2_ = add(largestImage + kPlacementRoom);
   mask_ = add(largestImage + kPlacementRoom);
   values_ = add(1);
   planes_ = add(1);
 }
 
 Stage::Placed Stage::place(std::string role, const Arena& arena, const Placement& where, int step,
-                           LumiSize roi, const Operand& operand) const {
-  const int rowBytes = (roi.width - 1) * operand.pixelBytes + operand.lastPixelBytes;
+                           LumiSize roi, int bitOffset, const Operand& operand) const {
+  const int rowBytes = operand.rowBytes(roi.width, bitOffset);
   const Extent extent(step, rowBytes, roi.height);
   Byte* first = nullptr;
   switch (where.kind) {
@@ -122,19 +124,26 @@ void Stage::placeImages(const Member& member, const Case& c, Call& call) {
     srcFromDst = static_cast<ptrdiff_t>(c.srcChannel - c.dstChannel) * member.sampleBytes;
     dst.lastPixelBytes += static_cast<int>(std::abs(srcFromDst));
   }
+  const auto add = [&](const char* role, const Arena& arena, const Placement& where, int step,
+                       const Operand& operand) {
+    placed_.push_back(place(role, arena, where, step, c.roi, c.numbers[0], operand));
+    return placed_.back().first;
+  };
   for (int p = 0; p < dst.planes; ++p) {
-    placed_.push_back(place("destination", *dst_[p], c.dst[p], c.dstStep, c.roi, dst));
-    call.dst[p] = placed_.back().first + std::max<ptrdiff_t>(0, -srcFromDst);
-    if (c.overlap != Overlap::Apart) call.src[p] = call.dst[p] + srcFromDst;
+    call.dst[p] =
+        add("destination", *dst_[p], c.dst[p], c.dstStep, dst) + std::max<ptrdiff_t>(0, -srcFromDst);
+    if (c.srcIsDst) call.src[p] = call.dst[p] + srcFromDst;
   }
-  if (c.overlap == Overlap::Apart)
-    for (int p = 0; p < member.src.planes; ++p) {
-      placed_.push_back(place("source", *src_[p], c.src[p], c.srcStep, c.roi, member.src));
-      call.src[p] = placed_.back().first;
-    }
-  if (member.masked) {
-    placed_.push_back(place("mask", *mask_, c.mask, c.maskStep, c.roi, Operand::pixels(1, 1)));
-    call.mask = placed_.back().first;
+  if (c.src2IsDst) call.src2 = call.dst[0];
+  if (!c.srcIsDst)
+    for (int p = 0; p < member.src.planes; ++p)
+      call.src[p] = add("source", *src_[p], c.src[p], c.srcStep, member.src);
+  if (!c.src2IsDst && member.src2.planes > 0)
+    call.src2 = add("second source", *src2_, c.src2, c.src2Step, member.src2);
+  if (member.masked) call.mask = add("mask", *mask_, c.mask, c.maskStep, Operand::pixels(1, 1));
+  if (member.inPlace) {
+    (member.src.planes ? call.src2 : call.src[0]) = call.dst[0];
+    (member.src.planes ? call.src2Step : call.srcStep) = call.dstStep;
   }
   if (member.planar()) {
     Byte* const* pointers = member.src.planes > 1 ? call.src : call.dst;
@@ -153,9 +162,7 @@ void Stage::placeValues(const Member& member, const Case& c, Call& call, Random&
     return;
   }
   Byte* values = values_->end() - bytes - c.valuesPhase;
-  random.fill(values, static_cast<size_t>(bytes));
-  // A caller's float register may quiet a signalling NaN that is passed by value.
-  if (member.values == 1 && member.sampleBytes == 4 && (values[3] & 0x7f) == 0x7f) values[2] |= 0x40;
+  fillSamples(member.types.front(), values, bytes, c.inputs, random);
   call.values = values;
   placed_.push_back({"values", values_, values, 0, bytes, 1, values_->begin(), values_->end()});
 }
@@ -173,7 +180,8 @@ Byte* Stage::twin(const Byte* at) const {
 
 Call Stage::onTwins(const Member& member, const Call& call) const {
   Call result = call;
-  for (int p = 0; p < member.src.planes; ++p) result.src[p] = twin(call.src[p]);
+  for (int p = 0; p < std::max(1, member.src.planes); ++p) result.src[p] = twin(call.src[p]);
+  result.src2 = twin(call.src2);
   for (int p = 0; p < member.dst.planes; ++p) result.dst[p] = twin(call.dst[p]);
   if (call.mask) result.mask = twin(call.mask);
   if (call.values) result.values = twin(call.values);
@@ -188,10 +196,19 @@ std::optional<std::string> Stage::run(const Member& member, const Case& c) {
   call.srcStep = c.srcStep;
   call.dstStep = c.dstStep;
   call.maskStep = c.maskStep;
-  call.flags = c.flags;
+  call.src2Step = c.src2Step;
+  std::copy(std::begin(c.numbers), std::end(c.numbers), call.numbers);
+  call.lower = c.bounds.first;
+  call.upper = c.bounds.second;
   placed_.clear();
   placeImages(member, c, call);
   for (const Placed& p : placed_) random.fill(p.low, static_cast<size_t>(p.high - p.low));
+  // Floats are filled sample by sample in any case, for the sake of their NaNs.
+  for (const Placed& p : placed_)
+    if (c.inputs != Contents::Bytes || member.floatResults)
+      for (int y = 0; y < p.rows; ++y)
+        fillSamples(p.role == "destination" ? member.types.back() : member.types.front(),
+                    p.first + static_cast<ptrdiff_t>(y) * p.step, p.rowBytes, c.inputs, random);
   if (member.masked) fillMask(call, c.maskKind, random);
   placeValues(member, c, call, random);
   for (const Placed& p : placed_) p.arena->copyToTwin(p.low, p.high);
@@ -210,6 +227,7 @@ std::optional<std::string> Stage::run(const Member& member, const Case& c) {
 
 std::optional<std::string> Stage::compare(const Member& member) const {
   for (const Placed& p : placed_) {
+    if (member.floatResults && p.role == "destination") equateNaNs(p);
     const Byte* at = p.arena->firstDifference(p.low, p.high);
     if (!at) continue;
     std::ostringstream out;
@@ -221,12 +239,24 @@ std::optional<std::string> Stage::compare(const Member& member) const {
     for (int y = 0; y < p.rows && !inside; ++y) {
       const ptrdiff_t x = at - (p.first + static_cast<ptrdiff_t>(p.step) * (p.rows > 1 ? y : 0));
       inside = x >= 0 && x < p.rowBytes;
-      if (inside) out << " (row " << y << ", column " << x / pixelBytes << ", byte " << x % pixelBytes << ")";
+      if (inside)
+        out << " (row " << y << ", column " << x / std::max(1, pixelBytes) << ", byte "
+            << x % std::max(1, pixelBytes) << ")";
     }
     if (!inside) out << " (outside every row)";
     return out.str();
   }
   return std::nullopt;
+}
+
+// Where both have a NaN, the model gets the bits of ours.
+void Stage::equateNaNs(const Placed& p) const {
+  for (int y = 0; y < p.rows; ++y) {
+    Byte* const row = p.first + static_cast<ptrdiff_t>(y) * p.step;
+    for (int i = 0; i < p.rowBytes / 4; ++i)
+      if (std::isnan(model::load<float>(row, i)) && std::isnan(model::load<float>(p.arena->twin(row), i)))
+        std::memcpy(p.arena->twin(row) + 4 * i, row + 4 * i, 4);
+  }
 }
 
 std::optional<std::string> Stage::compareEverything() const {

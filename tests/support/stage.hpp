@@ -33,18 +33,19 @@ class Stage {
   };
 
   Placed place(std::string role, const Arena& arena, const Placement& where, int step, LumiSize roi,
-               const Operand& operand) const;
+               int bitOffset, const Operand& operand) const;
   void placeImages(const Member& member, const Case& c, Call& call);
   void placeValues(const Member& member, const Case& c, Call& call, Random& random);
   void fillMask(const Call& call, MaskKind kind, Random& random) const;
   Call onTwins(const Member& member, const Call& call) const;
   Byte* twin(const Byte* at) const;
   std::optional<std::string> compare(const Member& member) const;
+  void equateNaNs(const Placed& placed) const;
   std::string where(const void* fault) const;
   void makeEqual() const;
 
   std::vector<std::unique_ptr<Arena>> arenas_;
-  Arena *src_[kMaxPlanes], *dst_[kMaxPlanes], *mask_, *values_, *planes_;
+  Arena *src_[kMaxPlanes], *src2_, *dst_[kMaxPlanes], *mask_, *values_, *planes_;
   std::vector<Placed> placed_;
 };
 

@@ -184,20 +184,22 @@ _KIND = {"image": "Image", "planes": "Planes", "values": "Values", "value": "Val
 
 
 def fault_rows(families):
-    """A row for each export that returns a status: what the fault matrix of the tests walks."""
+    """A row for each export that returns a status: what the tests know of it."""
     lines = ["// " + GENERATED_ALL]
     for export in all_exports(families):
         if export.returns != "LumStatus":
             continue
         args = ", ".join(_fault_arg(a) for a in export.args)
         checks = ", ".join(f"Check::{c.capitalize()}" for c in export.check)
-        lines.append(f'{{"{export.name}", invoker(&{export.name}), {{{args}}}, {{{checks}}}}},')
+        types, layouts = (", ".join(f'"{x}"' for x in names) for names in (export.types, export.layouts))
+        lines.append(f'{{"{export.name}", "{export.op.name}", {{{types}}}, {{{layouts}}}, '
+                     f'invoker(&{export.name}), {{{args}}}, {{{checks}}}}},')
     return "\n".join(lines) + "\n"
 
 
 def _fault_arg(arg):
-    extra = {"planes": arg.count, "number": arg.base}.get(arg.kind, 0)
-    return f"{{Kind::{_KIND[arg.kind]}, {extra}}}"
+    extra = {"planes": arg.count, "values": arg.count, "number": arg.base, "upper": 255}.get(arg.kind, 0)
+    return f'{{Kind::{_KIND[arg.kind]}, "{arg.name}", {extra}}}'
 
 
 def structure_rows(families):
