@@ -142,9 +142,10 @@ TEST_P(Streaming, AnyReportOfTheCacheIsTaken) {
 }
 
 // Members by the beginnings of their names, so that they run in parallel.
-const std::vector<std::string> kGroups = {"lumiSet_8u",   "lumiSet_16s",  "lumiSet_16u",     "lumiSet_32s",
-                                          "lumiSet_32f",  "lumiCopy_8u",  "lumiCopy_16s",    "lumiCopy_16u",
-                                          "lumiCopy_32s", "lumiCopy_32f", "lumiCopyManaged", "lumiDup"};
+const std::vector<std::string> kGroups = {
+    "lumiSet_8u",   "lumiSet_16s",  "lumiSet_16u",  "lumiSet_32s",   "lumiSet_32f",     "lumiCopy_8u",
+    "lumiCopy_16s", "lumiCopy_16u", "lumiCopy_32s", "lumiCopy_32f",  "lumiCopyManaged", "lumiDup",
+    "lumiScale_8u", "lumiScale_16", "lumiScale_32", "lumiBinToGray", "lumiGrayToBin",   "lumiConvert_1u"};
 
 TEST(StreamingGroups, HoldEveryMember) {
   for (const Member& m : members()) {
