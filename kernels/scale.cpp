@@ -17,42 +17,52 @@ struct InHalves : F {
   Halves32 block(const Byte* p) const { return {F::half(p), F::half(p + kHalf / sizeof(D) * sizeof(S))}; }
 };
 
-// The byte in each place of the sample, with the top bit inverted for signed ones.
+// The byte in each place of the sample, with the top bit inverted for signed ones. Constants are made where
+// they are used: as members they would be read again after every store, which might have changed them.
 template <typename D>
 struct Widen {
-  U8 top = broadcast(static_cast<uint8_t>(std::is_signed_v<D> ? 0x80 : 0));
-
+  static U8 highBytes(U8 bytes) {
+    if constexpr (std::is_signed_v<D>) bytes = bytes ^ broadcast(Byte{0x80});
+    return bytes;
+  }
+  Bytes32 block(const Byte* p) const {
+    const U8 bytes{load16(p)}, high = highBytes(bytes);
+    return joined(wordsOf(bytes.v, high.v), wordsOfHigh(bytes.v, high.v));
+  }
   Bytes16 half(const Byte* p) const {
     const U8 bytes{load8(p)};
-    return wordsOf(bytes.v, (bytes ^ top).v);
+    return wordsOf(bytes.v, highBytes(bytes).v);
   }
 };
 
 template <>
 struct Widen<int32_t> {
-  static constexpr Control kFourTimes = {0, 0, 0, 0, 1, 1, 1, 1, 2, 2, 2, 2, 3, 3, 3, 3};
-  Bytes16 fourTimes = vectorOf(kFourTimes);
-  S32 top = broadcast(INT32_MIN);
+  static constexpr Control kFirstFour = {0, 0, 0, 0, 1, 1, 1, 1, 2, 2, 2, 2, 3, 3, 3, 3},
+                           kNextFour = {4, 4, 4, 4, 5, 5, 5, 5, 6, 6, 6, 6, 7, 7, 7, 7};
 
-  Bytes16 half(const Byte* p) const { return bytesOf(S32{shuffle(load4(p), fourTimes)} ^ top); }
+  static Bytes16 four(Bytes16 bytes, const Control& which) {
+    return bytesOf(S32{shuffle(bytes, vectorOf(which))} ^ broadcast(INT32_MIN));
+  }
+  Halves32 block(const Byte* p) const {
+    const Bytes16 bytes = load8(p);
+    return {four(bytes, kFirstFour), four(bytes, kNextFour)};
+  }
+  Bytes16 half(const Byte* p) const { return four(load4(p), kFirstFour); }
 };
 
-// w - (w >> 8), of w with the range about zero, has its result in the high byte: round(w / (1 + 1/256 + ...))
-// but for the last value before each step up where w is negative. The accurate way takes one off these, and
-// is then the same as the division in floats, for every sample.
+// w - w / 256, of w with the range about zero, has its result in the high byte. The fast way divides rounding
+// down, and so takes its steps up one early where w is negative. With the quotient rounded to the nearest,
+// halves up, the result is that of the division in floats, for every sample.
 template <typename S, bool accurate>
 struct Narrow {
   using W = std::make_signed_t<S>;
-  Samples<W> top = broadcast(std::numeric_limits<W>::min());
 
-  Samples<W> scaled(const Byte* p) const {
+  static Samples<W> scaled(const Byte* p) {
     Samples<W> w{load16(p)};
-    if constexpr (std::is_unsigned_v<S>) w = w ^ top;
-    Samples<W> x = w - shiftRight<8>(w);
-    if constexpr (accurate) x = x + shiftRight<8 * sizeof(S) - 1>(w);
-    return shiftRight<8 * sizeof(S) - 8>(x);
+    if constexpr (std::is_unsigned_v<S>) w = w ^ broadcast(std::numeric_limits<W>::min());
+    return shiftRight<8 * sizeof(S) - 8>(w - (accurate ? nearest256th(w) : shiftRight<8>(w)));
   }
-  S16 words(const Byte* p) const {
+  static S16 words(const Byte* p) {
     if constexpr (sizeof(S) == sizeof(int16_t))
       return scaled(p);
     else
@@ -114,7 +124,7 @@ void run(const Byte* src, Byte* dst, size_t samples, const F& f, bool streaming)
 
 template <typename D, bool alpha>
 void widenRow(const uint8_t* src, uint8_t* dst, size_t samples, bool streaming) {
-  run<uint8_t, D, alpha>(src, dst, samples, InHalves<uint8_t, D, Widen<D>>{}, streaming);
+  run<uint8_t, D, alpha>(src, dst, samples, Widen<D>(), streaming);
 }
 
 template <typename S, bool alpha>

@@ -19,5 +19,9 @@ namespace bench::opencv {
 [[gnu::weak]] Peer move(View src, View dst, int from, int to, int count);
 [[gnu::weak]] Peer dropAlpha(View src, View dst);
 [[gnu::weak]] Peer spread(View src, View dst);
+// src * alpha + beta.
+[[gnu::weak]] Peer scale(View src, View dst, double alpha, double beta);
+// 255 for samples above the threshold, else 0: a byte for each bit.
+[[gnu::weak]] Peer above(View src, double threshold);
 
 }  // namespace bench::opencv
