@@ -30,6 +30,7 @@ endfunction()
 
 lumi_sources(frame attach image_memory version streaming)
 lumi_sources(data set copy copy_channels)
+lumi_sources(arithmetic add_sub)
 lumi_sources(data scale bits)
 lumi_kernels(masked chosen planes pattern)  # not of one family alone
 

@@ -6,6 +6,7 @@
 
 #include "lumi/types.h"
 
+#include "lumi/add_sub.h"
 #include "lumi/bits.h"
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"

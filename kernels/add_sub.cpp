@@ -222,7 +222,8 @@ void combineRows(const uint8_t* a, const uint8_t* b, uint8_t* dst, size_t sample
 }
 
 template <typename Op, typename T, int alpha, bool ofThree, bool streaming>
-void combineConstant(const PixelPattern& a, const uint8_t* b, uint8_t* dst, size_t samples, Scaling scaling) {
+void combineWithConstant(const PixelPattern& a, const uint8_t* b, uint8_t* dst, size_t samples,
+                         Scaling scaling) {
   using Store = std::conditional_t<streaming, Streaming, Cached>;
   const ConstantRow<ofThree> constant{a};
   withFunction<Op, T>(scaling,
@@ -231,19 +232,18 @@ void combineConstant(const PixelPattern& a, const uint8_t* b, uint8_t* dst, size
 
 #define LUMI_IMAGES(Op, T, alpha) \
   template void combineRows<Op, T, alpha>(const Byte*, const Byte*, Byte*, size_t, Scaling);
-#define LUMI_CONSTANT(Op, T, ...) \
-  template void combineConstant<Op, T, __VA_ARGS__>(const PixelPattern&, const Byte*, Byte*, size_t, Scaling);
+#define LUMI_CONSTANT(Op, T, ...)                                                                        \
+  template void combineWithConstant<Op, T, __VA_ARGS__>(const PixelPattern&, const Byte*, Byte*, size_t, \
+                                                        Scaling);
 #define LUMI_WHOLE(Op, T) \
   LUMI_IMAGES(Op, T, 0) LUMI_CONSTANT(Op, T, 0, false, false) LUMI_CONSTANT(Op, T, 0, true, false)
 #define LUMI_ALPHA(Op, T, samples) LUMI_IMAGES(Op, T, samples) LUMI_CONSTANT(Op, T, samples, false, false)
-#define LUMI_OPERATION(Op)                                                                               \
-  LUMI_WHOLE(Op, uint8_t)                                                                                \
-  LUMI_ALPHA(Op, uint8_t, 1)                                                                             \
-  LUMI_WHOLE(Op, uint16_t)                                                                               \
-  LUMI_ALPHA(Op, uint16_t, 1)                                                                            \
-  LUMI_WHOLE(Op, int16_t) LUMI_ALPHA(Op, int16_t, 1) LUMI_ALPHA(Op, int16_t, 2) LUMI_WHOLE(Op, int32_t)  \
-      LUMI_ALPHA(Op, int32_t, 2) LUMI_WHOLE(Op, float) LUMI_ALPHA(Op, float, 1) LUMI_ALPHA(Op, float, 2) \
-          LUMI_CONSTANT(Op, int16_t, 0, true, true)
+#define LUMI_OPERATION(Op)                                                                                \
+  LUMI_WHOLE(Op, uint8_t)                                                                                 \
+  LUMI_ALPHA(Op, uint8_t, 1) LUMI_WHOLE(Op, uint16_t) LUMI_ALPHA(Op, uint16_t, 1) LUMI_WHOLE(Op, int16_t) \
+      LUMI_ALPHA(Op, int16_t, 1) LUMI_WHOLE(Op, int32_t) LUMI_ALPHA(Op, int32_t, 2) LUMI_WHOLE(Op, float) \
+          LUMI_ALPHA(Op, float, 1) LUMI_ALPHA(Op, int16_t, 2) LUMI_ALPHA(Op, float, 2)                    \
+              LUMI_CONSTANT(Op, int16_t, 0, true, true)
 LUMI_OPERATION(Add)
 LUMI_OPERATION(Sub)
 

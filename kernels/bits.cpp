@@ -96,7 +96,7 @@ struct Expand {
     for (size_t i = last / 8 + 1; i-- > first / 8;) bytes = bytes << 8 | src[i];
     return Lanes(first % 8).results(bytesOfWord(bytes), choice);
   }
-  bool overlaps(const Byte*, size_t) const { return false; }
+  size_t distance(const Byte*, size_t bytes) const { return bytes; }
   Expand gathered(Room& room, size_t at, size_t bytes) const {
     const size_t first = bitOf(at), last = first + bytes / sizeof(D) - 1;
     copyFew(room.bytes, src + first / 8, last / 8 - first / 8 + 1);

@@ -42,12 +42,12 @@ extern "C" {
  *
  *   hint       2 takes the accurate way, any other value the fast one
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u16s 8u16u 8u32s 16s8u 16u8u 32s8u: C1 C3 C4 AC4):
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
  *   lumStatusBadStep (-14)     a step is below 1
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u32f 32f8u: C1 C3 C4 AC4):
  *   lumStatusBadDataRange (-13) upper is not above lower
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
