@@ -69,8 +69,8 @@ struct Expand {
     // Of samples whose first one has bit `first` of the first byte.
     explicit Lanes(size_t first)
         : byte(load16(kTables.byte + first * sizeof(D))), bit{load16(kTables.bit + first * sizeof(D))} {}
-    Bytes16 results(Bytes16 bytes, const Choice& choice) const {
-      return choice(isEqual(Samples<D>{shuffle(bytes, byte)} & bit, bit)).v;
+    Bytes16 results(Bytes16 bytes, const Choice& choose) const {
+      return choose(isEqual(Samples<D>{shuffle(bytes, byte)} & bit, bit)).v;
     }
   };
   struct Phase {
