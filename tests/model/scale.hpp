@@ -2,7 +2,6 @@
 // Scale, sample by sample.
 #pragma once
 
-#include <cmath>
 #include <cstdint>
 
 #include "model/access.hpp"
@@ -12,7 +11,14 @@ namespace model {
 // Whether the call takes the accurate way.
 constexpr bool isAccurate(LumAlgorithmHint hint) { return hint == 2; }
 
-inline Lum8u limitedTo8u(double x) { return static_cast<Lum8u>(x < 0 ? 0 : x > 255 ? 255 : x); }
+// Limited to 0 to 255, NaN to 0, and to the nearest integer there, ties to even.
+inline Lum8u nearest8u(double x) {
+  if (!(x > 0)) return 0;
+  if (x > 255) return 255;
+  const int below = static_cast<int>(x);
+  const double rest = x - below;
+  return static_cast<Lum8u>(rest > 0.5 || (rest == 0.5 && below % 2 != 0) ? below + 1 : below);
+}
 
 // From 8u: 0 to the smallest, 255 to the largest.
 inline void scaleSample(Lum8u v, Lum16u& result) { result = static_cast<Lum16u>(v * 257); }
@@ -25,32 +31,32 @@ inline void scaleSample(Lum8u v, Lum32f& result, Lum32f lower, Lum32f upper) {
   result = lower + product;
 }
 
-// To 8u. What is rounded follows the unit's rounding, which is to nearest within accurate calls.
-inline Lum8u nearest8u(Lum16u v, LumAlgorithmHint hint) {
-  const Lum32f product = static_cast<Lum32f>(v) * 0.0038910506f;
-  if (isAccurate(hint)) return limitedTo8u(std::nearbyint(product));
+// To 8u. Products and sums are rounded as the unit is set, which is to nearest within accurate calls.
+inline Lum8u narrowed(Lum16u v, LumAlgorithmHint hint) {
   const int w = v - 32768;
-  return static_cast<Lum8u>(((w - (w >> 8)) >> 8) + 128);
+  if (!isAccurate(hint)) return static_cast<Lum8u>(((w - (w >> 8)) >> 8) + 128);
+  const Lum32f product = static_cast<Lum32f>(v) * 0.0038910506f;
+  return nearest8u(product);
 }
-inline Lum8u nearest8u(Lum16s v, LumAlgorithmHint hint) {
+inline Lum8u narrowed(Lum16s v, LumAlgorithmHint hint) {
+  if (!isAccurate(hint)) return static_cast<Lum8u>(((v - (v >> 8)) >> 8) + 128);
   const Lum32f product = static_cast<Lum32f>(v + 32768) * 0.0038910506f;
-  if (isAccurate(hint)) return limitedTo8u(std::nearbyint(product));
-  return static_cast<Lum8u>(((v - (v >> 8)) >> 8) + 128);
+  return nearest8u(product);
 }
-inline Lum8u nearest8u(Lum32s v, LumAlgorithmHint hint) {
-  const double product = v * 5.937181414556033e-08, sum = product + 127.5000000296859;
-  if (isAccurate(hint)) return limitedTo8u(std::nearbyint(sum));
-  return static_cast<Lum8u>(((v - (v >> 8)) >> 24) + 128);
+inline Lum8u narrowed(Lum32s v, LumAlgorithmHint hint) {
+  if (!isAccurate(hint)) return static_cast<Lum8u>(((v - (v >> 8)) >> 24) + 128);
+  const double product = v * 5.937181414556033e-08;
+  return nearest8u(product + 127.5000000296859);
 }
-inline Lum8u nearest8u(Lum32f v, Lum32f lower, Lum32f upper) {
+inline Lum8u narrowed(Lum32f v, Lum32f lower, Lum32f upper) {
   const Lum32f range = upper - lower, f = 255 / range, offset = f * lower, product = v * f;
   const Lum32f x = product - offset;
-  return std::isnan(x) ? Lum8u{0} : limitedTo8u(std::nearbyint(x));
+  return nearest8u(x);
 }
 
 template <typename S, typename... More>
 void scaleSample(S v, Lum8u& result, More... more) {
-  result = nearest8u(v, more...);
+  result = narrowed(v, more...);
 }
 
 // `more` is what the call has besides images: nothing, a hint, or bounds.
