@@ -100,4 +100,14 @@ Peer convertScaled(View src, View dst, double factor) {
   return peer("opencv", [s = mat(src), d = mat(dst), factor]() mutable { s.convertTo(d, d.type(), factor); });
 }
 
+Peer scale(View src, View dst, double alpha, double beta) {
+  cv::Mat d = mat(dst);
+  return peer("opencv", [s = mat(src), d, alpha, beta] { s.convertTo(d, d.depth(), alpha, beta); });
+}
+
+Peer above(View src, double threshold) {
+  const cv::Mat bytes(src.roi.height, src.roi.width, CV_8UC1);
+  return peer("opencv", [s = mat(src), bytes, threshold] { cv::compare(s, threshold, bytes, cv::CMP_GT); });
+}
+
 }  // namespace bench::opencv

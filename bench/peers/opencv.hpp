@@ -23,6 +23,10 @@ namespace bench::opencv {
 // The first operand from the second.
 [[gnu::weak]] Peer subtract(View a, View b, View dst);
 [[gnu::weak]] Peer addConstant(View src, View dst, Value value);
+// src * alpha + beta.
+[[gnu::weak]] Peer scale(View src, View dst, double alpha, double beta);
+// 255 for samples above the threshold, else 0: a byte for each bit.
+[[gnu::weak]] Peer above(View src, double threshold);
 
 // To the destination's type; multiplied by a factor before.
 [[gnu::weak]] Peer convert(View src, View dst);
