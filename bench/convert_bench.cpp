@@ -72,7 +72,7 @@ Suite::Build convertScaled(Convert<S, D, LumRoundMode, int> lumi, int s) {
     const auto src = scene.input<S>(1);
     const auto dst = scene.output<D>(1);
     scene.ours([=] { lumi(src.data(), src.step, dst.data(), dst.step, src.roi, lumRoundNearestEven, s); });
-    scene.peer(opencv::convertScaled, src, dst, std::ldexp(1.0, -s));
+    scene.peer(opencv::scale, src, dst, std::ldexp(1.0, -s), 0.0);
     scene.peer(loopScaled(src, dst, s));
   };
 }

@@ -64,10 +64,8 @@ template <typename Store, typename Rule, size_t... k, size_t... rest>
   size_t at = canAlign ? reach : kBlock;
   const typename Rule::Phase phases[] = {rule.phase(at + k % Rule::kPeriod * kBlock)...};
   constexpr size_t round = sizeof...(k) * kBlock;
-  if (std::is_same_v<Store, Cached> || canAlign) {
-    for (; at + round <= bytes; at += round)
-      (Store::store(d + at + k * kBlock, rule.block(at + k * kBlock, phases[k])), ...);
-  }
+  for (; at + round <= bytes; at += round)
+    (Store::store(d + at + k * kBlock, rule.block(at + k * kBlock, phases[k])), ...);
   const auto one = [&](const auto& phase) {
     if (at + kBlock > bytes) return false;
     Cached::store(d + at, rule.block(at, phase));
@@ -105,7 +103,15 @@ template <typename Store = Cached, typename Rule>
     return;
   }
   constexpr size_t round = Rule::kPeriod == 1 ? 2 : Rule::kPeriod;
-  runLong<Store>(d, bytes, rule, std::make_index_sequence<round>(), std::make_index_sequence<round - 1>());
+  const auto run = [&](auto store) {
+    runLong<decltype(store)>(d, bytes, rule, std::make_index_sequence<round>(),
+                             std::make_index_sequence<round - 1>());
+  };
+  // No sample of a row at an odd address starts on a boundary, and stores that bypass the cache need one.
+  if (isAligned(d, Rule::kSample))
+    run(Store());
+  else
+    run(Cached());
 }
 
 // A row of S samples that becomes one of D samples.
@@ -115,8 +121,9 @@ struct ImageRow {
 
   static constexpr size_t kBlocks = 1;
   struct Phase {};
+  // Never less than a vector: pieces are gathered in steps of up to eight bytes, however few there are.
   struct Room {
-    alignas(kHalf) Byte bytes[kHalf / sizeof(D) * sizeof(S)];
+    alignas(kHalf) Byte bytes[std::max(kHalf, kHalf / sizeof(D) * sizeof(S))];
   };
   static constexpr size_t sourceBytes(size_t bytes) { return bytes / sizeof(D) * sizeof(S); }
 

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "kernels/scale.hpp"
 
-#include <algorithm>
-
-#include "kernels/pointwise.hpp"
+#include "kernels/conversion.hpp"
 #include "kernels/simd/scale.hpp"
 
 namespace lumi {
@@ -30,7 +28,7 @@ struct Widen {
     return joined(wordsOf(bytes.v, high.v), wordsOfHigh(bytes.v, high.v));
   }
   Bytes16 half(const Byte* p) const {
-    const U8 bytes{load8(p)};
+    const U8 bytes{loadFew<8>(p)};
     return wordsOf(bytes.v, highBytes(bytes).v);
   }
 };
@@ -44,10 +42,10 @@ struct Widen<int32_t> {
     return bytesOf(S32{shuffle(bytes, vectorOf(which))} ^ broadcast(INT32_MIN));
   }
   Halves32 block(const Byte* p) const {
-    const Bytes16 bytes = load8(p);
+    const Bytes16 bytes = loadFew<8>(p);
     return {four(bytes, kFirstFour), four(bytes, kNextFour)};
   }
-  Bytes16 half(const Byte* p) const { return four(load4(p), kFirstFour); }
+  Bytes16 half(const Byte* p) const { return four(loadFew<4>(p), kFirstFour); }
 };
 
 // w - w / 256, of w with the range about zero, has its result in the high byte. The fast way divides rounding
@@ -66,10 +64,10 @@ struct Narrow {
     if constexpr (sizeof(S) == sizeof(int16_t))
       return scaled(p);
     else
-      return packSat(scaled(p), scaled(p + kHalf));
+      return packed<int16_t>(scaled(p), scaled(p + kHalf));
   }
   Bytes16 half(const Byte* p) const {
-    return bytesOf(packSat(words(p), words(p + kHalf / 2 * sizeof(S))) ^ broadcast<int8_t>(INT8_MIN));
+    return bytesOf(packed<int8_t>(words(p), words(p + kHalf / 2 * sizeof(S))) ^ broadcast<int8_t>(INT8_MIN));
   }
 };
 
@@ -77,47 +75,31 @@ struct WidenToFloats {
   Floats8 factor, offset;
 
   explicit WidenToFloats(Line line)
-      : factor(broadcastFloats8(line.factor)), offset(broadcastFloats8(line.offset)) {}
+      : factor(broadcastFloat<Floats8>(line.factor)), offset(broadcastFloat<Floats8>(line.offset)) {}
 
   Bytes32 block(const Byte* p) const { return asBytes((floatsOf8Bytes(p) * factor + offset).v); }
   Bytes16 half(const Byte* p) const { return bytesOf(floatsOf4Bytes(p) * lowHalf(factor) + lowHalf(offset)); }
 };
 
 struct NarrowFloats {
-  Floats8 factor, offset, limit = broadcastFloats8(255);
+  Floats8 factor, offset, limit = broadcastFloat<Floats8>(255);
 
   explicit NarrowFloats(Line line)
-      : factor(broadcastFloats8(line.factor)), offset(broadcastFloats8(line.offset)) {}
+      : factor(broadcastFloat<Floats8>(line.factor)), offset(broadcastFloat<Floats8>(line.offset)) {}
 
   S16 words(const Byte* p) const {
-    return roundedToWords(limitedFromAbove(loadFloats8(p) * factor - offset, limit));
+    const Ints8 v = rounded(limitedFromAbove(loadFloats8(p) * factor - offset, limit));
+    return packed<int16_t>(lowHalf(v), highHalf(v));
   }
-  Bytes16 half(const Byte* p) const { return packSatUnsigned(words(p), words(p + kBlock)); }
-};
-
-// A rule of its own for its room, which is never less than a vector: a row's last samples are gathered in
-// steps of up to eight bytes, however few they are.
-template <typename S, typename D, typename F>
-struct Mapping : Unary<S, D, F> {
-  struct Room {
-    alignas(kHalf) Byte bytes[std::max(kHalf, ImageRow<S, D>::sourceBytes(kHalf))];
-  };
-  Mapping(const Byte* src, const F& function) : Unary<S, D, F>{{src}, function} {}
-  Mapping gathered(Room& room, size_t at, size_t bytes) const {
-    copyFew(room.bytes, this->a(at), ImageRow<S, D>::sourceBytes(bytes));
-    return {room.bytes, this->f};
-  }
+  Bytes16 half(const Byte* p) const { return bytesOf(packed<uint8_t>(words(p), words(p + kBlock))); }
 };
 
 template <typename S, typename D, bool alpha, typename F>
 void run(const Byte* src, Byte* dst, size_t samples, const F& f, bool streaming) {
-  const Mapping<S, D, F> rule(src, f);
-  constexpr size_t pixel = 4 * sizeof(D), used = alpha ? 3 * sizeof(D) : pixel;
-  // Rows that no sample boundary can be brought to a vector's have ordinary stores.
-  if (streaming && isAligned(dst, sizeof(D)))
-    runPixels<pixel, used, Streaming>(dst, samples * sizeof(D), rule);
+  if (streaming)
+    runConversion<S, D, alpha, 4, Streaming>(src, dst, samples, f);
   else
-    runPixels<pixel, used>(dst, samples * sizeof(D), rule);
+    runConversion<S, D, alpha>(src, dst, samples, f);
 }
 
 }  // namespace

@@ -94,11 +94,7 @@ Peer addConstant(View src, View dst, Value value) {
   return peer("opencv", [s = mat(src), d = mat(dst), v = scalar(value)] { cv::add(s, v, d); });
 }
 
-Peer convert(View src, View dst) { return convertScaled(src, dst, 1); }
-
-Peer convertScaled(View src, View dst, double factor) {
-  return peer("opencv", [s = mat(src), d = mat(dst), factor]() mutable { s.convertTo(d, d.type(), factor); });
-}
+Peer convert(View src, View dst) { return scale(src, dst, 1, 0); }
 
 Peer scale(View src, View dst, double alpha, double beta) {
   cv::Mat d = mat(dst);

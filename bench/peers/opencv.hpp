@@ -27,9 +27,7 @@ namespace bench::opencv {
 [[gnu::weak]] Peer scale(View src, View dst, double alpha, double beta);
 // 255 for samples above the threshold, else 0: a byte for each bit.
 [[gnu::weak]] Peer above(View src, double threshold);
-
-// To the destination's type; multiplied by a factor before.
+// To the destination's type.
 [[gnu::weak]] Peer convert(View src, View dst);
-[[gnu::weak]] Peer convertScaled(View src, View dst, double factor);
 
 }  // namespace bench::opencv
