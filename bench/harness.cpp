@@ -151,6 +151,14 @@ View Scene::allocate(Depth depth, int channels, bool isOutput) {
   return view;
 }
 
+Image<Lum8u> Scene::bits(bool isOutput) {
+  const LumiSize roi = roi_;
+  roi_.width = (roi.width + 7) / 8;
+  const auto image = typed<Lum8u>(allocate(Depth::u8, 1, isOutput));
+  roi_ = roi;
+  return image;
+}
+
 Image<Lum8u> Scene::mask(MaskKind kind) {
   constexpr int kBlob = 48;  // pixels across
   const Image<Lum8u> image = input<Lum8u>(1);

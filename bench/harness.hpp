@@ -92,6 +92,8 @@ class Scene {
     return planes<T>(count, true);
   }
   Image<Lum8u> mask(MaskKind kind);  // half of the pixels chosen
+  Image<Lum8u> inputBits() { return bits(false); }
+  Image<Lum8u> outputBits() { return bits(true); }
 
   template <typename Work>
   void ours(Work work) {
@@ -116,6 +118,7 @@ class Scene {
   };
 
   View allocate(Depth depth, int channels, bool isOutput);
+  Image<Lum8u> bits(bool isOutput);  // as many as the ROI has pixels, in whole bytes
   std::vector<bool> comparePeers();
 
   template <typename T>

@@ -3,9 +3,9 @@
 #include "lumi/set.h"
 
 #include <cstring>
-#include <type_traits>
 
 #include "frame/check.hpp"
+#include "frame/constant.hpp"
 #include "frame/layout.hpp"
 #include "frame/rows.hpp"
 #include "frame/streaming.hpp"
@@ -18,15 +18,6 @@ namespace lumi {
 namespace {
 
 using namespace check;
-
-// The value's samples, whether given by value or by pointer.
-template <typename Value>
-const void* samplesOf(const Value& value) {
-  if constexpr (std::is_pointer_v<Value>)
-    return value;
-  else
-    return &value;
-}
 
 // A pixel over and over, read before any row is touched; bytes that are not stored are left zero.
 template <size_t blockBytes, int pixelBytes, int usedBytes>
@@ -44,7 +35,7 @@ LumStatus fill(Value value, T* dst, int dstStep, LumiSize roi) {
   constexpr int pixelBytes = kPixelBytes<T, Layout>;
   const bool streaming = streamsOperation(bytesMoved(roi, pixelBytes));
   const Extent extent = fuse(roi, isTight(dstStep, roi.width, pixelBytes));
-  const PixelPattern pattern = makePattern<pixelBytes>(samplesOf(value));
+  const PixelPattern pattern = patternOf<T, Layout>(value);
   walkRows(
       extent.height, [&](Byte* d) { fillRow<pixelBytes>(pattern, d, extent.pixels * pixelBytes, streaming); },
       rows(dst, dstStep));

@@ -2,7 +2,35 @@
 // Channel layouts as types: what a layout stores, and what an operation works on.
 #pragma once
 
+#include "lumi/types.h"
+
 namespace lumi {
+
+// The real samples that a sample is made of: itself, or the two parts of a complex one.
+template <typename T>
+struct Components {
+  using Type = T;
+  static constexpr int kCount = 1;
+};
+template <>
+struct Components<Lum16sc> {
+  using Type = Lum16s;
+  static constexpr int kCount = 2;
+};
+template <>
+struct Components<Lum32sc> {
+  using Type = Lum32s;
+  static constexpr int kCount = 2;
+};
+template <>
+struct Components<Lum32fc> {
+  using Type = Lum32f;
+  static constexpr int kCount = 2;
+};
+template <typename T>
+using Component = typename Components<T>::Type;
+template <typename T>
+inline constexpr int kComponents = Components<T>::kCount;
 
 struct C1 {
   static constexpr int kStored = 1, kUsed = 1;

@@ -6,10 +6,13 @@
 
 #include "lumi/types.h"
 
+#include "lumi/add_sub.h"
+#include "lumi/bits.h"
 #include "lumi/convert.h"
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"
 #include "lumi/image_memory.h"
+#include "lumi/scale.h"
 #include "lumi/set.h"
 #include "lumi/version.h"
 

@@ -58,16 +58,23 @@ struct Combine<Sub> {
   }
 };
 
-// Bytes shift as words, without the bits that come from their neighbours.
+// Bytes shift as words: bits of their neighbours come along.
+template <typename T>
+Samples<T> shiftedAsWords(Samples<T> x, Shift bits) {
+  if constexpr (sizeof(T) == 1)
+    return {(U16{x.v} >> bits).v};
+  else
+    return x >> bits;
+}
+
+// Without the bits of the neighbours.
 template <typename T>
 class RightShift {
  public:
   explicit RightShift(int bits) : shift_(bits), kept_(broadcast(static_cast<uint8_t>(0xFF >> bits))) {}
   Samples<T> operator()(Samples<T> x) const {
-    if constexpr (sizeof(T) == 1)
-      return Samples<T>{(U16{x.v} >> shift_).v} & kept_;
-    else
-      return x >> shift_;
+    const Samples<T> shifted = shiftedAsWords(x, shift_);
+    return sizeof(T) == 1 ? shifted & Samples<T>{kept_.v} : shifted;
   }
 
  private:
@@ -128,16 +135,20 @@ struct Divided;
 // it.)
 template <typename Op, typename T>
 struct Divided<Op, T, false> {
-  RightShift<T> toLast, rest;
-  Samples<T> bias;
+  Shift toLast;
+  RightShift<T> rest;
+  Samples<T> bias, last;  // no bit where the type has none so high
 
   explicit Divided(int s)
-      : toLast(s - 1), rest(s - 2), bias(broadcast(static_cast<T>((uint32_t{1} << (s - 2)) - 1))) {}
+      : toLast(s - 1),
+        rest(s - 2),
+        bias(broadcast(static_cast<T>((uint32_t{1} << (s - 2)) - 1))),
+        last(broadcast(static_cast<T>(s <= std::numeric_limits<T>::digits))) {}
 
   Samples<T> operator()(Samples<T> a, Samples<T> b) const {
     const Samples<T> one = broadcast<T>(1);
     const Exact<T> x = Combine<Op>::exact(a, b);
-    const Samples<T> tieUp = without(x.odd, toLast(x.half)) & one;
+    const Samples<T> tieUp = without(x.odd, shiftedAsWords(x.half, toLast)) & last;
     return rest(averageUp(subSat(x.half, one), bias + tieUp));
   }
 };
@@ -222,7 +233,8 @@ void combineRows(const uint8_t* a, const uint8_t* b, uint8_t* dst, size_t sample
 }
 
 template <typename Op, typename T, int alpha, bool ofThree, bool streaming>
-void combineConstant(const PixelPattern& a, const uint8_t* b, uint8_t* dst, size_t samples, Scaling scaling) {
+void combineWithConstant(const PixelPattern& a, const uint8_t* b, uint8_t* dst, size_t samples,
+                         Scaling scaling) {
   using Store = std::conditional_t<streaming, Streaming, Cached>;
   const ConstantRow<ofThree> constant{a};
   withFunction<Op, T>(scaling,
@@ -231,19 +243,19 @@ void combineConstant(const PixelPattern& a, const uint8_t* b, uint8_t* dst, size
 
 #define LUMI_IMAGES(Op, T, alpha) \
   template void combineRows<Op, T, alpha>(const Byte*, const Byte*, Byte*, size_t, Scaling);
-#define LUMI_CONSTANT(Op, T, ...) \
-  template void combineConstant<Op, T, __VA_ARGS__>(const PixelPattern&, const Byte*, Byte*, size_t, Scaling);
+#define LUMI_CONSTANT(Op, T, ...)                                                                        \
+  template void combineWithConstant<Op, T, __VA_ARGS__>(const PixelPattern&, const Byte*, Byte*, size_t, \
+                                                        Scaling);
 #define LUMI_WHOLE(Op, T) \
   LUMI_IMAGES(Op, T, 0) LUMI_CONSTANT(Op, T, 0, false, false) LUMI_CONSTANT(Op, T, 0, true, false)
 #define LUMI_ALPHA(Op, T, samples) LUMI_IMAGES(Op, T, samples) LUMI_CONSTANT(Op, T, samples, false, false)
-#define LUMI_OPERATION(Op)                                                                               \
-  LUMI_WHOLE(Op, uint8_t)                                                                                \
-  LUMI_ALPHA(Op, uint8_t, 1)                                                                             \
-  LUMI_WHOLE(Op, uint16_t)                                                                               \
-  LUMI_ALPHA(Op, uint16_t, 1)                                                                            \
-  LUMI_WHOLE(Op, int16_t) LUMI_ALPHA(Op, int16_t, 1) LUMI_ALPHA(Op, int16_t, 2) LUMI_WHOLE(Op, int32_t)  \
-      LUMI_ALPHA(Op, int32_t, 2) LUMI_WHOLE(Op, float) LUMI_ALPHA(Op, float, 1) LUMI_ALPHA(Op, float, 2) \
-          LUMI_CONSTANT(Op, int16_t, 0, true, true)
+#define LUMI_OPERATION(Op)                                                                                 \
+  LUMI_WHOLE(Op, uint8_t)                                                                                  \
+  LUMI_ALPHA(Op, uint8_t, 1)                                                                               \
+  LUMI_WHOLE(Op, uint16_t)                                                                                 \
+  LUMI_ALPHA(Op, uint16_t, 1) LUMI_WHOLE(Op, int16_t) LUMI_ALPHA(Op, int16_t, 1) LUMI_WHOLE(Op, int32_t)   \
+      LUMI_ALPHA(Op, int32_t, 2) LUMI_WHOLE(Op, float) LUMI_ALPHA(Op, float, 1) LUMI_ALPHA(Op, int16_t, 2) \
+          LUMI_ALPHA(Op, float, 2) LUMI_CONSTANT(Op, int16_t, 0, true, true)
 LUMI_OPERATION(Add)
 LUMI_OPERATION(Sub)
 

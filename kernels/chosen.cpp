@@ -98,5 +98,6 @@ void fillChosenRow(const uint8_t* block, uint8_t* dst, size_t pixels) {
 LUMI_LAYOUTS(1)
 LUMI_LAYOUTS(2)
 LUMI_LAYOUTS(4)
+LUMI_CHOSEN(8, 4, 3)
 
 }  // namespace lumi

@@ -8,12 +8,15 @@
 //   phase(at)         what stays the same for the blocks at `at`, `at` + kPeriod blocks and so on
 //   block(at, phase)  the 32 bytes of results there, as Bytes32 or Halves32
 //   half(at)          the 16 bytes of results there
-//   overlaps(d, n)    whether a source shares bytes with the n bytes at d, but not all from the first on
+//   distance(d, n)    how far from d a source begins that shares some of the n bytes there, but does not
+//   begin
+//                     with them; n if there is none
 //   Room, gathered(room, at, n)
 //                     a copy of the rule whose sources begin at `at` and hold n bytes' worth of samples, in
 //                     `room` where they come from memory: what lies behind may be read
 #pragma once
 
+#include <algorithm>
 #include <utility>
 
 #include "kernels/pattern.hpp"
@@ -38,8 +41,9 @@ inline void copyFew(Byte* to, const Byte* from, size_t bytes) {
 
 // Results in steps of a half or less, each made in a copy of its samples, strictly in order.
 template <typename Rule>
-[[gnu::noinline, gnu::flatten]] void runInSteps(Byte* d, size_t bytes, size_t step, const Rule& rule) {
-  for (size_t at = 0; at < bytes; at += step) {
+[[gnu::noinline, gnu::flatten]] void runInSteps(Byte* d, size_t at, size_t bytes, size_t step,
+                                                const Rule& rule) {
+  for (; at < bytes; at += step) {
     typename Rule::Room room{};
     alignas(kHalf) Byte results[kHalf];
     store16(results, rule.gathered(room, at, step).half(0));
@@ -50,8 +54,9 @@ template <typename Rule>
 // Where the first and last block lie over others, all of them are made of what was there before: they are
 // made first and stored last, so that the destination may be the source.
 template <typename Store, typename Rule, size_t... k, size_t... rest>
-[[gnu::noinline, gnu::flatten]] void runLong(Byte* d, size_t bytes, const Rule& rule,
+[[gnu::noinline, gnu::flatten]] void runLong(Byte* d, size_t bytes, const Rule& given,
                                              std::index_sequence<k...>, std::index_sequence<rest...>) {
+  const Rule rule = given;  // of our own: bytes stored could change the other, for all that compilers know
   const size_t reach = reachPastBoundary(d, kBlock);
   const bool canAlign = reach % Rule::kSample == 0;
   const auto first = rule.block(0, rule.phase(0));
@@ -74,13 +79,25 @@ template <typename Store, typename Rule, size_t... k, size_t... rest>
   Cached::store(d + bytes - kBlock, last);
 }
 
+// Rows that overlap a source: as if each sample were made and stored before the next is read. From a block's
+// distance on, whole blocks in order see to that too.
+template <typename Rule>
+[[gnu::noinline, gnu::flatten]] void runOverlapping(Byte* d, size_t bytes, size_t distance,
+                                                    const Rule& rule) {
+  size_t at = 0;
+  if (distance >= kBlock)
+    for (; at + kBlock <= bytes; at += kBlock) Cached::store(d + at, rule.block(at, rule.phase(at)));
+  runInSteps(d, at, bytes, Rule::kSample, rule);
+}
+
 // Makes a row of `bytes` bytes at d. A destination may be a source, sample for sample; where they overlap
 // otherwise, the samples are made one by one from the first to the last. Store is how whole blocks on
 // boundaries are stored.
 template <typename Store = Cached, typename Rule>
 [[gnu::flatten]] void runRow(Byte* d, size_t bytes, const Rule& rule) {
-  if (rule.overlaps(d, bytes)) return runInSteps(d, bytes, Rule::kSample, rule);
-  if (bytes < kHalf) return runInSteps(d, bytes, bytes, rule);
+  const size_t distance = rule.distance(d, bytes);
+  if (distance < bytes) return runOverlapping(d, bytes, distance, rule);
+  if (bytes < kHalf) return runInSteps(d, 0, bytes, bytes, rule);
   if (bytes < kBlock) {
     const Bytes16 first = rule.half(0), last = rule.half(bytes - kHalf);
     store16(d, first);
@@ -105,11 +122,13 @@ struct ImageRow {
 
   const Byte* operator()(size_t at) const { return first + sourceBytes(at); }
   Phase phase(size_t) const { return {}; }
-  Bytes32 block(size_t at, Phase) const { return load32Whole(first + at); }
+  Bytes32 block(size_t at, Phase) const {
+    return std::is_same_v<S, float> ? load32(first + at) : load32Whole(first + at);
+  }
   Bytes16 half(size_t at) const { return load16(first + at); }
-  bool overlaps(const Byte* d, size_t bytes) const {
-    return sizeof(S) == sizeof(D) && d != first &&
-           static_cast<size_t>(d < first ? first - d : d - first) < bytes;
+  size_t distance(const Byte* d, size_t bytes) const {
+    if (sizeof(S) != sizeof(D) || d == first) return bytes;
+    return std::min(bytes, static_cast<size_t>(d < first ? first - d : d - first));
   }
   ImageRow gathered(Room& room, size_t at, size_t bytes) const {
     copyFew(room.bytes, (*this)(at), sourceBytes(bytes));
@@ -131,7 +150,7 @@ struct ConstantRow {
   Phase phase(size_t at) const { return load32(from(at)); }
   Bytes32 block(size_t, Phase phase) const { return phase; }
   Bytes16 half(size_t at) const { return load16(from(at)); }
-  bool overlaps(const Byte*, size_t) const { return false; }
+  size_t distance(const Byte*, size_t bytes) const { return bytes; }
   ConstantRow gathered(Room&, size_t at, size_t) const { return {pattern, start + at}; }
 };
 
@@ -170,7 +189,9 @@ struct Binary {
     return applyToBlock<T>(f, a.block(at, phase.a), b.block(at, phase.b));
   }
   Bytes16 half(size_t at) const { return bytesOf(f(samplesOf<T>(a.half(at)), samplesOf<T>(b.half(at)))); }
-  bool overlaps(const Byte* d, size_t bytes) const { return a.overlaps(d, bytes) || b.overlaps(d, bytes); }
+  size_t distance(const Byte* d, size_t bytes) const {
+    return std::min(a.distance(d, bytes), b.distance(d, bytes));
+  }
   Binary gathered(Room& room, size_t at, size_t bytes) const {
     return {a.gathered(room.a, at, bytes), b.gathered(room.b, at, bytes), f};
   }
@@ -190,7 +211,7 @@ struct Unary {
   Phase phase(size_t) const { return {}; }
   auto block(size_t at, Phase) const { return f.block(a(at)); }
   Bytes16 half(size_t at) const { return f.half(a(at)); }
-  bool overlaps(const Byte* d, size_t bytes) const { return a.overlaps(d, bytes); }
+  size_t distance(const Byte* d, size_t bytes) const { return a.distance(d, bytes); }
   Unary gathered(Room& room, size_t at, size_t bytes) const { return {a.gathered(room, at, bytes), f}; }
 };
 
@@ -226,7 +247,7 @@ struct KeepAlpha {
     return merge(old.block(at, {}), rule.block(at, phase.rule), phase.mask);
   }
   Bytes16 half(size_t at) const { return select(old.half(at), rule.half(at), load16(maskFrom(at))); }
-  bool overlaps(const Byte* d, size_t bytes) const { return rule.overlaps(d, bytes); }
+  size_t distance(const Byte* d, size_t bytes) const { return rule.distance(d, bytes); }
   KeepAlpha gathered(Room& room, size_t at, size_t bytes) const {
     return {rule.gathered(room.rule, at, bytes), old.gathered(room.old, at, bytes), start + at};
   }

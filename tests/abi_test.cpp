@@ -60,7 +60,8 @@ bool tellsStatesInUse() {
 
 void callAll(int width, uintptr_t misalignment) {
   const bool tells = tellsStatesInUse();
-  for (const ExportRow& row : exportRows()) {
+  for (const ExportRow* each : regularRows()) {
+    const ExportRow& row = *each;
     const std::vector<Slot> slots = runningArguments(row, width);
     PackedCall packed = row.invoke.packed(slots.data());
     if (sizeof(uintptr_t) == 8) packed.words.resize(std::max<size_t>(packed.words.size(), 6));

@@ -41,6 +41,8 @@ LumStatus statusOf(Check check) {
       return lumStatusBadStep;
     case Check::Range:
       return lumStatusBadDataRange;
+    case Check::Own:
+      break;
   }
   return lumStatusOk;
 }
@@ -59,6 +61,8 @@ bool finds(Check check, Category category) {
       return category == Category::Offset;
     case Check::Range:
       return category == Category::Range;
+    case Check::Own:
+      break;
   }
   return false;
 }
@@ -162,7 +166,8 @@ std::vector<Slot> validArguments(const ExportRow& row) {
 
 TEST(FaultMatrix, EveryFaultAloneAndInPairs) {
   size_t calls = 0;
-  for (const ExportRow& row : exportRows()) {
+  for (const ExportRow* each : regularRows()) {
+    const ExportRow& row = *each;
     std::vector<BadArgument> faults;
     for (size_t i = 0; i < row.arguments.size(); ++i)
       for (BadArgument& fault : faultsOf(row, i)) faults.push_back(std::move(fault));
@@ -181,17 +186,17 @@ TEST(FaultMatrix, EveryFaultAloneAndInPairs) {
       }
     }
   }
-  EXPECT_GT(calls, exportRows().size() * 20);
+  EXPECT_GT(calls, regularRows().size() * 20);
 }
 
 // The matrix rests on the rows: each row names its checks, and each fault of an argument has one.
 TEST(FaultMatrix, EveryRowHasChecksForItsArguments) {
   ASSERT_FALSE(exportRows().empty());
-  for (const ExportRow& row : exportRows())
-    for (size_t i = 0; i < row.arguments.size(); ++i)
-      for (const BadArgument& fault : faultsOf(row, i)) {
+  for (const ExportRow* row : regularRows())
+    for (size_t i = 0; i < row->arguments.size(); ++i)
+      for (const BadArgument& fault : faultsOf(*row, i)) {
         if (fault.category == Category::Harmless) continue;
-        EXPECT_NE(expected(row, {&fault}), lumStatusOk) << row.name << ": no check finds " << fault.name;
+        EXPECT_NE(expected(*row, {&fault}), lumStatusOk) << row->name << ": no check finds " << fault.name;
       }
 }
 

@@ -82,10 +82,32 @@ Peer spread(View src, View dst) {
   return peer("opencv", [s = mat(src), d = mat(dst)] { cv::cvtColor(s, d, cv::COLOR_GRAY2BGR); });
 }
 
+Peer add(View a, View b, View dst) {
+  return peer("opencv", [x = mat(a), y = mat(b), d = mat(dst)] { cv::add(x, y, d); });
+}
+
+Peer subtract(View a, View b, View dst) {
+  return peer("opencv", [x = mat(a), y = mat(b), d = mat(dst)] { cv::subtract(y, x, d); });
+}
+
+Peer addConstant(View src, View dst, Value value) {
+  return peer("opencv", [s = mat(src), d = mat(dst), v = scalar(value)] { cv::add(s, v, d); });
+}
+
 Peer convert(View src, View dst) { return convertScaled(src, dst, 1); }
 
 Peer convertScaled(View src, View dst, double factor) {
   return peer("opencv", [s = mat(src), d = mat(dst), factor]() mutable { s.convertTo(d, d.type(), factor); });
+}
+
+Peer scale(View src, View dst, double alpha, double beta) {
+  cv::Mat d = mat(dst);
+  return peer("opencv", [s = mat(src), d, alpha, beta] { s.convertTo(d, d.depth(), alpha, beta); });
+}
+
+Peer above(View src, double threshold) {
+  const cv::Mat bytes(src.roi.height, src.roi.width, CV_8UC1);
+  return peer("opencv", [s = mat(src), bytes, threshold] { cv::compare(s, threshold, bytes, cv::CMP_GT); });
 }
 
 }  // namespace bench::opencv

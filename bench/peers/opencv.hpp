@@ -19,6 +19,14 @@ namespace bench::opencv {
 [[gnu::weak]] Peer move(View src, View dst, int from, int to, int count);
 [[gnu::weak]] Peer dropAlpha(View src, View dst);
 [[gnu::weak]] Peer spread(View src, View dst);
+[[gnu::weak]] Peer add(View a, View b, View dst);
+// The first operand from the second.
+[[gnu::weak]] Peer subtract(View a, View b, View dst);
+[[gnu::weak]] Peer addConstant(View src, View dst, Value value);
+// src * alpha + beta.
+[[gnu::weak]] Peer scale(View src, View dst, double alpha, double beta);
+// 255 for samples above the threshold, else 0: a byte for each bit.
+[[gnu::weak]] Peer above(View src, double threshold);
 
 // To the destination's type; multiplied by a factor before.
 [[gnu::weak]] Peer convert(View src, View dst);

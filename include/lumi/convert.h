@@ -40,12 +40,12 @@ extern "C" {
  *
  *   roundMode  lumRoundTowardZero, lumRoundNearestEven, lumRoundHalfAway or any other value
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u16s 8u16u 8u32s 8u32f 8s32s 8s32f 16s32f 16u32f 16s8u 16u8u 16s32s 16u32s 32s8u 32s8s 32f8u 32f8s 32f16u 32f16s: C1 C3 C4 AC4; 8s16s 16u32u 32s32f 32u32f: C1):
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
  *   lumStatusBadStep (-14)     a step is below 1
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (8s8u 8s16u 8s32u 16s16u 16s32u 32s32u 8u8s 16s8s 16u8s 16u16s 32s16s 32s16u 32u8s 32u8u 32u16s 32u16u 32u32s 32f8u 32f8s 32f16u 32f16s 32f32s 32f32u: C1):
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
  */

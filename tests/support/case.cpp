@@ -148,6 +148,7 @@ Case makeCase(const Member& member, uint64_t seed, int index) {
     c.dstChannel = (c.srcChannel + random.between(1, channels - 1)) % channels;
     c.dstStep = separateStep(random, dstTight);
   }
+  if (member.checksSteps && member.floatResults) c.dstStep = std::abs(c.dstStep);
   if (member.checksSteps)
     for (int* each : {&c.srcStep, &c.src2Step, &c.dstStep, &c.maskStep}) *each = std::max(1, *each);
   if (c.srcIsDst) c.srcStep = c.dstStep;

@@ -54,6 +54,6 @@ Case makeCase(const Member& member, uint64_t seed, int index);
 int caseRound();
 
 // The largest image of makeCase, in bytes.
-constexpr size_t kLargestCaseImage = 104 * 1024;
+constexpr size_t kLargestCaseImage = 168 * 1024;
 
 }  // namespace test

@@ -10,4 +10,11 @@ const std::vector<ExportRow>& exportRows() {
   return rows;
 }
 
+std::vector<const ExportRow*> regularRows() {
+  std::vector<const ExportRow*> result;
+  for (const ExportRow& row : exportRows())
+    if (row.checks != std::vector<Check>{Check::Own}) result.push_back(&row);
+  return result;
+}
+
 }  // namespace test

@@ -31,7 +31,8 @@ enum class Kind {
 };
 
 // A step of the order in which an operation checks its arguments.
-enum class Check { Null, Size, Width, Step, Offset, Range };
+// Own: an order that the general words do not tell; the family's own tests do.
+enum class Check { Null, Size, Width, Step, Offset, Range, Own };
 
 struct Argument {
   Kind kind;
@@ -129,5 +130,8 @@ struct ExportRow {
 
 // Every export that returns a status, in the order of the names.
 const std::vector<ExportRow>& exportRows();
+
+// Those whose arguments can be made without knowing the operation.
+std::vector<const ExportRow*> regularRows();
 
 }  // namespace test

@@ -80,6 +80,7 @@ struct Member {
   bool inPlace = false;
   Aliasing aliasing = Aliasing::None;
   bool masked = false, checksSteps = false;
+  bool mayStream = true;      // whether large images are tried
   bool floatResults = false;  // NaNs need not have equal bits, and rows of the destination are apart
   int values = 0;             // samples of the value argument; one is passed by value
   std::vector<Contents> contents = {Contents::Bytes};  // of sources and values

@@ -49,16 +49,28 @@ def _wrap_prototype(text, width=110):
     return "\n".join(lines + [line])
 
 
+def _members(exports):
+    """Sample types and layouts of exports, in few words."""
+    layouts = {}
+    for e in exports:
+        layouts.setdefault("".join(e.types), {})["".join(e.layouts)] = None
+    groups = {}
+    for types, names in layouts.items():
+        groups.setdefault(" ".join(names), []).append(types)
+    return "; ".join(f"{' '.join(types)}: {names}" for names, types in groups.items())
+
+
 def _doc_block(op):
     lines = [op.brief] + ([""] + op.text if op.text else [])
     if op.params:
         lines += [""] + [f"  {p.name:<10} {p.about}" for p in op.params]
-    checks = []
+    cohorts = {}
     for export in op.exports:
-        if export.check and export.check not in checks:
-            checks.append(export.check)
-    for check in checks:
-        lines += ["", "Returns lumStatusOk (0) or, tested in this order and before anything is written:"]
+        if export.check and export.check != ("own",):
+            cohorts.setdefault(export.check, []).append(export)
+    for check, exports in cohorts.items():
+        members = f" ({_members(exports)})" if len(cohorts) > 1 else ""
+        lines += ["", f"Returns lumStatusOk (0) or, tested in this order and before anything is written{members}:"]
         lines += [f"  {CHECK_TEXT[c]}" for c in check]
     body = "\n".join((" * " + line).rstrip() for line in lines)
     return f"/**\n{body}\n */"

@@ -128,6 +128,8 @@ def _value(sample, layout):
 
 
 def _param(param, ctype):
+    if ctype == "LumiSize":
+        return Arg("size", param.name, f"{ctype} {param.name}")
     if "*" in ctype:
         return Arg("optional" if param.optional else "pointer", param.name, f"{ctype} {param.name}")
     return Arg("number", param.name, f"{ctype} {param.name}", base=param.base)

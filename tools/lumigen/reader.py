@@ -8,7 +8,7 @@ from dataclasses import dataclass, field
 from . import grammar
 from .grammar import Export, GrammarError, Param
 
-CHECKS = ("null", "size", "width", "step", "offset", "range")
+CHECKS = ("null", "size", "width", "step", "offset", "range", "own")
 HOMES = ("frame", "arithmetic", "data", "statistics", "filters", "geometry", "transforms", "analysis")
 
 

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+// Bit images: from bits to grey values and back.
+#include "lumi/bits.h"
+
+#include <cstring>
+#include <type_traits>
+
+#include "frame/check.hpp"
+#include "frame/layout.hpp"
+#include "frame/rows.hpp"
+#include "kernels/bits.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace check;
+
+LumStatus bitOffset(int offset) { return offset < 0 ? lumStatusBadSize : lumStatusOk; }
+
+// Only the bit within the first byte counts; whole bytes do not move the pointer.
+unsigned firstBit(int offset) { return static_cast<unsigned>(offset) % 8; }
+
+// The unsigned integer of a sample's size, with the sample's bits.
+template <typename T>
+auto bitsOf(T sample) {
+  std::conditional_t<sizeof(T) == 1, uint8_t, std::conditional_t<sizeof(T) == 2, uint16_t, uint32_t>> bits;
+  static_assert(sizeof bits == sizeof sample);
+  std::memcpy(&bits, &sample, sizeof bits);
+  return bits;
+}
+
+template <typename, typename T, typename>
+LumStatus expand(const Lum8u* src, int srcStep, int srcBitOffset, T* dst, int dstStep, LumiSize roi,
+                 T zeroValue, T oneValue) {
+  if (LumStatus fault =
+          firstFault(pointers(src, dst), size(roi), steps(srcStep, dstStep), bitOffset(srcBitOffset)))
+    return fault;
+  walkRows(
+      roi.height,
+      [&](const Byte* s, Byte* d) {
+        expandRow(s, firstBit(srcBitOffset), d, static_cast<size_t>(roi.width), bitsOf(zeroValue),
+                  bitsOf(oneValue));
+      },
+      rows(src, srcStep), rows(dst, dstStep));
+  return lumStatusOk;
+}
+
+template <typename, typename, typename>
+LumStatus expandToFull(const Lum8u* src, int srcStep, int srcBitOffset, Lum8u* dst, int dstStep,
+                       LumiSize roi) {
+  if (LumStatus fault =
+          firstFault(pointers(src, dst), size(roi), steps(srcStep, dstStep), bitOffset(srcBitOffset)))
+    return fault;
+  walkRows(
+      roi.height,
+      [&](const Byte* s, Byte* d) {
+        expandToFullRow(s, firstBit(srcBitOffset), d, static_cast<size_t>(roi.width));
+      },
+      rows(src, srcStep), rows(dst, dstStep));
+  return lumStatusOk;
+}
+
+template <typename T, typename, typename>
+LumStatus compare(const T* src, int srcStep, Lum8u* dst, int dstStep, int dstBitOffset, LumiSize roi,
+                  T threshold) {
+  if (LumStatus fault =
+          firstFault(pointers(src, dst), size(roi), steps(srcStep, dstStep), bitOffset(dstBitOffset)))
+    return fault;
+  walkRows(
+      roi.height,
+      [&](const Byte* s, Byte* d) {
+        compareRow<T>(s, d, firstBit(dstBitOffset), static_cast<size_t>(roi.width), threshold);
+      },
+      rows(src, srcStep), rows(dst, dstStep));
+  return lumStatusOk;
+}
+
+}  // namespace
+}  // namespace lumi
+
+using namespace lumi;
+#include "bind/bits.inc"

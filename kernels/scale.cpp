@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+#include "kernels/scale.hpp"
+
+#include <algorithm>
+
+#include "kernels/pointwise.hpp"
+#include "kernels/simd/scale.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace simd;
+
+// A function of halves, 16 bytes of results, for blocks.
+template <typename S, typename D, typename F>
+struct InHalves : F {
+  Halves32 block(const Byte* p) const { return {F::half(p), F::half(p + kHalf / sizeof(D) * sizeof(S))}; }
+};
+
+// The byte in each place of the sample, with the top bit inverted for signed ones. Constants are made where
+// they are used: as members they would be read again after every store, which might have changed them.
+template <typename D>
+struct Widen {
+  static U8 highBytes(U8 bytes) {
+    if constexpr (std::is_signed_v<D>) bytes = bytes ^ broadcast(Byte{0x80});
+    return bytes;
+  }
+  Bytes32 block(const Byte* p) const {
+    const U8 bytes{load16(p)}, high = highBytes(bytes);
+    return joined(wordsOf(bytes.v, high.v), wordsOfHigh(bytes.v, high.v));
+  }
+  Bytes16 half(const Byte* p) const {
+    const U8 bytes{load8(p)};
+    return wordsOf(bytes.v, highBytes(bytes).v);
+  }
+};
+
+template <>
+struct Widen<int32_t> {
+  static constexpr Control kFirstFour = {0, 0, 0, 0, 1, 1, 1, 1, 2, 2, 2, 2, 3, 3, 3, 3},
+                           kNextFour = {4, 4, 4, 4, 5, 5, 5, 5, 6, 6, 6, 6, 7, 7, 7, 7};
+
+  static Bytes16 four(Bytes16 bytes, const Control& which) {
+    return bytesOf(S32{shuffle(bytes, vectorOf(which))} ^ broadcast(INT32_MIN));
+  }
+  Halves32 block(const Byte* p) const {
+    const Bytes16 bytes = load8(p);
+    return {four(bytes, kFirstFour), four(bytes, kNextFour)};
+  }
+  Bytes16 half(const Byte* p) const { return four(load4(p), kFirstFour); }
+};
+
+// w - w / 256, of w with the range about zero, has its result in the high byte. The fast way divides rounding
+// down, and so takes its steps up one early where w is negative. With the quotient rounded to the nearest,
+// halves up, the result is that of the division in floats, for every sample.
+template <typename S, bool accurate>
+struct Narrow {
+  using W = std::make_signed_t<S>;
+
+  static Samples<W> scaled(const Byte* p) {
+    Samples<W> w{load16(p)};
+    if constexpr (std::is_unsigned_v<S>) w = w ^ broadcast(std::numeric_limits<W>::min());
+    return shiftRight<8 * sizeof(S) - 8>(w - (accurate ? nearest256th(w) : shiftRight<8>(w)));
+  }
+  static S16 words(const Byte* p) {
+    if constexpr (sizeof(S) == sizeof(int16_t))
+      return scaled(p);
+    else
+      return packSat(scaled(p), scaled(p + kHalf));
+  }
+  Bytes16 half(const Byte* p) const {
+    return bytesOf(packSat(words(p), words(p + kHalf / 2 * sizeof(S))) ^ broadcast<int8_t>(INT8_MIN));
+  }
+};
+
+struct WidenToFloats {
+  Floats8 factor, offset;
+
+  explicit WidenToFloats(Line line)
+      : factor(broadcastFloats8(line.factor)), offset(broadcastFloats8(line.offset)) {}
+
+  Bytes32 block(const Byte* p) const { return asBytes((floatsOf8Bytes(p) * factor + offset).v); }
+  Bytes16 half(const Byte* p) const { return bytesOf(floatsOf4Bytes(p) * lowHalf(factor) + lowHalf(offset)); }
+};
+
+struct NarrowFloats {
+  Floats8 factor, offset, limit = broadcastFloats8(255);
+
+  explicit NarrowFloats(Line line)
+      : factor(broadcastFloats8(line.factor)), offset(broadcastFloats8(line.offset)) {}
+
+  S16 words(const Byte* p) const {
+    return roundedToWords(limitedFromAbove(loadFloats8(p) * factor - offset, limit));
+  }
+  Bytes16 half(const Byte* p) const { return packSatUnsigned(words(p), words(p + kBlock)); }
+};
+
+// A rule of its own for its room, which is never less than a vector: a row's last samples are gathered in
+// steps of up to eight bytes, however few they are.
+template <typename S, typename D, typename F>
+struct Mapping : Unary<S, D, F> {
+  struct Room {
+    alignas(kHalf) Byte bytes[std::max(kHalf, ImageRow<S, D>::sourceBytes(kHalf))];
+  };
+  Mapping(const Byte* src, const F& function) : Unary<S, D, F>{{src}, function} {}
+  Mapping gathered(Room& room, size_t at, size_t bytes) const {
+    copyFew(room.bytes, this->a(at), ImageRow<S, D>::sourceBytes(bytes));
+    return {room.bytes, this->f};
+  }
+};
+
+template <typename S, typename D, bool alpha, typename F>
+void run(const Byte* src, Byte* dst, size_t samples, const F& f, bool streaming) {
+  const Mapping<S, D, F> rule(src, f);
+  constexpr size_t pixel = 4 * sizeof(D), used = alpha ? 3 * sizeof(D) : pixel;
+  // Rows that no sample boundary can be brought to a vector's have ordinary stores.
+  if (streaming && isAligned(dst, sizeof(D)))
+    runPixels<pixel, used, Streaming>(dst, samples * sizeof(D), rule);
+  else
+    runPixels<pixel, used>(dst, samples * sizeof(D), rule);
+}
+
+}  // namespace
+
+template <typename D, bool alpha>
+void widenRow(const uint8_t* src, uint8_t* dst, size_t samples, bool streaming) {
+  run<uint8_t, D, alpha>(src, dst, samples, Widen<D>(), streaming);
+}
+
+template <typename S, bool alpha>
+void narrowRow(const uint8_t* src, uint8_t* dst, size_t samples, bool accurate, bool streaming) {
+  if (accurate)
+    run<S, uint8_t, alpha>(src, dst, samples, InHalves<S, uint8_t, Narrow<S, true>>{}, streaming);
+  else
+    run<S, uint8_t, alpha>(src, dst, samples, InHalves<S, uint8_t, Narrow<S, false>>{}, streaming);
+}
+
+Line bytesToFloats(float lower, float upper) { return {(upper - lower) / 255, lower}; }
+
+template <bool alpha>
+void widenToFloatsRow(const uint8_t* src, uint8_t* dst, size_t samples, Line line, bool streaming) {
+  run<uint8_t, float, alpha>(src, dst, samples, WidenToFloats(line), streaming);
+}
+
+Line floatsToBytes(float lower, float upper) {
+  const float factor = 255 / (upper - lower);
+  return {factor, factor * lower};
+}
+
+template <bool alpha>
+void narrowFloatsRow(const uint8_t* src, uint8_t* dst, size_t samples, Line line) {
+  run<float, uint8_t, alpha>(src, dst, samples, InHalves<float, uint8_t, NarrowFloats>{NarrowFloats(line)},
+                             false);
+}
+
+#define LUMI_SCALE(alpha)                                                           \
+  template void widenRow<uint16_t, alpha>(const Byte*, Byte*, size_t, bool);        \
+  template void widenRow<int16_t, alpha>(const Byte*, Byte*, size_t, bool);         \
+  template void widenRow<int32_t, alpha>(const Byte*, Byte*, size_t, bool);         \
+  template void narrowRow<uint16_t, alpha>(const Byte*, Byte*, size_t, bool, bool); \
+  template void narrowRow<int16_t, alpha>(const Byte*, Byte*, size_t, bool, bool);  \
+  template void narrowRow<int32_t, alpha>(const Byte*, Byte*, size_t, bool, bool);  \
+  template void widenToFloatsRow<alpha>(const Byte*, Byte*, size_t, Line, bool);    \
+  template void narrowFloatsRow<alpha>(const Byte*, Byte*, size_t, Line);
+LUMI_SCALE(false)
+LUMI_SCALE(true)
+
+}  // namespace lumi
