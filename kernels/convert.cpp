@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "kernels/convert.hpp"
 
-#include "kernels/conversion_rule.hpp"
+#include "kernels/conversion.hpp"
 #include "kernels/simd/convert.hpp"
 #include "kernels/simd/rounding.hpp"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "kernels/conversion_rule.hpp"
+#include "kernels/conversion.hpp"
 #include "kernels/convert.hpp"
 #include "kernels/simd/convert.hpp"
 #include "kernels/simd/rounding.hpp"

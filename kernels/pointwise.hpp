@@ -115,8 +115,9 @@ struct ImageRow {
 
   static constexpr size_t kBlocks = 1;
   struct Phase {};
+  // Never less than a vector: pieces are gathered in steps of up to eight bytes, however few there are.
   struct Room {
-    alignas(kHalf) Byte bytes[kHalf / sizeof(D) * sizeof(S)];
+    alignas(kHalf) Byte bytes[std::max(kHalf, kHalf / sizeof(D) * sizeof(S))];
   };
   static constexpr size_t sourceBytes(size_t bytes) { return bytes / sizeof(D) * sizeof(S); }
 

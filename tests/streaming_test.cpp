@@ -143,13 +143,12 @@ TEST_P(Streaming, AnyReportOfTheCacheIsTaken) {
 
 // Members by the beginnings of their names, so that they run in parallel.
 const std::vector<std::string> kGroups = {
-    const std::vector<std::string> kGroups = {
-        "lumiSet_8u",      "lumiSet_16s",     "lumiSet_16u",     "lumiSet_32s",     "lumiSet_32f",
-        "lumiCopy_8u",     "lumiCopy_16s",    "lumiCopy_16u",    "lumiCopy_32s",    "lumiCopy_32f",
-        "lumiCopyManaged", "lumiDup",         "lumiAddC_",       "lumiSubC_",       "lumiConvert_8u",
-        "lumiConvert_8s",  "lumiConvert_16s", "lumiConvert_16u", "lumiConvert_32s", "lumiConvert_32u",
-        "lumiConvert_32f", "lumiScale_8u",    "lumiScale_16",    "lumiScale_32",    "lumiBinToGray",
-        "lumiGrayToBin",   "lumiConvert_1u"};
+    "lumiSet_8u",      "lumiSet_16s",     "lumiSet_16u",     "lumiSet_32s",     "lumiSet_32f",
+    "lumiCopy_8u",     "lumiCopy_16s",    "lumiCopy_16u",    "lumiCopy_32s",    "lumiCopy_32f",
+    "lumiCopyManaged", "lumiDup",         "lumiAddC_",       "lumiSubC_",       "lumiConvert_8u",
+    "lumiConvert_8s",  "lumiConvert_16s", "lumiConvert_16u", "lumiConvert_32s", "lumiConvert_32u",
+    "lumiConvert_32f", "lumiScale_8u",    "lumiScale_16",    "lumiScale_32",    "lumiBinToGray",
+    "lumiGrayToBin",   "lumiConvert_1u"};
 
 TEST(StreamingGroups, HoldEveryMember) {
   for (const Member& m : members()) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The rule of a row whose samples become samples of another size.
+// Rows whose samples become samples of another type: f(p) as Unary has it, over source and destination of any
+// two sizes.
 #pragma once
 
 #include "kernels/pointwise.hpp"
@@ -10,35 +11,8 @@ namespace lumi::simd {
 template <typename S, typename D>
 inline constexpr size_t kSourceOfHalf = kHalf / sizeof(D) * sizeof(S);
 
-// d = f(a), of S samples a sample D. f has block(p) and half(p): 32 and 16 bytes of results from the samples
-// that begin at p. The phase is a copy of all that a block needs: byte stores could change anything that is
-// reached through the rule, so that the loop would fetch it again and again.
-template <typename S, typename D, typename F>
-struct Conversion {
-  ImageRow<S, D> a;
-  F f;
-
-  static constexpr size_t kSample = sizeof(D), kPeriod = 1;
-  struct Phase {
-    ImageRow<S, D> a;
-    F f;
-  };
-  // Never less than a vector: pieces are gathered in steps of up to eight bytes, however few there are.
-  struct Room {
-    alignas(kHalf) Byte bytes[kSourceOfHalf<S, D> < kHalf ? kHalf : kSourceOfHalf<S, D>];
-  };
-
-  Phase phase(size_t) const { return {a, f}; }
-  auto block(size_t at, const Phase& phase) const { return phase.f.block(phase.a(at)); }
-  Bytes16 half(size_t at) const { return f.half(a(at)); }
-  bool overlaps(const Byte* d, size_t bytes) const { return a.overlaps(d, bytes); }
-  Conversion gathered(Room& room, size_t at, size_t bytes) const {
-    copyFew(room.bytes, a(at), ImageRow<S, D>::sourceBytes(bytes));
-    return {{room.bytes}, f};
-  }
-};
-
-// Less than a block, from a row that shares no memory with the destination.
+// Less than a block, from a row that shares no memory with the destination. Pieces are copied out of line:
+// there are many conversions.
 [[gnu::noinline]] inline void copyPiece(Byte* to, const Byte* from, size_t bytes) {
   copyFew(to, from, bytes);
 }
@@ -51,7 +25,7 @@ template <typename S, typename D, typename F>
       if (at == bytes - kHalf) return;
     }
   }
-  typename Conversion<S, D, F>::Room room{};
+  typename Source::Room room{};
   alignas(kHalf) Byte results[kHalf];
   copyPiece(room.bytes, src, Source::sourceBytes(bytes));
   store16(results, f.half(room.bytes));
@@ -80,7 +54,7 @@ template <typename S, typename D, typename Store, typename F, size_t... k>
 // Store is how blocks on boundaries are stored; samples at odd addresses never reach one.
 template <typename S, typename D, int alpha, size_t blocks = 4, typename Store = Cached, typename F>
 void runConversion(const Byte* src, Byte* dst, size_t samples, const F& f) {
-  const Conversion<S, D, F> rule{{src}, f};
+  const Unary<S, D, F> rule{{src}, f};
   const size_t bytes = samples * sizeof(D);
   if constexpr (alpha != 0) {
     runPixels<4 * sizeof(D), (4 - alpha) * sizeof(D)>(dst, bytes, rule);
