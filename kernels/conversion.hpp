@@ -11,6 +11,27 @@ namespace lumi::simd {
 template <typename S, typename D>
 inline constexpr size_t kSourceOfHalf = kHalf / sizeof(D) * sizeof(S);
 
+// Less than a block, from a row that shares no memory with the destination. Pieces are copied out of line:
+// there are many conversions.
+[[gnu::noinline]] inline void copyPiece(Byte* to, const Byte* from, size_t bytes) {
+  copyFew(to, from, bytes);
+}
+template <typename S, typename D, typename F>
+[[gnu::noinline]] void runShort(const Byte* src, Byte* dst, size_t bytes, const F& f) {
+  using Source = ImageRow<S, D>;
+  if (bytes >= kHalf) {
+    for (size_t at = 0;; at = bytes - kHalf) {
+      store16(dst + at, f.half(src + Source::sourceBytes(at)));
+      if (at == bytes - kHalf) return;
+    }
+  }
+  typename Source::Room room{};
+  alignas(kHalf) Byte results[kHalf];
+  copyPiece(room.bytes, src, Source::sourceBytes(bytes));
+  store16(results, f.half(room.bytes));
+  copyPiece(dst, results, bytes);
+}
+
 // A row of a block or more that shares no memory with its source. It counts in samples: offsets of the wider
 // side follow from those of the narrower one for nothing, but not the other way round. First come the blocks
 // on boundaries, in rounds, then the first block and those that are left.
@@ -20,7 +41,7 @@ template <typename S, typename D, typename Store, typename F, size_t... k>
   constexpr size_t block = kBlock / sizeof(D), round = sizeof...(k) * block;
   const F f = work;  // no store changes a copy
   const auto results = [&](size_t i) { return f.block(src + i * sizeof(S)); };
-  size_t next = reachPastBoundary(dst, kBlock) / sizeof(D);
+  size_t next = (reachPastBoundary(dst, kBlock) + sizeof(D) - 1) / sizeof(D);  // 1 at least
   for (; next + round <= samples; next += round)
     (Store::store(dst + (next + k * block) * sizeof(D), results(next + k * block)), ...);
   for (size_t i = 0; i < samples; i = i == 0 ? next : i + block) {
@@ -39,11 +60,8 @@ void runConversion(const Byte* src, Byte* dst, size_t samples, const F& f) {
     runPixels<4 * sizeof(D), (4 - alpha) * sizeof(D)>(dst, bytes, rule);
   } else if constexpr (sizeof(S) == sizeof(D)) {
     runRow(dst, bytes, rule);
-  } else if (bytes < kHalf) {
-    runInSteps(dst, 0, bytes, bytes, rule);
   } else if (bytes < kBlock) {
-    store16(dst, rule.half(0));
-    store16(dst + bytes - kHalf, rule.half(bytes - kHalf));
+    runShort<S, D>(src, dst, bytes, f);
   } else if (isAligned(dst, sizeof(D))) {
     runApart<S, D, Store>(src, dst, samples, f, std::make_index_sequence<blocks>());
   } else {
