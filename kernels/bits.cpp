@@ -144,16 +144,16 @@ void putBits(Byte* d, uint32_t bits, size_t at, size_t count) {
 }  // namespace
 
 template <typename D>
-void expandRow(const uint8_t* src, unsigned offset, uint8_t* dst, size_t pixels, D zero, D one) {
+void expandBitsRow(const uint8_t* src, unsigned offset, uint8_t* dst, size_t pixels, D zero, D one) {
   runRow(dst, pixels * sizeof(D), Expand<D, FromLow, OneOfTwo<D>>{src, offset, {zero, one}});
 }
 
-void expandToFullRow(const uint8_t* src, unsigned offset, uint8_t* dst, size_t pixels) {
+void expandBitsToFullRow(const uint8_t* src, unsigned offset, uint8_t* dst, size_t pixels) {
   runRow(dst, pixels, Expand<uint8_t, FromHigh, AsItIs>{src, offset, {}});
 }
 
 template <typename S>
-void compareRow(const uint8_t* src, uint8_t* dst, unsigned offset, size_t pixels, S threshold) {
+void bitsAboveRow(const uint8_t* src, uint8_t* dst, unsigned offset, size_t pixels, S threshold) {
   const Comparison<S> row(src, pixels, threshold);
   size_t x = 0;
   if (offset != 0) {
@@ -171,12 +171,12 @@ void compareRow(const uint8_t* src, uint8_t* dst, unsigned offset, size_t pixels
   if (count > 0) putBits(dst, bits, 0, count);
 }
 
-template void expandRow<uint8_t>(const Byte*, unsigned, Byte*, size_t, uint8_t, uint8_t);
-template void expandRow<uint16_t>(const Byte*, unsigned, Byte*, size_t, uint16_t, uint16_t);
-template void expandRow<uint32_t>(const Byte*, unsigned, Byte*, size_t, uint32_t, uint32_t);
-template void compareRow<uint8_t>(const Byte*, Byte*, unsigned, size_t, uint8_t);
-template void compareRow<int16_t>(const Byte*, Byte*, unsigned, size_t, int16_t);
-template void compareRow<uint16_t>(const Byte*, Byte*, unsigned, size_t, uint16_t);
-template void compareRow<float>(const Byte*, Byte*, unsigned, size_t, float);
+template void expandBitsRow<uint8_t>(const Byte*, unsigned, Byte*, size_t, uint8_t, uint8_t);
+template void expandBitsRow<uint16_t>(const Byte*, unsigned, Byte*, size_t, uint16_t, uint16_t);
+template void expandBitsRow<uint32_t>(const Byte*, unsigned, Byte*, size_t, uint32_t, uint32_t);
+template void bitsAboveRow<uint8_t>(const Byte*, Byte*, unsigned, size_t, uint8_t);
+template void bitsAboveRow<int16_t>(const Byte*, Byte*, unsigned, size_t, int16_t);
+template void bitsAboveRow<uint16_t>(const Byte*, Byte*, unsigned, size_t, uint16_t);
+template void bitsAboveRow<float>(const Byte*, Byte*, unsigned, size_t, float);
 
 }  // namespace lumi
