@@ -6,12 +6,17 @@
 namespace bench {
 namespace {
 
-template <typename T>
-Peer loopExpand(Image<Lum8u> src, Image<T> dst, T zero, T one, bool fromHigh) {
-  return loop::rows(dst.roi, [=](int y, int width) {
+// Bit x of a row, from one end of the bytes or the other.
+inline int lowFirst(const Lum8u* row, int x) { return row[x / 8] >> x % 8 & 1; }
+inline int highFirst(const Lum8u* row, int x) { return row[x / 8] >> (7 - x % 8) & 1; }
+
+template <typename T, typename Bit>
+Peer loopExpand(Image<Lum8u> src, int offset, Image<T> dst, LumiSize roi, T zero, T one, Bit bit) {
+  return loop::rows(roi, [=](int y, int width) {
     const Lum8u* __restrict s = src.row(y);
     T* __restrict d = dst.row(y);
-    for (int x = 0; x < width; ++x) d[x] = (s[x / 8] >> (fromHigh ? 7 - x % 8 : x % 8) & 1) != 0 ? one : zero;
+    const T both[] = {zero, one};  // no branch, which random bits would make dear
+    for (int x = 0; x < width; ++x) d[x] = both[bit(s, offset + x)];
   });
 }
 
@@ -35,17 +40,18 @@ Suite::Build expand(LumStatus (*lumi)(const Lum8u*, int, int, T*, int, LumiSize,
     const auto src = s.inputBits();
     const auto dst = s.output<T>(1);
     s.ours([=] { lumi(src.data(), src.step, 0, dst.data(), dst.step, dst.roi, T{3}, T{77}); });
-    s.peer(loopExpand(src, dst, T{3}, T{77}, false));
+    s.peer(loopExpand(src, 0, dst, dst.roi, T{3}, T{77}, lowFirst));
   };
 }
 
-// From the fourth bit on: a row has three pixels less than it has bits.
-Suite::Build expandFrom3(LumStatus (*lumi)(const Lum8u*, int, int, Lum8u*, int, LumiSize)) {
+// From bit `offset` on: a row has as many pixels less than it has bits.
+Suite::Build expandToFull(int offset) {
   return [=](Scene& s) {
     const auto src = s.inputBits();
     const auto dst = s.output<Lum8u>(1);
-    const LumiSize roi{dst.roi.width - 3, dst.roi.height};
-    s.ours([=] { lumi(src.data(), src.step, 3, dst.data(), dst.step, roi); });
+    const LumiSize roi{dst.roi.width - offset, dst.roi.height};
+    s.ours([=] { lumiConvert_1u8u_C1R(src.data(), src.step, offset, dst.data(), dst.step, roi); });
+    s.peer(loopExpand<Lum8u>(src, offset, dst, roi, 0, 255, highFirst));
   };
 }
 
@@ -68,13 +74,8 @@ const Family family("bits", [](Suite& suite) {
   suite.row("bits to gray 8u", kEverySize, expand(lumiBinToGray_1u8u_C1R));
   suite.row("bits to gray 16u", kUpToHd, expand(lumiBinToGray_1u16u_C1R));
   suite.row("bits to gray 32f", kEverySize, expand(lumiBinToGray_1u32f_C1R));
-  suite.row("bits to full 8u", kEverySize, [](Scene& s) {
-    const auto src = s.inputBits();
-    const auto dst = s.output<Lum8u>(1);
-    s.ours([=] { lumiConvert_1u8u_C1R(src.data(), src.step, 0, dst.data(), dst.step, dst.roi); });
-    s.peer(loopExpand<Lum8u>(src, dst, 0, 255, true));
-  });
-  suite.row("bits to full 8u offset 3", kCachedAndHd, expandFrom3(lumiConvert_1u8u_C1R));
+  suite.row("bits to full 8u", kEverySize, expandToFull(0));
+  suite.row("bits to full 8u offset 3", kCachedAndHd, expandToFull(3));
   suite.row("gray to bits 8u", kEverySize, compare<Lum8u>(lumiGrayToBin_8u1u_C1R, 100));
   suite.row("gray to bits 16u", kUpToHd, compare<Lum16u>(lumiGrayToBin_16u1u_C1R, 30000));
   suite.row("gray to bits 16s", kUpToHd, compare<Lum16s>(lumiGrayToBin_16s1u_C1R, 100));

@@ -38,8 +38,8 @@ LumStatus expand(const Lum8u* src, int srcStep, int srcBitOffset, T* dst, int ds
   walkRows(
       roi.height,
       [&](const Byte* s, Byte* d) {
-        expandRow(s, firstBit(srcBitOffset), d, static_cast<size_t>(roi.width), bitsOf(zeroValue),
-                  bitsOf(oneValue));
+        expandBitsRow(s, firstBit(srcBitOffset), d, static_cast<size_t>(roi.width), bitsOf(zeroValue),
+                      bitsOf(oneValue));
       },
       rows(src, srcStep), rows(dst, dstStep));
   return lumStatusOk;
@@ -54,7 +54,7 @@ LumStatus expandToFull(const Lum8u* src, int srcStep, int srcBitOffset, Lum8u* d
   walkRows(
       roi.height,
       [&](const Byte* s, Byte* d) {
-        expandToFullRow(s, firstBit(srcBitOffset), d, static_cast<size_t>(roi.width));
+        expandBitsToFullRow(s, firstBit(srcBitOffset), d, static_cast<size_t>(roi.width));
       },
       rows(src, srcStep), rows(dst, dstStep));
   return lumStatusOk;
@@ -69,7 +69,7 @@ LumStatus compare(const T* src, int srcStep, Lum8u* dst, int dstStep, int dstBit
   walkRows(
       roi.height,
       [&](const Byte* s, Byte* d) {
-        compareRow<T>(s, d, firstBit(dstBitOffset), static_cast<size_t>(roi.width), threshold);
+        bitsAboveRow<T>(s, d, firstBit(dstBitOffset), static_cast<size_t>(roi.width), threshold);
       },
       rows(src, srcStep), rows(dst, dstStep));
   return lumStatusOk;

@@ -75,9 +75,9 @@ LumStatus widenToFloats(const S* src, int srcStep, D* dst, int dstStep, LumiSize
           firstFault(range(lower, upper), pointers(src, dst), size(roi), steps(srcStep, dstStep)))
     return fault;
   const bool streaming = streamsScale<D>(roi);
-  const Line line = bytesToFloats(lower, upper);
+  const LinearMap map = bytesToFloats(lower, upper);
   forRows<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
-    widenToFloatsRow<kHasAlpha<Layout>>(s, d, samples, line, streaming);
+    widenToFloatsRow<kHasAlpha<Layout>>(s, d, samples, map, streaming);
   });
   if (streaming) storeFence();
   return lumStatusOk;
@@ -92,9 +92,9 @@ LumStatus narrowFloats(const S* src, int srcStep, D* dst, int dstStep, LumiSize 
   if (LumStatus fault =
           firstFault(range(lower, upper), pointers(src, dst), size(roi), steps(srcStep, dstStep)))
     return fault;
-  const Line line = floatsToBytes(lower, upper);
+  const LinearMap map = floatsToBytes(lower, upper);
   forRows<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
-    narrowFloatsRow<kHasAlpha<Layout>>(s, d, samples, line);
+    narrowFloatsRow<kHasAlpha<Layout>>(s, d, samples, map);
   });
   restoreRounding(before);
   return lumStatusOk;

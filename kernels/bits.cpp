@@ -104,31 +104,33 @@ struct Expand {
   }
 };
 
-// A row of samples, of which some are compared at a time.
+// A row of samples, of which some are compared at a time: bit k of a result tells whether sample x + k is
+// above the threshold.
 template <typename S>
 class Comparison {
  public:
-  static constexpr size_t kMany = 32;
+  static constexpr size_t kMany = 32, kByte = 8;
 
   Comparison(const Byte* src, size_t pixels, S threshold)
       : src_(src), pixels_(pixels), threshold_(thresholdOf(threshold)) {}
 
-  // Bit k tells whether sample x + k is above the threshold.
-  uint32_t many(size_t x) const { return manyAt(src_ + x * sizeof(S)); }
+  uint32_t many(size_t x) const {
+    return ~(notAbove16(at(x), threshold_) | notAbove16(at(x + kMany / 2), threshold_) << kMany / 2);
+  }
+  uint32_t byte(size_t x) const { return byteAt(at(x)); }
 
-  // The same of fewer; the bits behind them are anything.
+  // Less than a byte's; the bits behind them are anything.
   uint32_t few(size_t x, size_t count) const {
-    if (x + kMany <= pixels_) return many(x);
-    if (x + count >= kMany) return many(x + count - kMany) >> (kMany - count);
-    Byte samples[kMany * sizeof(S)] = {};
-    copyFew(samples, src_ + x * sizeof(S), count * sizeof(S));
-    return manyAt(samples);
+    if (x + kByte <= pixels_) return byte(x);
+    if (x + count >= kByte) return byte(x + count - kByte) >> (kByte - count);
+    Byte samples[kBlock] = {};  // of any type eight
+    copyFew(samples, at(x), count * sizeof(S));
+    return byteAt(samples);
   }
 
  private:
-  uint32_t manyAt(const Byte* p) const {
-    return ~(notAbove16(p, threshold_) | notAbove16(p + 16 * sizeof(S), threshold_) << 16);
-  }
+  const Byte* at(size_t x) const { return src_ + x * sizeof(S); }
+  uint32_t byteAt(const Byte* p) const { return ~notAbove8(p, threshold_); }
 
   const Byte* src_;
   size_t pixels_;
@@ -144,16 +146,16 @@ void putBits(Byte* d, uint32_t bits, size_t at, size_t count) {
 }  // namespace
 
 template <typename D>
-void expandRow(const uint8_t* src, unsigned offset, uint8_t* dst, size_t pixels, D zero, D one) {
+void expandBitsRow(const uint8_t* src, unsigned offset, uint8_t* dst, size_t pixels, D zero, D one) {
   runRow(dst, pixels * sizeof(D), Expand<D, FromLow, OneOfTwo<D>>{src, offset, {zero, one}});
 }
 
-void expandToFullRow(const uint8_t* src, unsigned offset, uint8_t* dst, size_t pixels) {
+void expandBitsToFullRow(const uint8_t* src, unsigned offset, uint8_t* dst, size_t pixels) {
   runRow(dst, pixels, Expand<uint8_t, FromHigh, AsItIs>{src, offset, {}});
 }
 
 template <typename S>
-void compareRow(const uint8_t* src, uint8_t* dst, unsigned offset, size_t pixels, S threshold) {
+void bitsAboveRow(const uint8_t* src, uint8_t* dst, unsigned offset, size_t pixels, S threshold) {
   const Comparison<S> row(src, pixels, threshold);
   size_t x = 0;
   if (offset != 0) {
@@ -164,19 +166,16 @@ void compareRow(const uint8_t* src, uint8_t* dst, unsigned offset, size_t pixels
     const uint32_t bits = row.many(x);
     std::memcpy(dst, &bits, sizeof bits);
   }
-  if (x == pixels) return;
-  size_t count = pixels - x;
-  uint32_t bits = row.few(x, count);
-  for (; count >= 8; count -= 8, bits >>= 8) *dst++ = static_cast<Byte>(bits);
-  if (count > 0) putBits(dst, bits, 0, count);
+  for (; x + row.kByte <= pixels; x += row.kByte) *dst++ = static_cast<Byte>(row.byte(x));
+  if (x < pixels) putBits(dst, row.few(x, pixels - x), 0, pixels - x);
 }
 
-template void expandRow<uint8_t>(const Byte*, unsigned, Byte*, size_t, uint8_t, uint8_t);
-template void expandRow<uint16_t>(const Byte*, unsigned, Byte*, size_t, uint16_t, uint16_t);
-template void expandRow<uint32_t>(const Byte*, unsigned, Byte*, size_t, uint32_t, uint32_t);
-template void compareRow<uint8_t>(const Byte*, Byte*, unsigned, size_t, uint8_t);
-template void compareRow<int16_t>(const Byte*, Byte*, unsigned, size_t, int16_t);
-template void compareRow<uint16_t>(const Byte*, Byte*, unsigned, size_t, uint16_t);
-template void compareRow<float>(const Byte*, Byte*, unsigned, size_t, float);
+template void expandBitsRow<uint8_t>(const Byte*, unsigned, Byte*, size_t, uint8_t, uint8_t);
+template void expandBitsRow<uint16_t>(const Byte*, unsigned, Byte*, size_t, uint16_t, uint16_t);
+template void expandBitsRow<uint32_t>(const Byte*, unsigned, Byte*, size_t, uint32_t, uint32_t);
+template void bitsAboveRow<uint8_t>(const Byte*, Byte*, unsigned, size_t, uint8_t);
+template void bitsAboveRow<int16_t>(const Byte*, Byte*, unsigned, size_t, int16_t);
+template void bitsAboveRow<uint16_t>(const Byte*, Byte*, unsigned, size_t, uint16_t);
+template void bitsAboveRow<float>(const Byte*, Byte*, unsigned, size_t, float);
 
 }  // namespace lumi

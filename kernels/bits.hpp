@@ -11,13 +11,13 @@ namespace lumi {
 // Bits, counted from the low end, become one of two samples of D, an unsigned integer that stands for any
 // type of its size.
 template <typename D>
-void expandRow(const uint8_t* src, unsigned offset, uint8_t* dst, size_t pixels, D zero, D one);
+void expandBitsRow(const uint8_t* src, unsigned offset, uint8_t* dst, size_t pixels, D zero, D one);
 
 // Bits, counted from the high end, become 0 or 255.
-void expandToFullRow(const uint8_t* src, unsigned offset, uint8_t* dst, size_t pixels);
+void expandBitsToFullRow(const uint8_t* src, unsigned offset, uint8_t* dst, size_t pixels);
 
 // Samples of S that are above the threshold set their bit, counted from the low end, others clear it.
 template <typename S>
-void compareRow(const uint8_t* src, uint8_t* dst, unsigned offset, size_t pixels, S threshold);
+void bitsAboveRow(const uint8_t* src, uint8_t* dst, unsigned offset, size_t pixels, S threshold);
 
 }  // namespace lumi

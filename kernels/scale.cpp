@@ -74,8 +74,8 @@ struct Narrow {
 struct WidenToFloats {
   Floats8 factor, offset;
 
-  explicit WidenToFloats(Line line)
-      : factor(broadcastFloat<Floats8>(line.factor)), offset(broadcastFloat<Floats8>(line.offset)) {}
+  explicit WidenToFloats(LinearMap map)
+      : factor(broadcastFloat<Floats8>(map.factor)), offset(broadcastFloat<Floats8>(map.offset)) {}
 
   Bytes32 block(const Byte* p) const { return asBytes((floatsOf8Bytes(p) * factor + offset).v); }
   Bytes16 half(const Byte* p) const { return bytesOf(floatsOf4Bytes(p) * lowHalf(factor) + lowHalf(offset)); }
@@ -84,8 +84,8 @@ struct WidenToFloats {
 struct NarrowFloats {
   Floats8 factor, offset, limit = broadcastFloat<Floats8>(255);
 
-  explicit NarrowFloats(Line line)
-      : factor(broadcastFloat<Floats8>(line.factor)), offset(broadcastFloat<Floats8>(line.offset)) {}
+  explicit NarrowFloats(LinearMap map)
+      : factor(broadcastFloat<Floats8>(map.factor)), offset(broadcastFloat<Floats8>(map.offset)) {}
 
   S16 words(const Byte* p) const {
     const Ints8 v = rounded(limitedFromAbove(loadFloats8(p) * factor - offset, limit));
@@ -117,33 +117,33 @@ void narrowRow(const uint8_t* src, uint8_t* dst, size_t samples, bool accurate, 
     run<S, uint8_t, alpha>(src, dst, samples, InHalves<S, uint8_t, Narrow<S, false>>{}, streaming);
 }
 
-Line bytesToFloats(float lower, float upper) { return {(upper - lower) / 255, lower}; }
+LinearMap bytesToFloats(float lower, float upper) { return {(upper - lower) / 255, lower}; }
 
 template <bool alpha>
-void widenToFloatsRow(const uint8_t* src, uint8_t* dst, size_t samples, Line line, bool streaming) {
-  run<uint8_t, float, alpha>(src, dst, samples, WidenToFloats(line), streaming);
+void widenToFloatsRow(const uint8_t* src, uint8_t* dst, size_t samples, LinearMap map, bool streaming) {
+  run<uint8_t, float, alpha>(src, dst, samples, WidenToFloats(map), streaming);
 }
 
-Line floatsToBytes(float lower, float upper) {
+LinearMap floatsToBytes(float lower, float upper) {
   const float factor = 255 / (upper - lower);
   return {factor, factor * lower};
 }
 
 template <bool alpha>
-void narrowFloatsRow(const uint8_t* src, uint8_t* dst, size_t samples, Line line) {
-  run<float, uint8_t, alpha>(src, dst, samples, InHalves<float, uint8_t, NarrowFloats>{NarrowFloats(line)},
+void narrowFloatsRow(const uint8_t* src, uint8_t* dst, size_t samples, LinearMap map) {
+  run<float, uint8_t, alpha>(src, dst, samples, InHalves<float, uint8_t, NarrowFloats>{NarrowFloats(map)},
                              false);
 }
 
-#define LUMI_SCALE(alpha)                                                           \
-  template void widenRow<uint16_t, alpha>(const Byte*, Byte*, size_t, bool);        \
-  template void widenRow<int16_t, alpha>(const Byte*, Byte*, size_t, bool);         \
-  template void widenRow<int32_t, alpha>(const Byte*, Byte*, size_t, bool);         \
-  template void narrowRow<uint16_t, alpha>(const Byte*, Byte*, size_t, bool, bool); \
-  template void narrowRow<int16_t, alpha>(const Byte*, Byte*, size_t, bool, bool);  \
-  template void narrowRow<int32_t, alpha>(const Byte*, Byte*, size_t, bool, bool);  \
-  template void widenToFloatsRow<alpha>(const Byte*, Byte*, size_t, Line, bool);    \
-  template void narrowFloatsRow<alpha>(const Byte*, Byte*, size_t, Line);
+#define LUMI_SCALE(alpha)                                                             \
+  template void widenRow<uint16_t, alpha>(const Byte*, Byte*, size_t, bool);          \
+  template void widenRow<int16_t, alpha>(const Byte*, Byte*, size_t, bool);           \
+  template void widenRow<int32_t, alpha>(const Byte*, Byte*, size_t, bool);           \
+  template void narrowRow<uint16_t, alpha>(const Byte*, Byte*, size_t, bool, bool);   \
+  template void narrowRow<int16_t, alpha>(const Byte*, Byte*, size_t, bool, bool);    \
+  template void narrowRow<int32_t, alpha>(const Byte*, Byte*, size_t, bool, bool);    \
+  template void widenToFloatsRow<alpha>(const Byte*, Byte*, size_t, LinearMap, bool); \
+  template void narrowFloatsRow<alpha>(const Byte*, Byte*, size_t, LinearMap);
 LUMI_SCALE(false)
 LUMI_SCALE(true)
 

@@ -20,18 +20,18 @@ template <typename S, bool alpha>
 void narrowRow(const uint8_t* src, uint8_t* dst, size_t samples, bool accurate, bool streaming);
 
 // What floats are made of bytes by, and bytes of floats.
-struct Line {
+struct LinearMap {
   float factor, offset;
 };
 
 // byte * factor + offset, for 0 and 255 to become the bounds.
-Line bytesToFloats(float lower, float upper);
+LinearMap bytesToFloats(float lower, float upper);
 template <bool alpha>
-void widenToFloatsRow(const uint8_t* src, uint8_t* dst, size_t samples, Line line, bool streaming);
+void widenToFloatsRow(const uint8_t* src, uint8_t* dst, size_t samples, LinearMap map, bool streaming);
 
 // float * factor - offset, by the unit's rounding, limited to 0 to 255; NaN gives 0.
-Line floatsToBytes(float lower, float upper);
+LinearMap floatsToBytes(float lower, float upper);
 template <bool alpha>
-void narrowFloatsRow(const uint8_t* src, uint8_t* dst, size_t samples, Line line);
+void narrowFloatsRow(const uint8_t* src, uint8_t* dst, size_t samples, LinearMap map);
 
 }  // namespace lumi

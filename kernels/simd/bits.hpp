@@ -33,21 +33,32 @@ auto thresholdOf(T x) {
     return broadcast(x);
 }
 
-// Bit k tells whether sample k at p is not above the threshold.
+// Bit k tells whether sample k at p is not above the threshold; of eight samples, the bits behind theirs are
+// anything. NaN is not above, nor is anything above it.
 template <typename T>
-Samples<T> notAbove(const Byte* p, Samples<T> threshold) {
-  const Samples<T> v{load16(p)};
+Samples<T> notAbove(Samples<T> v, Samples<T> threshold) {
   return isEqual(smaller(v, threshold), v);
 }
-inline uint32_t notAbove16(const Byte* p, U8 threshold) { return topBits(notAbove(p, threshold).v); }
-template <typename Words>
-uint32_t notAbove16(const Byte* p, Words threshold) {
-  return topBits(_mm_packs_epi16(notAbove(p, threshold).v, notAbove(p + 16, threshold).v));
+inline uint32_t notAbove8(const Byte* p, U8 threshold) {
+  return topBits(notAbove(U8{_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))}, threshold).v);
 }
-// NaN is not above, nor is anything above it.
+template <typename Words>
+uint32_t notAbove8(const Byte* p, Words threshold) {
+  const Bytes16 v = notAbove(Words{load16(p)}, threshold).v;
+  return topBits(_mm_packs_epi16(v, v));
+}
 inline uint32_t notAbove8(const Byte* p, Floats8 threshold) {
   const __m256 v = _mm256_cmp_ps(asFloats(load32(p)), threshold.v, _CMP_NGT_UQ);
   return static_cast<uint32_t>(_mm256_movemask_ps(v));
+}
+
+inline uint32_t notAbove16(const Byte* p, U8 threshold) {
+  return topBits(notAbove(U8{load16(p)}, threshold).v);
+}
+template <typename Words>
+uint32_t notAbove16(const Byte* p, Words threshold) {
+  const Bytes16 low = notAbove(Words{load16(p)}, threshold).v;
+  return topBits(_mm_packs_epi16(low, notAbove(Words{load16(p + 16)}, threshold).v));
 }
 inline uint32_t notAbove16(const Byte* p, Floats8 threshold) {
   return notAbove8(p, threshold) | notAbove8(p + 32, threshold) << 8;
