@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An image of 8-bit samples in memory of lumi, with padded rows.
+// An image in memory of lumi, with padded rows.
 #pragma once
 
 #include <lumi.h>
@@ -7,9 +7,10 @@
 #include <cstddef>
 #include <memory>
 #include <new>
+#include <type_traits>
 #include <variant>
 
-template <int channels>
+template <int channels, typename Sample = Lum8u>
 class Image {
  public:
   static constexpr int kChannels = channels;
@@ -20,26 +21,35 @@ class Image {
 
   LumiSize size() const { return size_; }
   int step() const { return step_; }
-  Lum8u* at(int x, int y) { return first_.get() + offset(x, y); }
-  const Lum8u* at(int x, int y) const { return first_.get() + offset(x, y); }
-  Lum8u* data() { return first_.get(); }
-  const Lum8u* data() const { return first_.get(); }
+  Sample* at(int x, int y) { return first_.get() + offset(x, y); }
+  const Sample* at(int x, int y) const { return first_.get() + offset(x, y); }
+  Sample* data() { return first_.get(); }
+  const Sample* data() const { return first_.get(); }
 
  private:
-  Lum8u* allocate() {
-    constexpr auto allocateMember = channels == 1   ? lumiMalloc_8u_C1
-                                    : channels == 3 ? lumiMalloc_8u_C3
-                                                    : lumiMalloc_8u_C4;
-    return allocateMember(size_.width, size_.height, &step_);
+  Sample* allocate() {
+    if constexpr (std::is_same_v<Sample, Lum16u>) return lumiMalloc_16u_C3(size_.width, size_.height, &step_);
+    if constexpr (std::is_same_v<Sample, Lum32f>) return lumiMalloc_32f_C3(size_.width, size_.height, &step_);
+    if constexpr (std::is_same_v<Sample, Lum8u>) {
+      constexpr auto allocateMember = channels == 1   ? lumiMalloc_8u_C1
+                                      : channels == 3 ? lumiMalloc_8u_C3
+                                                      : lumiMalloc_8u_C4;
+      return allocateMember(size_.width, size_.height, &step_);
+    }
   }
-  ptrdiff_t offset(int x, int y) const { return ptrdiff_t{y} * step_ + ptrdiff_t{x} * channels; }
+  // In samples; rows of lumi's memory start on whole ones.
+  ptrdiff_t offset(int x, int y) const {
+    return ptrdiff_t{y} * (step_ / ptrdiff_t{sizeof(Sample)}) + ptrdiff_t{x} * channels;
+  }
 
   LumiSize size_;
   int step_ = 0;
-  std::unique_ptr<Lum8u, decltype(&lumiFree)> first_;
+  std::unique_ptr<Sample, decltype(&lumiFree)> first_;
 };
 
 using Grey = Image<1>;
 using Colour = Image<3>;
 using ColourAlpha = Image<4>;
+using Colour16 = Image<3, Lum16u>;
+using ColourFloat = Image<3, Lum32f>;
 using AnyImage = std::variant<Grey, Colour, ColourAlpha>;

@@ -190,23 +190,27 @@ AnyImage pictureInPicture(const Colour& photo, Calls& calls) {
 }  // namespace
 
 const std::vector<Panel>& panels() {
-  static const std::vector<Panel> list = {
-      {"original", "Original", original},
-      {"red", "Red plane", onePlane<&Planes::red>},
-      {"green", "Green plane", onePlane<&Planes::green>},
-      {"blue", "Blue plane", onePlane<&Planes::blue>},
-      {"swapped", "Planes merged as B G R", swapped},
-      {"green-into-red", "Green copied into red", greenIntoRed},
-      {"grey", "Grey made colour", greyToColour},
-      {"blue-filled", "Blue channel filled", blueFilled},
-      {"ring", "Ring painted by mask", ringPainted},
-      {"disc", "Colour copied by mask", colourInDisc},
-      {"opaque", "Opaque alpha added", opaque},
-      {"alpha", "Mask as alpha plane", alphaFromMask},
-      {"alpha-kept", "Colour set, alpha kept", alphaKept},
-      {"mosaic", "Tiles transposed", mosaic},
-      {"upside-down", "Flipped by a step", upsideDown},
-      {"inset", "Picture in picture", pictureInPicture},
-  };
+  static const std::vector<Panel> list = [] {
+    std::vector<Panel> all = {
+        {"original", "Original", original},
+        {"red", "Red plane", onePlane<&Planes::red>},
+        {"green", "Green plane", onePlane<&Planes::green>},
+        {"blue", "Blue plane", onePlane<&Planes::blue>},
+        {"swapped", "Planes merged as B G R", swapped},
+        {"green-into-red", "Green copied into red", greenIntoRed},
+        {"grey", "Grey made colour", greyToColour},
+        {"blue-filled", "Blue channel filled", blueFilled},
+        {"ring", "Ring painted by mask", ringPainted},
+        {"disc", "Colour copied by mask", colourInDisc},
+        {"opaque", "Opaque alpha added", opaque},
+        {"alpha", "Mask as alpha plane", alphaFromMask},
+        {"alpha-kept", "Colour set, alpha kept", alphaKept},
+        {"mosaic", "Tiles transposed", mosaic},
+        {"upside-down", "Flipped by a step", upsideDown},
+        {"inset", "Picture in picture", pictureInPicture},
+    };
+    for (const Panel& panel : samplePanels()) all.push_back(panel);
+    return all;
+  }();
   return list;
 }

@@ -14,3 +14,6 @@ struct Panel {
 };
 
 const std::vector<Panel>& panels();
+
+// Those of arithmetic and of other sample types.
+std::vector<Panel> samplePanels();

@@ -46,23 +46,23 @@ AnyImage doubleExposure(const Colour& photo, Calls& calls) {
   return result;
 }
 
-// |a - b| of the photo and itself moved a little: of the two differences one is zero.
+// |a - b| of the photo and itself moved a little, doubled: of the two differences one is zero.
 AnyImage difference(const Colour& photo, Calls& calls) {
   const LumiSize size = photo.size();
   const int x = std::min(3, size.width - 1), y = std::min(3, size.height - 1);
   const LumiSize both = {size.width - x, size.height - y};
-  Colour result(size);
+  Colour result(size), positive(size), negative(size);
   fill(result, {0, 0, 0});
-  Colour negative(size);
   calls.time("lumiSub_8u_C3RSfs", both, [&] {
-    return lumiSub_8u_C3RSfs(photo.data(), photo.step(), photo.at(x, y), photo.step(), result.data(),
-                             result.step(), both, -1);
+    return lumiSub_8u_C3RSfs(photo.data(), photo.step(), photo.at(x, y), photo.step(), positive.data(),
+                             positive.step(), both, -1);
   });
   check(lumiSub_8u_C3RSfs(photo.at(x, y), photo.step(), photo.data(), photo.step(), negative.data(),
                           negative.step(), both, -1),
         "lumiSub_8u_C3RSfs");
-  calls.time("lumiAdd_8u_C3IRSfs", both, [&] {
-    return lumiAdd_8u_C3IRSfs(negative.data(), negative.step(), result.data(), result.step(), both, 0);
+  calls.time("lumiAdd_8u_C3RSfs", both, [&] {
+    return lumiAdd_8u_C3RSfs(positive.data(), positive.step(), negative.data(), negative.step(),
+                             result.data(), result.step(), both, 0);
   });
   return result;
 }

@@ -12,7 +12,8 @@ import png
 
 PROGRAM = pathlib.Path(sys.argv.pop()).resolve()
 NAMES = ["original", "red", "green", "blue", "swapped", "green-into-red", "grey", "blue-filled", "ring", "disc",
-         "opaque", "alpha", "alpha-kept", "mosaic", "upside-down", "inset"]
+         "opaque", "alpha", "alpha-kept", "mosaic", "upside-down", "inset", "brighter", "contrast", "exposure",
+         "difference", "through-16-bits", "stretched", "bit-mask", "bits-applied"]
 
 # 8 x 8 pixels of about (200, 100, 50).
 JPEG = base64.b64decode("""
@@ -115,6 +116,39 @@ class PhotoDemo(unittest.TestCase):
         expect("upside-down", 3, (p for row in rows[::-1] for p in row))
         self.assertEqual(sorted(results.pixels("mosaic")), sorted(photo))
         self.assertNotEqual(results["mosaic"], results["original"])
+
+    def test_arithmetic(self):
+        width, height = 53, 31
+        samples = noise(width * height * 3)
+        results = self.results(self.picture(width, height), self.out)
+
+        def expect(name, wanted):
+            self.assertEqual(results[name], (3, bytes(wanted)), name)
+
+        row = width * 3
+        flipped = b"".join(samples[y * row:(y + 1) * row] for y in reversed(range(height)))
+        expect("brighter", (min(255, s + 50) for s in samples))
+        expect("contrast", (min(255, 2 * max(0, s - 64)) for s in samples))
+        expect("exposure", (round((a + b) / 2) for a, b in zip(samples, flipped)))  # ties to even
+        expect("through-16-bits", samples)
+        for got, s in zip(results["stretched"][1], samples):
+            self.assertAlmostEqual(got, min(255, max(0, (s / 255 - 0.25) * 510)), delta=0.501)
+        moved = [0] * len(samples)
+        for y in range(height - 3):
+            for i in range((width - 3) * 3):
+                here = samples[y * row + i]
+                moved[y * row + i] = min(255, 2 * abs(samples[(y + 3) * row + i + 9] - here))
+        expect("difference", moved)
+
+    def test_bits(self):
+        width, height = 53, 31
+        photo = pixels(noise(width * height * 3), 3)
+        results = self.results(self.picture(width, height), self.out)
+        bright = [p[1] > 127 for p in photo]
+        self.assertEqual(results["bit-mask"], (1, bytes(255 * b for b in bright)))
+        other = [p for y in reversed(range(height)) for p in photo[y * width:(y + 1) * width]]
+        mixed = b"".join(a if b else c for a, b, c in zip(photo, bright, other))
+        self.assertEqual(results["bits-applied"], (3, mixed))
 
     def test_masks(self):
         width, height = 53, 31
