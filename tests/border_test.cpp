@@ -12,6 +12,7 @@
 #include "frame/border.hpp"
 #include "model/border.hpp"
 #include "support/arena.hpp"
+#include "support/case.hpp"
 #include "support/core_guard.hpp"
 #include "support/fault.hpp"
 #include "support/member.hpp"

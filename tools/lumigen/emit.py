@@ -223,7 +223,7 @@ def fault_rows(families):
 
 def _fault_arg(arg):
     extra = {"planes": arg.count, "values": arg.count, "number": arg.base, "upper": 255}.get(arg.kind, 0)
-    refused = ", ".join("{Check::%s, {%s}}" % (arg.refused_by.capitalize(), ", ".join(map(str, value)))
+    refused = ", ".join("{Check::%s, {%s}}" % (arg.refused_by.capitalize(), ", ".join(map(str, (value + (0,))[:2])))
                         for value in arg.refused)
     return f'{{Kind::{_KIND[arg.kind]}, "{arg.name}", {extra}, {{{refused}}}}}'
 

@@ -114,7 +114,7 @@ class Rows(unittest.TestCase):
         whole, top = family.operations[0].exports[0].args
         self.assertEqual((whole.kind, whole.refused, whole.refused_by), ("size", ((6, 3), (7, 2)), "frame"))
         self.assertEqual((top.kind, top.base, top.refused), ("number", "2", ((-1,), (2147483647,))))
-        self.assertIn('{Kind::Number, "top", 2, {{Check::Frame, {-1}}, {Check::Frame, {2147483647}}}}',
+        self.assertIn('{Kind::Number, "top", 2, {{Check::Frame, {-1, 0}}, {Check::Frame, {2147483647, 0}}}}',
                       emit.fault_rows([family]))
 
     def test_texts_of_checks_follow_the_arguments(self):
