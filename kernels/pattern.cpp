@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "kernels/pattern.hpp"
 
-#include "kernels/simd/bytes.hpp"
+#include "kernels/simd/pixels.hpp"
 
 namespace lumi {
 namespace {
@@ -9,29 +9,6 @@ namespace {
 using namespace simd;
 
 constexpr size_t kVector = sizeof(Bytes32);
-
-// A pixel in the low bytes of a vector, by way of registers: a vector load would have to wait for the
-// stores of a copy.
-template <int pixelBytes>
-Bytes16 loadPixel(const Byte* pixel) {
-  if constexpr (pixelBytes == 16) {
-    return load16(pixel);
-  } else {
-    uint32_t dwords[3] = {};
-    for (int i = 0; i < 3; ++i)
-      if (4 * i < pixelBytes)
-        std::memcpy(&dwords[i], pixel + 4 * i,
-                    static_cast<size_t>(pixelBytes - 4 * i < 4 ? pixelBytes - 4 * i : 4));
-    return dwordsOf(dwords[0], dwords[1], dwords[2]);
-  }
-}
-
-template <int pixelBytes>
-constexpr Control repeatControl(int vector) {
-  Control c{};
-  for (int j = 0; j < 16; ++j) c[j] = static_cast<Byte>((vector * 16 + j) % pixelBytes);
-  return c;
-}
 
 // Pixels longer than a vector, one after the other.
 template <int pixelBytes>
@@ -50,8 +27,8 @@ PixelPattern makePattern(const void* pixel) {
   if constexpr (pixelBytes > 16) {
     return repeatLong<pixelBytes>(static_cast<const Byte*>(pixel));
   } else {
-    static constexpr Control controls[] = {repeatControl<pixelBytes>(0), repeatControl<pixelBytes>(1),
-                                           repeatControl<pixelBytes>(2)};
+    static constexpr Control controls[] = {repeatControl<pixelBytes>(0), repeatControl<pixelBytes>(16),
+                                           repeatControl<pixelBytes>(32)};
     const Bytes16 once = loadPixel<pixelBytes>(static_cast<const Byte*>(pixel));
     PixelPattern p;
     const auto vector = [&](size_t i) { return shuffle(once, vectorOf(controls[i % 3])); };

@@ -6,19 +6,28 @@
 
 namespace lumi::simd {
 
+// Up to four bytes in a register; none give 0. Put together there, for a copy in memory would be stored in
+// parts and loaded at once, which stalls.
+template <int bytes>
+uint32_t dwordOf(const Byte* p) {
+  uint32_t dword = 0;
+  uint16_t word = 0;
+  if constexpr (bytes >= 4) std::memcpy(&dword, p, 4);
+  if constexpr (bytes == 2 || bytes == 3) std::memcpy(&word, p, 2);
+  if constexpr (bytes == 3) return word | uint32_t{p[2]} << 16;
+  if constexpr (bytes == 2) return word;
+  if constexpr (bytes == 1) return p[0];
+  return dword;
+}
+
 // A pixel in the low bytes of a vector, and nothing behind it read. By way of registers: a vector load would
 // have to wait for the stores of a copy.
 template <int bytes>
 Bytes16 loadPixel(const Byte* pixel) {
-  if constexpr (bytes == 16) {
+  if constexpr (bytes == 16)
     return load16(pixel);
-  } else {
-    uint32_t dwords[3] = {};
-    for (int i = 0; i < 3; ++i)
-      if (4 * i < bytes)
-        std::memcpy(&dwords[i], pixel + 4 * i, static_cast<size_t>(bytes - 4 * i < 4 ? bytes - 4 * i : 4));
-    return dwordsOf(dwords[0], dwords[1], dwords[2]);
-  }
+  else
+    return dwordsOf(dwordOf<bytes>(pixel), dwordOf<bytes - 4>(pixel + 4), dwordOf<bytes - 8>(pixel + 8));
 }
 
 // Repeats such a pixel, beginning with its byte `from`.
