@@ -242,25 +242,28 @@ void combineWithConstant(const PixelPattern& a, const uint8_t* b, uint8_t* dst, 
                       [&](auto f) { run<T, alpha, Store>(dst, samples, binary<T>(constant, b, f)); });
 }
 
-#define LUMI_IMAGES(Op, T, alpha) \
-  template void combineRows<Op, T, alpha>(const Byte*, const Byte*, Byte*, size_t, Scaling);
-#define LUMI_CONSTANT(Op, T, ...)                                                                        \
-  template void combineWithConstant<Op, T, __VA_ARGS__>(const PixelPattern&, const Byte*, Byte*, size_t, \
-                                                        Scaling);
-#define LUMI_WHOLE(Op, T) \
-  LUMI_IMAGES(Op, T, 0) LUMI_CONSTANT(Op, T, 0, false, false) LUMI_CONSTANT(Op, T, 0, true, false)
-#define LUMI_ALPHA(Op, T, samples) LUMI_IMAGES(Op, T, samples) LUMI_CONSTANT(Op, T, samples, false, false)
-#define LUMI_OPERATION(Op)                                                                             \
-  LUMI_WHOLE(Op, uint8_t)                                                                              \
-  LUMI_ALPHA(Op, uint8_t, 1)                                                                           \
-  LUMI_WHOLE(Op, uint16_t)                                                                             \
-  LUMI_ALPHA(Op, uint16_t, 1)                                                                          \
-  LUMI_WHOLE(Op, int16_t)                                                                              \
-  LUMI_ALPHA(Op, int16_t, 1)                                                                           \
-  LUMI_WHOLE(Op, int32_t)                                                                              \
-  LUMI_ALPHA(Op, int32_t, 2) LUMI_WHOLE(Op, float) LUMI_ALPHA(Op, float, 1) LUMI_ALPHA(Op, int16_t, 2) \
-      LUMI_ALPHA(Op, float, 2) LUMI_CONSTANT(Op, int16_t, 0, true, true)
-LUMI_OPERATION(Add)
-LUMI_OPERATION(Sub)
+#define LUMI_IMAGES(T, alpha)                                                                 \
+  template void combineRows<Add, T, alpha>(const Byte*, const Byte*, Byte*, size_t, Scaling); \
+  template void combineRows<Sub, T, alpha>(const Byte*, const Byte*, Byte*, size_t, Scaling);
+#define LUMI_CONSTANT(T, ...)                                                                             \
+  template void combineWithConstant<Add, T, __VA_ARGS__>(const PixelPattern&, const Byte*, Byte*, size_t, \
+                                                         Scaling);                                        \
+  template void combineWithConstant<Sub, T, __VA_ARGS__>(const PixelPattern&, const Byte*, Byte*, size_t, \
+                                                         Scaling);
+#define LUMI_WHOLE(T) LUMI_IMAGES(T, 0) LUMI_CONSTANT(T, 0, false, false) LUMI_CONSTANT(T, 0, true, false)
+#define LUMI_ALPHA(T, samples) LUMI_IMAGES(T, samples) LUMI_CONSTANT(T, samples, false, false)
+LUMI_WHOLE(uint8_t)
+LUMI_WHOLE(uint16_t)
+LUMI_WHOLE(int16_t)
+LUMI_WHOLE(int32_t)
+LUMI_WHOLE(float)
+LUMI_ALPHA(uint8_t, 1)
+LUMI_ALPHA(uint16_t, 1)
+LUMI_ALPHA(int16_t, 1)
+LUMI_ALPHA(int16_t, 2)
+LUMI_ALPHA(int32_t, 2)
+LUMI_ALPHA(float, 1)
+LUMI_ALPHA(float, 2)
+LUMI_CONSTANT(int16_t, 0, true, true)
 
 }  // namespace lumi
