@@ -28,7 +28,8 @@ Peer loopBorder(Image<T> src, Image<T> dst, int top, int left, Border kind) {
     const auto side = [&](int from, int to) {
       for (int x = from; x < to; ++x)
         for (int c = 0; c < C; ++c)
-          d[x * C + c] = constant ? pixel[static_cast<std::size_t>(c)] : s[position(kind, x - left, w) * C + c];
+          d[x * C + c] =
+              constant ? pixel[static_cast<std::size_t>(c)] : s[position(kind, x - left, w) * C + c];
     };
     if (constant && outside) return side(0, width);
     side(0, left);
@@ -48,9 +49,7 @@ Suite::Build extend(Extend<T, Values...> lumi, Border kind, int border, Values..
     const auto dst = s.output<T>(C);
     const int left = border ? border : dst.roi.width / 4, top = border ? border : dst.roi.height / 4;
     src.roi = {src.roi.width - 2 * left, src.roi.height - 2 * top};
-    s.ours([=] {
-      lumi(src.data(), src.step, src.roi, dst.data(), dst.step, dst.roi, top, left, values...);
-    });
+    s.ours([=] { lumi(src.data(), src.step, src.roi, dst.data(), dst.step, dst.roi, top, left, values...); });
     s.peer(opencv::border, src, dst, top, left, kind, kValue);
     s.peer(loopBorder<C>(src, dst, top, left, kind));
   };
@@ -68,7 +67,8 @@ const Family family("border", [](Suite& suite) {
   suite.row("border value 8u C1", kEverySize, extend<1>(lumiCopyConstBorder_8u_C1R, constant, 3, Lum8u{7}));
   suite.row("border value 8u C3", kEverySize, extend<3>(lumiCopyConstBorder_8u_C3R, constant, 3, bytes));
   suite.row("border value 8u C4", kEverySize, extend<4>(lumiCopyConstBorder_8u_C4R, constant, 3, bytes));
-  suite.row("border value 16s C1", kEverySize, extend<1>(lumiCopyConstBorder_16s_C1R, constant, 3, Lum16s{7}));
+  suite.row("border value 16s C1", kEverySize,
+            extend<1>(lumiCopyConstBorder_16s_C1R, constant, 3, Lum16s{7}));
   suite.row("border value 32f C1", kEverySize, extend<1>(lumiCopyConstBorder_32f_C1R, constant, 3, 7.0f));
   suite.row("border value 8u C1 wide", kUpToHd, extend<1>(lumiCopyConstBorder_8u_C1R, constant, 0, Lum8u{7}));
   suite.row("border edges 8u C1", kEverySize, extend<1>(lumiCopyReplicateBorder_8u_C1R, replicate, 3));

@@ -8,9 +8,10 @@
 namespace lumi {
 
 // Copies the first `used` of `stored` samples of each pixel. Runs that overlap are moved in order, by
-// samples, or by pixels where a part of them stays; a run onto itself is left alone.
+// samples, or by pixels where a part of them stays; a run onto itself is left alone. `far` tells that the
+// images are larger than a cache near the processor.
 template <int sampleBytes, int stored, int used>
-void moveRun(const uint8_t* src, uint8_t* dst, size_t pixels);
+void moveRun(const uint8_t* src, uint8_t* dst, size_t pixels, bool far);
 
 // Stores the first usedBytes of one pixel in each; the pixel's bytes behind them are not read.
 template <int pixelBytes, int usedBytes>
