@@ -25,7 +25,8 @@ template <typename T, typename Layout>
 struct Runs {
   static constexpr int kBytes = kPixelBytes<T, Layout>, kUsed = kUsedBytes<T, Layout>;
 
-  static constexpr size_t kShortFill = 128;  // up to here a start is dearer than unaligned stores
+  // Whether a run is filled by unaligned stores: always where a part of each pixel stays.
+  static bool isShort(int pixels) { return kUsed < kBytes || bytes(pixels) <= 128; }
 
   static size_t bytes(int pixels) { return static_cast<size_t>(pixels) * kBytes; }
 
@@ -33,6 +34,13 @@ struct Runs {
 
   explicit Runs(LumiSize whole) : far(bytesMoved(whole, kBytes) > kFar) {}
 
+  RowShape shapeOf(Frame frame, int width) const {
+    return {static_cast<size_t>(frame.left), static_cast<size_t>(width), static_cast<size_t>(frame.right),
+            far};
+  }
+  static void extend(const Byte* first, const Byte* last, const Byte* src, Byte* dst, const RowShape& shape) {
+    extendRow<sizeof(T), Layout::kStored, Layout::kUsed>(first, last, src, dst, shape);
+  }
   void move(const Byte* src, Byte* dst, int pixels) const {
     moveRun<sizeof(T), Layout::kStored, Layout::kUsed>(src, dst, static_cast<size_t>(pixels), far);
   }
@@ -40,10 +48,10 @@ struct Runs {
     if (pixels) repeatPixel<kBytes, kUsed>(pixel, dst, static_cast<size_t>(pixels));
   }
   static void fill(const PixelPattern& value, Byte* dst, int pixels) {
-    const size_t count = bytes(pixels);
-    if (kUsed < kBytes || count <= kShortFill) {
+    if (isShort(pixels)) {
       repeat(value.bytes, dst, pixels);
     } else {
+      const size_t count = bytes(pixels);
       fillRow<kBytes>(value, dst, count, mayStream(pixels) && streamsFill(static_cast<int64_t>(count)));
     }
   }
@@ -87,8 +95,11 @@ LumStatus copyConstBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst, in
   const PixelPattern pattern = patternOf<T, Layout>(value);
   const auto fillWhole = [&](Byte* d) { Run::fill(pattern, d, dstRoi.width); };
   const Run run(dstRoi);
+  const RowShape shape = run.shapeOf(sides, srcRoi.width);
+  const bool shortSides = Run::isShort(left) && Run::isShort(sides.right);
   const auto extend = [&](const Byte* s, Byte* d) {
     Byte* const image = d + Run::bytes(left);
+    if (shortSides) return Run::extend(pattern.bytes, pattern.bytes, s, image, shape);
     Run::fill(pattern, d, left);
     run.move(s, image, srcRoi.width);
     Run::fill(pattern, image + Run::bytes(srcRoi.width), sides.right);
@@ -106,11 +117,8 @@ template <typename Run>
 void replicate(Rows<const Byte> src, const Framed& dst) {
   const int width = dst.roi.width, height = dst.roi.height;
   const Run run(dst.wholeRoi());
-  const auto extend = [&](const Byte* s, Byte* d) {
-    Run::repeat(s, d - Run::bytes(dst.frame.left), dst.frame.left);
-    run.move(s, d, width);
-    Run::repeat(s + Run::bytes(width - 1), d + Run::bytes(width), dst.frame.right);
-  };
+  const RowShape shape = run.shapeOf(dst.frame, width);
+  const auto extend = [&](const Byte* s, Byte* d) { Run::extend(s, s + Run::bytes(width - 1), s, d, shape); };
   const auto copyOver = [&](int from, int to, int count) {
     const Byte* const finished = dst.whole.row(from);
     walkRows(

@@ -97,6 +97,15 @@ void repeatPart(Bytes16 pixel, Byte* dst, size_t bytes) {
   for (; bytes; dst += pixelBytes, bytes -= pixelBytes) move<usedBytes>(dst, once);
 }
 
+template <int pixelBytes, int usedBytes>
+inline void repeat(const Byte* pixel, Byte* dst, size_t pixels) {
+  const Bytes16 once = loadPixel<usedBytes>(pixel);
+  if constexpr (usedBytes < pixelBytes)
+    repeatPart<pixelBytes, usedBytes>(once, dst, pixels * pixelBytes);
+  else
+    repeatWhole<pixelBytes>(once, dst, pixels * pixelBytes);
+}
+
 }  // namespace
 
 template <int sampleBytes, int stored, int used>
@@ -115,11 +124,16 @@ void moveRun(const uint8_t* src, uint8_t* dst, size_t pixels, [[maybe_unused]] b
 
 template <int pixelBytes, int usedBytes>
 void repeatPixel(const uint8_t* pixel, uint8_t* dst, size_t pixels) {
-  const Bytes16 once = loadPixel<usedBytes>(pixel);
-  if constexpr (usedBytes < pixelBytes)
-    repeatPart<pixelBytes, usedBytes>(once, dst, pixels * pixelBytes);
-  else
-    repeatWhole<pixelBytes>(once, dst, pixels * pixelBytes);
+  repeat<pixelBytes, usedBytes>(pixel, dst, pixels);
+}
+
+template <int sampleBytes, int stored, int used>
+void extendRow(const uint8_t* first, const uint8_t* last, const uint8_t* src, uint8_t* dst,
+               const RowShape& shape) {
+  constexpr int pixelBytes = sampleBytes * stored, usedBytes = sampleBytes * used;
+  if (shape.left) repeat<pixelBytes, usedBytes>(first, dst - shape.left * pixelBytes, shape.left);
+  moveRun<sampleBytes, stored, used>(src, dst, shape.width, shape.far);
+  if (shape.right) repeat<pixelBytes, usedBytes>(last, dst + shape.width * pixelBytes, shape.right);
 }
 
 // What is filled doubles with each copy. It is whole periods up to the last one, so that copies stay in
@@ -139,8 +153,10 @@ void wrapRow(const uint8_t* image, uint8_t* row, size_t bytes, size_t leftBytes,
   }
 }
 
-#define LUMI_MOVE(sample, stored, used) \
-  template void moveRun<sample, stored, used>(const uint8_t*, uint8_t*, size_t, bool);
+#define LUMI_MOVE(sample, stored, used)                                                                   \
+  template void moveRun<sample, stored, used>(const uint8_t*, uint8_t*, size_t, bool);                    \
+  template void extendRow<sample, stored, used>(const uint8_t*, const uint8_t*, const uint8_t*, uint8_t*, \
+                                                const RowShape&);
 #define LUMI_LAYOUTS(sample) \
   LUMI_MOVE(sample, 1, 1) LUMI_MOVE(sample, 3, 3) LUMI_MOVE(sample, 4, 4) LUMI_MOVE(sample, 4, 3)
 LUMI_LAYOUTS(1)
