@@ -17,23 +17,40 @@ namespace {
 
 using namespace check;
 
-// Runs of pixels of one sample type and layout.
+// Images of more bytes do not stay near the processor, whose second cache holds as many or less.
+constexpr int64_t kFar = 0x100000;
+
+// Runs of pixels of one sample type and layout, in an image of that size.
 template <typename T, typename Layout>
 struct Runs {
   static constexpr int kBytes = kPixelBytes<T, Layout>, kUsed = kUsedBytes<T, Layout>;
 
+  // Whether a run is filled by unaligned stores: always where a part of each pixel stays.
+  static bool isShort(int pixels) { return kUsed < kBytes || bytes(pixels) <= 128; }
+
   static size_t bytes(int pixels) { return static_cast<size_t>(pixels) * kBytes; }
 
-  static void move(const Byte* src, Byte* dst, int pixels) {
-    moveRun<sizeof(T), Layout::kStored, Layout::kUsed>(src, dst, static_cast<size_t>(pixels));
+  const bool far;
+
+  explicit Runs(LumiSize whole) : far(bytesMoved(whole, kBytes) > kFar) {}
+
+  RowShape shapeOf(Frame frame, int width) const {
+    return {static_cast<size_t>(frame.left), static_cast<size_t>(width), static_cast<size_t>(frame.right),
+            far};
+  }
+  static void extend(const Byte* first, const Byte* last, const Byte* src, Byte* dst, const RowShape& shape) {
+    extendRow<sizeof(T), Layout::kStored, Layout::kUsed>(first, last, src, dst, shape);
+  }
+  void move(const Byte* src, Byte* dst, int pixels) const {
+    moveRun<sizeof(T), Layout::kStored, Layout::kUsed>(src, dst, static_cast<size_t>(pixels), far);
   }
   static void repeat(const Byte* pixel, Byte* dst, int pixels) {
     if (pixels) repeatPixel<kBytes, kUsed>(pixel, dst, static_cast<size_t>(pixels));
   }
   static void fill(const PixelPattern& value, Byte* dst, int pixels) {
-    if constexpr (kUsed < kBytes) {
+    if (isShort(pixels)) {
       repeat(value.bytes, dst, pixels);
-    } else if (pixels) {
+    } else {
       const size_t count = bytes(pixels);
       fillRow<kBytes>(value, dst, count, mayStream(pixels) && streamsFill(static_cast<int64_t>(count)));
     }
@@ -54,7 +71,9 @@ struct Framed {
   Frame frame;
   Rows<Byte> image, whole;
 
-  int wholeWidth() const { return frame.left + roi.width + frame.right; }
+  LumiSize wholeRoi() const {
+    return {frame.left + roi.width + frame.right, frame.top + roi.height + frame.bottom};
+  }
 };
 
 Framed framed(Rows<Byte> image, LumiSize roi, Frame frame, size_t leftBytes) {
@@ -75,10 +94,14 @@ LumStatus copyConstBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst, in
   const Frame sides = Frame::around(srcRoi, dstRoi, top, left);
   const PixelPattern pattern = patternOf<T, Layout>(value);
   const auto fillWhole = [&](Byte* d) { Run::fill(pattern, d, dstRoi.width); };
+  const Run run(dstRoi);
+  const RowShape shape = run.shapeOf(sides, srcRoi.width);
+  const bool shortSides = Run::isShort(left) && Run::isShort(sides.right);
   const auto extend = [&](const Byte* s, Byte* d) {
     Byte* const image = d + Run::bytes(left);
+    if (shortSides) return Run::extend(pattern.bytes, pattern.bytes, s, image, shape);
     Run::fill(pattern, d, left);
-    Run::move(s, image, srcRoi.width);
+    run.move(s, image, srcRoi.width);
     Run::fill(pattern, image + Run::bytes(srcRoi.width), sides.right);
   };
   const Rows<Byte> whole = rows(dst, dstStep);
@@ -93,15 +116,13 @@ LumStatus copyConstBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst, in
 template <typename Run>
 void replicate(Rows<const Byte> src, const Framed& dst) {
   const int width = dst.roi.width, height = dst.roi.height;
-  const auto extend = [&](const Byte* s, Byte* d) {
-    Run::repeat(s, d - Run::bytes(dst.frame.left), dst.frame.left);
-    Run::move(s, d, width);
-    Run::repeat(s + Run::bytes(width - 1), d + Run::bytes(width), dst.frame.right);
-  };
+  const Run run(dst.wholeRoi());
+  const RowShape shape = run.shapeOf(dst.frame, width);
+  const auto extend = [&](const Byte* s, Byte* d) { Run::extend(s, s + Run::bytes(width - 1), s, d, shape); };
   const auto copyOver = [&](int from, int to, int count) {
     const Byte* const finished = dst.whole.row(from);
     walkRows(
-        count, [&](Byte* d) { Run::move(finished, d, dst.wholeWidth()); }, startingAt(dst.whole, to));
+        count, [&](Byte* d) { run.move(finished, d, dst.wholeRoi().width); }, startingAt(dst.whole, to));
   };
   extend(src.row(0), dst.image.row(0));
   copyOver(0, -dst.frame.top, dst.frame.top);
@@ -113,14 +134,15 @@ void replicate(Rows<const Byte> src, const Framed& dst) {
 template <typename Run>
 void wrap(Rows<const Byte> src, const Framed& dst) {
   const int width = dst.roi.width, height = dst.roi.height;
+  const Run run(dst.wholeRoi());
   walkRows(
       height,
       [&](const Byte* s, Byte* d) {
-        Run::move(s, d, width);
+        run.move(s, d, width);
         wrapRow(s, d, Run::bytes(width), Run::bytes(dst.frame.left), Run::bytes(dst.frame.right));
       },
       src, dst.image);
-  const auto copyWhole = [&](const Byte* s, Byte* d) { Run::move(s, d, dst.wholeWidth()); };
+  const auto copyWhole = [&](const Byte* s, Byte* d) { run.move(s, d, dst.wholeRoi().width); };
   const auto upwardsFrom = [&](int y) { return Rows<Byte>{dst.whole.row(y), -dst.whole.step}; };
   walkRows(dst.frame.top, copyWhole, upwardsFrom(height - 1), upwardsFrom(-1));
   walkRows(dst.frame.bottom, copyWhole, dst.whole, startingAt(dst.whole, height));

@@ -6,6 +6,7 @@
 #include "kernels/chosen.hpp"
 #include "kernels/copy.hpp"
 #include "kernels/simd/pixels.hpp"
+#include "kernels/simd/strings.hpp"
 
 namespace lumi {
 namespace {
@@ -56,6 +57,18 @@ void repeatWhole(Bytes16 pixel, Byte* dst, size_t bytes) {
   store16(end - kHalf, last);
 }
 
+// In images beyond the cache the processor's string move is ahead of vectors for rows from here on: it does
+// not fetch the lines that it overwrites.
+constexpr size_t kFarStringMove = 5000;
+
+void moveByString(const Byte* src, Byte* dst, size_t bytes) {
+  const Bytes32 first = load32(src), last = load32(src + bytes - kVector);
+  const size_t head = reachPastBoundary(dst, kVector);
+  moveDwords(dst + head, src + head, (bytes - head) / 4);
+  store32(dst, first);
+  store32(dst + bytes - kVector, last);
+}
+
 struct Mask {
   alignas(kVector) Byte bytes[kVector];  // 0xFF where a byte is stored
 };
@@ -84,28 +97,43 @@ void repeatPart(Bytes16 pixel, Byte* dst, size_t bytes) {
   for (; bytes; dst += pixelBytes, bytes -= pixelBytes) move<usedBytes>(dst, once);
 }
 
+template <int pixelBytes, int usedBytes>
+inline void repeat(const Byte* pixel, Byte* dst, size_t pixels) {
+  const Bytes16 once = loadPixel<usedBytes>(pixel);
+  if constexpr (usedBytes < pixelBytes)
+    repeatPart<pixelBytes, usedBytes>(once, dst, pixels * pixelBytes);
+  else
+    repeatWhole<pixelBytes>(once, dst, pixels * pixelBytes);
+}
+
 }  // namespace
 
 template <int sampleBytes, int stored, int used>
-void moveRun(const uint8_t* src, uint8_t* dst, size_t pixels) {
+void moveRun(const uint8_t* src, uint8_t* dst, size_t pixels, [[maybe_unused]] bool far) {
   if (src == dst) return;
   if constexpr (used < stored) {
     copyChosenRow<sampleBytes, stored, used>(src, dst, pixels);
   } else {
     const size_t bytes = pixels * sampleBytes * stored;
     const auto distance = static_cast<size_t>(src < dst ? dst - src : src - dst);
-    if (distance >= bytes) return copyRow(src, dst, bytes);
+    if (distance >= bytes)
+      return far && bytes >= kFarStringMove ? moveByString(src, dst, bytes) : copyRow(src, dst, bytes);
     for (size_t i = 0; i < bytes; i += sampleBytes) move<sampleBytes>(dst + i, src + i);
   }
 }
 
 template <int pixelBytes, int usedBytes>
 void repeatPixel(const uint8_t* pixel, uint8_t* dst, size_t pixels) {
-  const Bytes16 once = loadPixel<usedBytes>(pixel);
-  if constexpr (usedBytes < pixelBytes)
-    repeatPart<pixelBytes, usedBytes>(once, dst, pixels * pixelBytes);
-  else
-    repeatWhole<pixelBytes>(once, dst, pixels * pixelBytes);
+  repeat<pixelBytes, usedBytes>(pixel, dst, pixels);
+}
+
+template <int sampleBytes, int stored, int used>
+void extendRow(const uint8_t* first, const uint8_t* last, const uint8_t* src, uint8_t* dst,
+               const RowShape& shape) {
+  constexpr int pixelBytes = sampleBytes * stored, usedBytes = sampleBytes * used;
+  if (shape.left) repeat<pixelBytes, usedBytes>(first, dst - shape.left * pixelBytes, shape.left);
+  moveRun<sampleBytes, stored, used>(src, dst, shape.width, shape.far);
+  if (shape.right) repeat<pixelBytes, usedBytes>(last, dst + shape.width * pixelBytes, shape.right);
 }
 
 // What is filled doubles with each copy. It is whole periods up to the last one, so that copies stay in
@@ -125,8 +153,10 @@ void wrapRow(const uint8_t* image, uint8_t* row, size_t bytes, size_t leftBytes,
   }
 }
 
-#define LUMI_MOVE(sample, stored, used) \
-  template void moveRun<sample, stored, used>(const uint8_t*, uint8_t*, size_t);
+#define LUMI_MOVE(sample, stored, used)                                                                   \
+  template void moveRun<sample, stored, used>(const uint8_t*, uint8_t*, size_t, bool);                    \
+  template void extendRow<sample, stored, used>(const uint8_t*, const uint8_t*, const uint8_t*, uint8_t*, \
+                                                const RowShape&);
 #define LUMI_LAYOUTS(sample) \
   LUMI_MOVE(sample, 1, 1) LUMI_MOVE(sample, 3, 3) LUMI_MOVE(sample, 4, 4) LUMI_MOVE(sample, 4, 3)
 LUMI_LAYOUTS(1)

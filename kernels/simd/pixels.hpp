@@ -6,28 +6,30 @@
 
 namespace lumi::simd {
 
-// Up to four bytes in a register; none give 0. Put together there, for a copy in memory would be stored in
-// parts and loaded at once, which stalls.
+// One to four bytes as a dword, each moved by a register of its size: pieced together in memory, the dword
+// would have to wait for the stores of its pieces.
 template <int bytes>
-uint32_t dwordOf(const Byte* p) {
+uint32_t loadDword(const Byte* p) {
   uint32_t dword = 0;
   uint16_t word = 0;
-  if constexpr (bytes >= 4) std::memcpy(&dword, p, 4);
-  if constexpr (bytes == 2 || bytes == 3) std::memcpy(&word, p, 2);
-  if constexpr (bytes == 3) return word | uint32_t{p[2]} << 16;
-  if constexpr (bytes == 2) return word;
-  if constexpr (bytes == 1) return p[0];
+  if constexpr (bytes >= 4)
+    std::memcpy(&dword, p, 4);
+  else if constexpr (bytes >= 2)
+    std::memcpy(&word, p, 2), dword = word;
+  if constexpr (bytes == 1) dword = *p;
+  if constexpr (bytes == 3) dword |= uint32_t{p[2]} << 16;
   return dword;
 }
 
-// A pixel in the low bytes of a vector, and nothing behind it read. By way of registers: a vector load would
-// have to wait for the stores of a copy.
+// A pixel in the low bytes of a vector, and nothing behind it read.
 template <int bytes>
 Bytes16 loadPixel(const Byte* pixel) {
-  if constexpr (bytes == 16)
-    return load16(pixel);
-  else
-    return dwordsOf(dwordOf<bytes>(pixel), dwordOf<bytes - 4>(pixel + 4), dwordOf<bytes - 8>(pixel + 8));
+  static_assert(bytes <= 4 || bytes % 2 == 0);
+  if constexpr (bytes == 16) return load16(pixel);
+  const uint32_t first = loadDword<bytes>(pixel);
+  if constexpr (bytes == 12) return dwordsOf(first, loadDword<4>(pixel + 4), loadDword<4>(pixel + 8));
+  if constexpr (bytes > 4) return dwordsOf(first, loadDword<bytes - 4>(pixel + 4), 0);
+  return dwordsOf(first, 0, 0);
 }
 
 // Repeats such a pixel, beginning with its byte `from`.
