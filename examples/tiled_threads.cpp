@@ -36,7 +36,8 @@ class Resizer {
  public:
   Resizer(LumiSize from, LumiSize to) {
     int objectBytes = 0, initBytes = 0;
-    check(lumiResizeGetSize_8u(from, to, lumInterpLinear, 0, &objectBytes, &initBytes), "lumiResizeGetSize_8u");
+    check(lumiResizeGetSize_8u(from, to, lumInterpLinear, 0, &objectBytes, &initBytes),
+          "lumiResizeGetSize_8u");
     memory_.resize(static_cast<size_t>(objectBytes));
     check(lumiResizeLinearInit_8u(from, to, object()), "lumiResizeLinearInit_8u");
   }
@@ -53,8 +54,8 @@ class Resizer {
     LumiPoint source = {};
     check(lumiResizeGetSrcOffset_8u(object(), where, &source), "lumiResizeGetSrcOffset_8u");
     const Lum8u unused[3] = {};
-    check(lumiResizeLinear_8u_C3R(from.at(source.x, source.y), from.step, to.at(where.x, where.y), to.step, where,
-                                  tile, lumiBorderReplicate, unused, object(), scratch.data()),
+    check(lumiResizeLinear_8u_C3R(from.at(source.x, source.y), from.step, to.at(where.x, where.y), to.step,
+                                  where, tile, lumiBorderReplicate, unused, object(), scratch.data()),
           "lumiResizeLinear_8u_C3R");
   }
 
@@ -94,8 +95,9 @@ int run(LumiSize size) {
   Resizer resizer(from.size, onOne.size);
   const unsigned cores = std::max(1U, std::thread::hardware_concurrency());
   const double one = best(resizer, from, onOne, 1), all = best(resizer, from, onAll, cores);
-  std::printf("%d x %d to %d x %d: %.1f ms on one thread, %.1f ms on %u: %.2f times as fast\n", from.size.width,
-              from.size.height, onOne.size.width, onOne.size.height, one * 1e3, all * 1e3, cores, one / all);
+  std::printf("%d x %d to %d x %d: %.1f ms on one thread, %.1f ms on %u: %.2f times as fast\n",
+              from.size.width, from.size.height, onOne.size.width, onOne.size.height, one * 1e3, all * 1e3,
+              cores, one / all);
   if (onOne.bytes != onAll.bytes) throw std::runtime_error("the pictures differ");
   return 0;
 }
