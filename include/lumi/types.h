@@ -54,6 +54,33 @@ enum {
   lumRoundHalfAway = 2     /**< to the nearest integer, ties away from zero */
 };
 
+/**
+ * Where samples outside an image come from: a type, and flags of the sides where they are in memory. On flagged
+ * sides the real samples are used, on the others the type decides; all four flags are the same as
+ * lumiBorderInMemory. Each operation tells which types it takes.
+ */
+typedef int32_t LumiBorderType;
+enum {
+  lumiBorderConst = 0,       /**< a constant given by the caller */
+  lumiBorderReplicate = 1,   /**< the nearest edge sample */
+  lumiBorderMirror = 3,      /**< reflected about the edge sample: -1 takes 1, -2 takes 2 */
+  lumiBorderMirrorEdge = 4,  /**< reflected with the edge sample repeated: -1 takes 0, -2 takes 1 */
+  lumiBorderInMemory = 6,    /**< the samples outside are in memory and are read */
+  lumiBorderTransparent = 7, /**< destination pixels that have no source pixel stay */
+
+  lumiBorderInMemoryTop = 0x10,    /**< flag: rows above are in memory */
+  lumiBorderInMemoryBottom = 0x20, /**< flag: rows below are in memory */
+  lumiBorderInMemoryLeft = 0x40,   /**< flag: columns to the left are in memory */
+  lumiBorderInMemoryRight = 0x80   /**< flag: columns to the right are in memory */
+};
+
+/** A sample type as an argument. Each operation tells which ones it takes. */
+typedef int32_t LumiDataType;
+enum { lumiData8u = 1, lumiData16u = 5, lumiData16s = 7, lumiData32s = 11, lumiData32f = 13, lumiData64f = 19 };
+
+/** A kernel made ready for lumiFilterBorder, in memory of the caller's. */
+typedef struct LumiFilterBorderSpec LumiFilterBorderSpec;
+
 /** 2 asks for the accurate way of an operation that has two; any other value for the fast one. */
 typedef int32_t LumAlgorithmHint;
 
