@@ -126,9 +126,8 @@ void setFloatPath(FilterBorderObject& o, LumiDataType dataType) {
 
 uint64_t filterScratchBytes(LumiDataType dataType, LumiDataType kernelType, int channels, LumiSize kernel,
                             int width) {
-  return kernelType == lumiData16s
-             ? scratchOfWholeTaps(dataType, channels, tapsOf(kernel), unsignedOf(width))
-             : scratchOfFloats(dataType, channels, tapsOf(kernel), unsignedOf(width));
+  return kernelType == lumiData16s ? scratchOfWholeTaps(dataType, channels, tapsOf(kernel), unsignedOf(width))
+                                   : scratchOfFloats(dataType, channels, tapsOf(kernel), unsignedOf(width));
 }
 
 LumStatus filterBorderSizes(LumiSize kernelSize, LumiSize area, LumiDataType dataType,

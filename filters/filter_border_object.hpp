@@ -42,8 +42,8 @@ struct FilterBorderObject {
 inline constexpr int kFilterHeader = 128;
 static_assert(sizeof(FilterBorderObject) <= kFilterHeader);
 
-// Whether an integer kernel is applied as it is; 16u images and 16s pixels of more than two samples have no such
-// form, and take float taps.
+// Whether an integer kernel is applied as it is; 16u images and 16s pixels of more than two samples have no
+// such form, and take float taps.
 constexpr bool takesWholeTaps(LumiDataType dataType, int channels) {
   return dataType != lumiData16u && !(dataType == lumiData16s && channels > 2);
 }

@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: MIT
+// Integer taps.
+#include "kernels/filter_border.hpp"
+
+#include <algorithm>
+#include <limits>
+#include <type_traits>
+
+#include "kernels/filter_blocks.hpp"
+#include "kernels/simd/filter.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace simd;
+
+constexpr size_t kPairBytes = 16;
+
+// Sums of 4 * vectors samples.
+template <int vectors>
+struct Sums {
+  S32 at[vectors] = {};
+};
+
+// Adds the products of a pair of columns a and b, each of 4 * vectors samples.
+template <int vectors>
+void addPair(Sums<vectors>& sums, const uint8_t*, const Byte* a, const Byte* b, S16 taps) {
+  const U8 x{loadFew<4 * vectors>(a)}, y{loadFew<4 * vectors>(b)};
+  const U8 low = interleavedLow(x, y);
+  sums.at[0] = sums.at[0] + pairSums(wordsLow(low), taps);
+  sums.at[1] = sums.at[1] + pairSums(wordsHigh(low), taps);
+  if constexpr (vectors == 4) {
+    const U8 high = interleavedHigh(x, y);
+    sums.at[2] = sums.at[2] + pairSums(wordsLow(high), taps);
+    sums.at[3] = sums.at[3] + pairSums(wordsHigh(high), taps);
+  }
+}
+template <int vectors>
+void addPair(Sums<vectors>& sums, const int16_t*, const Byte* a, const Byte* b, S16 taps) {
+  for (int i = 0; i < vectors; i += 2) {
+    const S16 x{load16(a + 8 * i)}, y{load16(b + 8 * i)};
+    sums.at[i] = sums.at[i] + pairSums(interleavedLow(x, y), taps);
+    sums.at[i + 1] = sums.at[i + 1] + pairSums(interleavedHigh(x, y), taps);
+  }
+}
+
+// The last column of an odd kernel: its partner's tap is 0, but it may lie behind the image.
+template <int vectors, typename T>
+void addSingle(Sums<vectors>& sums, const T*, const Byte* a, S16 taps) {
+  for (int i = 0; i < vectors; ++i) {
+    const auto x = widened<uint32_t>(
+        Samples<std::make_unsigned_t<T>>{loadFew<4 * sizeof(T)>(a + 4 * sizeof(T) * static_cast<size_t>(i))});
+    sums.at[i] = sums.at[i] + pairSums({x.v}, taps);
+  }
+}
+
+template <int vectors, typename T>
+Sums<vectors> sumsOf(const FilterTaps& taps, FilterSource src) {
+  constexpr const T* type = nullptr;
+  const ptrdiff_t column = src.channels * static_cast<ptrdiff_t>(sizeof(T));
+  const Byte* packed = reinterpret_cast<const Byte*>(taps.packed);
+  Sums<vectors> sums;
+  for (int y = 0; y < taps.rows; ++y) {
+    const Byte* p = src.first + y * src.step;
+    for (int x = taps.columns; x > 1; x -= 2, p += 2 * column, packed += kPairBytes)
+      addPair(sums, type, p, p + column, {load16(packed)});
+    if (taps.columns % 2 == 0) continue;
+    addSingle(sums, type, p, {load16(packed)});
+    packed += kPairBytes;
+  }
+  return sums;
+}
+
+// Divided by a power of two, to nearest, ties to even. The part below the quotient is rounded by itself: with
+// the whole sum the bias could leave the type.
+class ByShift {
+ public:
+  explicit ByShift(const FilterRounding& r)
+      : shift_(r.shift), mask_(broadcast<int32_t>(r.mask)), bias_(broadcast<int32_t>(r.half - 1)) {}
+
+  S32 operator()(S32 sum) const {
+    const S32 quotient = sum >> shift_;
+    const S32 rest = (sum & mask_) + bias_ + (quotient & broadcast<int32_t>(1));
+    return quotient + (rest >> shift_);
+  }
+
+ private:
+  Shift shift_;
+  S32 mask_, bias_;
+};
+
+// Multiplied by the divisor's reciprocal. What is above every sample is limited, so that it fits an integer.
+class ByScale {
+ public:
+  explicit ByScale(const FilterRounding& r) : scale_(broadcastFloat<Floats4>(r.scale)) {}
+
+  S32 operator()(S32 sum) const {
+    return rounded(limitedFromAbove(floatsOf(sum) * scale_, broadcastFloat<Floats4>(INT16_MAX)));
+  }
+
+ private:
+  Floats4 scale_;
+};
+
+template <int vectors, typename T, typename Divide>
+void storeSums(Byte* dst, const Sums<vectors>& sums, const T*, const Divide& divide) {
+  for (int i = 0; i < vectors; i += 2) {
+    const S16 words = packed<int16_t>(divide(sums.at[i]), divide(sums.at[i + 1]));
+    if constexpr (sizeof(T) == 2)
+      store16(dst + 8 * i, words.v);
+    else
+      storeLow8(dst + 4 * i, packed<uint8_t>(words, words).v);
+  }
+}
+
+template <typename T, typename Divide>
+void filterBlocks(const FilterTaps& taps, FilterSource src, Byte* dst, size_t samples, const Divide& divide) {
+  inBlocks<16, 8>(samples, [&](auto count, size_t i) {
+    constexpr int vectors = decltype(count)::value / 4;
+    constexpr const T* type = nullptr;
+    const size_t at = i * sizeof(T);
+    storeSums(dst + at, sumsOf<vectors, T>(taps, src.at(at)), type, divide);
+  });
+}
+
+template <typename T>
+using WideSum = std::conditional_t<sizeof(T) == 1, int32_t, int64_t>;
+
+template <typename T>
+WideSum<T> sumAt(const FilterTaps& taps, FilterSource src) {
+  const ptrdiff_t column = src.channels * static_cast<ptrdiff_t>(sizeof(T));
+  const int16_t* tap = taps.whole + static_cast<ptrdiff_t>(taps.columns) * taps.rows;
+  std::make_unsigned_t<WideSum<T>> sum = 0;
+  for (int y = 0; y < taps.rows; ++y) {
+    const Byte* p = src.first + y * src.step;
+    for (int x = 0; x < taps.columns; ++x, p += column) {
+      T sample;
+      move<sizeof(T)>(reinterpret_cast<Byte*>(&sample), p);
+      sum += static_cast<std::make_unsigned_t<WideSum<T>>>(sample * *--tap);  // 8u sums wrap
+    }
+  }
+  return static_cast<WideSum<T>>(sum);
+}
+
+// x to nearest, ties to even or away from zero, where it is within the limits of T.
+template <typename T>
+int64_t rounded(double x, bool tiesToEven) {
+  using Limits = std::numeric_limits<T>;
+  if (x >= Limits::max()) return Limits::max();
+  if (x <= Limits::min()) return Limits::min();
+  const double magnitude = x < 0 ? -x : x;
+  auto result = static_cast<int64_t>(magnitude + 0.5);
+  if (tiesToEven && static_cast<double>(result) - magnitude == 0.5) result &= ~int64_t{1};
+  // Below a half the sum with it may be rounded up to 1.
+  if (magnitude < 0.5) result = 0;
+  return x < 0 ? -result : result;
+}
+
+int64_t shifted(int64_t sum, const FilterRounding& r) {
+  if (r.mode == 0) return (sum < 0 ? sum + r.mask : sum) >> r.shift;
+  const int64_t quotient = sum >> r.shift, rest = sum & r.mask;
+  if (r.mode == 1) return quotient + (((quotient & 1) + rest + r.half - 1) >> r.shift);
+  return sum < 0 ? quotient + ((rest + r.half - 1) >> r.shift) : (sum + r.half) >> r.shift;
+}
+
+template <typename T>
+int64_t divided(int64_t sum, const FilterRounding& r) {
+  if (r.divisorKind == FilterRounding::One) return sum;
+  if (r.divisorKind == FilterRounding::PowerOfTwo) {
+    if (std::is_unsigned_v<T> && sum < 1) return 0;
+    return shifted(sum, r);
+  }
+  if (r.mode == 0) return sum / r.divisor;
+  return rounded<T>(static_cast<double>(sum) / r.divisorD, r.mode == 1);
+}
+
+}  // namespace
+
+template <typename T>
+void filterWide(const FilterTaps& taps, const FilterRounding& rounding, FilterSource src, uint8_t* dst,
+                size_t samples) {
+  if (rounding.shift > 0)
+    filterBlocks<T>(taps, src, dst, samples, ByShift(rounding));
+  else
+    filterBlocks<T>(taps, src, dst, samples, ByScale(rounding));
+}
+
+template <typename T>
+void filterNarrow(const FilterTaps& taps, const FilterRounding& rounding, FilterSource src, uint8_t* dst,
+                  size_t samples) {
+  using Limits = std::numeric_limits<T>;
+  for (size_t i = 0; i < samples; ++i) {
+    const int64_t result = divided<T>(sumAt<T>(taps, src.at(i * sizeof(T))), rounding);
+    const T sample = static_cast<T>(std::clamp<int64_t>(result, Limits::min(), Limits::max()));
+    move<sizeof(T)>(dst + i * sizeof(T), reinterpret_cast<const Byte*>(&sample));
+  }
+}
+
+template void filterWide<uint8_t>(const FilterTaps&, const FilterRounding&, FilterSource, uint8_t*, size_t);
+template void filterWide<int16_t>(const FilterTaps&, const FilterRounding&, FilterSource, uint8_t*, size_t);
+template void filterNarrow<uint8_t>(const FilterTaps&, const FilterRounding&, FilterSource, uint8_t*, size_t);
+template void filterNarrow<int16_t>(const FilterTaps&, const FilterRounding&, FilterSource, uint8_t*, size_t);
+
+}  // namespace lumi
