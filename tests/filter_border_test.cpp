@@ -105,7 +105,7 @@ void fillSamples(Random& random, Byte* first, size_t count) {
       sample = static_cast<T>(random.next());
       if (extremes) sample = random.oneIn(2) ? std::numeric_limits<T>::max() : std::numeric_limits<T>::min();
     } else {
-      sample = static_cast<T>(random.between(-1 << 20, 1 << 20)) / 1021;
+      sample = static_cast<T>(random.between(-1000000, 1000000)) / 1021;
     }
     std::memcpy(first + i * sizeof(T), &sample, sizeof(T));
   }
