@@ -29,7 +29,7 @@ function(lumi_sources home)
 endfunction()
 
 lumi_sources(frame attach image_memory version streaming)
-lumi_sources(data set copy copy_channels convert scale bits)
+lumi_sources(data set copy copy_channels border convert scale bits)
 lumi_sources(arithmetic add_sub)
 lumi_kernels(masked chosen planes pattern)  # not of one family alone
 lumi_sources(filters filter_border filter_border_object border_image)

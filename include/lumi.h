@@ -8,6 +8,7 @@
 
 #include "lumi/add_sub.h"
 #include "lumi/bits.h"
+#include "lumi/border.h"
 #include "lumi/convert.h"
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"

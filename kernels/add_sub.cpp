@@ -250,15 +250,16 @@ void combineWithConstant(const PixelPattern& a, const uint8_t* b, uint8_t* dst, 
 #define LUMI_WHOLE(Op, T) \
   LUMI_IMAGES(Op, T, 0) LUMI_CONSTANT(Op, T, 0, false, false) LUMI_CONSTANT(Op, T, 0, true, false)
 #define LUMI_ALPHA(Op, T, samples) LUMI_IMAGES(Op, T, samples) LUMI_CONSTANT(Op, T, samples, false, false)
-#define LUMI_OPERATION(Op)                                                                            \
-  LUMI_WHOLE(Op, uint8_t)                                                                             \
-  LUMI_ALPHA(Op, uint8_t, 1)                                                                          \
-  LUMI_WHOLE(Op, uint16_t)                                                                            \
-  LUMI_ALPHA(Op, uint16_t, 1)                                                                         \
-  LUMI_WHOLE(Op, int16_t)                                                                             \
-  LUMI_ALPHA(Op, int16_t, 1) LUMI_WHOLE(Op, int32_t) LUMI_ALPHA(Op, int32_t, 2) LUMI_WHOLE(Op, float) \
-      LUMI_ALPHA(Op, float, 1) LUMI_ALPHA(Op, int16_t, 2) LUMI_ALPHA(Op, float, 2)                    \
-          LUMI_CONSTANT(Op, int16_t, 0, true, true)
+#define LUMI_OPERATION(Op)                                                                             \
+  LUMI_WHOLE(Op, uint8_t)                                                                              \
+  LUMI_ALPHA(Op, uint8_t, 1)                                                                           \
+  LUMI_WHOLE(Op, uint16_t)                                                                             \
+  LUMI_ALPHA(Op, uint16_t, 1)                                                                          \
+  LUMI_WHOLE(Op, int16_t)                                                                              \
+  LUMI_ALPHA(Op, int16_t, 1)                                                                           \
+  LUMI_WHOLE(Op, int32_t)                                                                              \
+  LUMI_ALPHA(Op, int32_t, 2) LUMI_WHOLE(Op, float) LUMI_ALPHA(Op, float, 1) LUMI_ALPHA(Op, int16_t, 2) \
+      LUMI_ALPHA(Op, float, 2) LUMI_CONSTANT(Op, int16_t, 0, true, true)
 LUMI_OPERATION(Add)
 LUMI_OPERATION(Sub)
 

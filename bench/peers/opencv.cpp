@@ -106,4 +106,12 @@ Peer above(View src, double threshold) {
   return peer("opencv", [s = mat(src), bytes, threshold] { cv::compare(s, threshold, bytes, cv::CMP_GT); });
 }
 
+Peer border(View src, View dst, int top, int left, Border kind, Value value) {
+  constexpr int kKinds[] = {cv::BORDER_CONSTANT, cv::BORDER_REPLICATE, cv::BORDER_WRAP};
+  const int bottom = dst.roi.height - src.roi.height - top, right = dst.roi.width - src.roi.width - left;
+  return peer("opencv", [=, s = mat(src), d = mat(dst), v = scalar(value)]() mutable {
+    cv::copyMakeBorder(s, d, top, bottom, left, right, kKinds[static_cast<int>(kind)], v);
+  });
+}
+
 }  // namespace bench::opencv

@@ -29,5 +29,7 @@ namespace bench::opencv {
 [[gnu::weak]] Peer above(View src, double threshold);
 // To the destination's type.
 [[gnu::weak]] Peer convert(View src, View dst);
+enum class Border { constant, replicate, wrap };
+[[gnu::weak]] Peer border(View src, View dst, int top, int left, Border kind, Value value);
 
 }  // namespace bench::opencv

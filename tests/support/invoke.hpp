@@ -32,12 +32,19 @@ enum class Kind {
 
 // A step of the order in which an operation checks its arguments.
 // Own: an order that the general words do not tell; the family's own tests do.
-enum class Check { Null, Size, Width, Step, Offset, Range, Own };
+enum class Check { Null, Size, Width, Step, Offset, Range, Frame, Value, Own };
+
+// A value that a check finds although nothing general is wrong with it; a number is the width.
+struct Refused {
+  Check by;
+  LumiSize value;
+};
 
 struct Argument {
   Kind kind;
   const char* name;
   int extra;  // planes of a planar argument, values of an array of them, a valid value of a number
+  std::vector<Refused> refused;
 };
 
 // A value for any argument.

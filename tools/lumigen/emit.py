@@ -15,6 +15,8 @@ CHECK_TEXT = {
     "step": "lumStatusBadStep (-14)     a step is below 1",
     "offset": "lumStatusBadSize (-6)      a bit offset is negative",
     "range": "lumStatusBadDataRange (-13) upper is not above lower",
+    "frame": "lumStatusBadSize (-6)      top or left is negative, or dstRoi does not hold srcRoi at that place",
+    "value": "lumStatusNullPointer (-8)  value is null",
 }
 
 
@@ -60,6 +62,16 @@ def _members(exports):
     return "; ".join(f"{' '.join(types)}: {names}" for names, types in groups.items())
 
 
+def _check_text(word, export):
+    """What a check finds; the words differ where arguments do."""
+    text = CHECK_TEXT[word]
+    if word == "null" and "value" in export.check:
+        text = text.replace("a pointer is null, plane pointers included", "an image's pointer is null")
+    if word == "size" and any(a.kind == "size" and a.name != "roi" for a in export.args):
+        text = text.replace("roi.width or roi.height", "a width or a height")
+    return text
+
+
 def _doc_block(op):
     lines = [op.brief] + ([""] + op.text if op.text else [])
     if op.params:
@@ -71,7 +83,7 @@ def _doc_block(op):
     for check, exports in cohorts.items():
         members = f" ({_members(exports)})" if len(cohorts) > 1 else ""
         lines += ["", f"Returns lumStatusOk (0) or, tested in this order and before anything is written{members}:"]
-        lines += [f"  {CHECK_TEXT[c]}" for c in check]
+        lines += [f"  {_check_text(c, exports[0])}" for c in check]
     body = "\n".join((" * " + line).rstrip() for line in lines)
     return f"/**\n{body}\n */"
 
@@ -211,7 +223,9 @@ def fault_rows(families):
 
 def _fault_arg(arg):
     extra = {"planes": arg.count, "values": arg.count, "number": arg.base, "upper": 255}.get(arg.kind, 0)
-    return f'{{Kind::{_KIND[arg.kind]}, "{arg.name}", {extra}}}'
+    refused = ", ".join("{Check::%s, {%s}}" % (arg.refused_by.capitalize(), ", ".join(map(str, (value + (0,))[:2])))
+                        for value in arg.refused)
+    return f'{{Kind::{_KIND[arg.kind]}, "{arg.name}", {extra}, {{{refused}}}}}'
 
 
 def structure_rows(families):

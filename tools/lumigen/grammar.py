@@ -34,6 +34,8 @@ class Arg:
     decl: str      # C declaration, name included
     count: int = 0   # planes of an array of them, values of an array of those
     base: str = "0"  # a valid value of a number
+    refused: tuple = ()   # values that the check refused_by finds, sizes as (width, height)
+    refused_by: str = ""
 
 
 @dataclass(frozen=True)
@@ -45,6 +47,8 @@ class Param:
     about: str
     optional: bool = False
     base: str = "0"
+    refused: tuple = ()
+    refused_by: str = ""
 
 
 @dataclass
@@ -128,11 +132,12 @@ def _value(sample, layout):
 
 
 def _param(param, ctype):
+    refused = {"refused": param.refused, "refused_by": param.refused_by}
     if ctype == "LumiSize":
-        return Arg("size", param.name, f"{ctype} {param.name}")
+        return Arg("size", param.name, f"{ctype} {param.name}", **refused)
     if "*" in ctype:
         return Arg("optional" if param.optional else "pointer", param.name, f"{ctype} {param.name}")
-    return Arg("number", param.name, f"{ctype} {param.name}", base=param.base)
+    return Arg("number", param.name, f"{ctype} {param.name}", base=param.base, **refused)
 
 
 def _grammar_args(role, types, descriptor):

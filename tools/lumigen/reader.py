@@ -8,7 +8,7 @@ from dataclasses import dataclass, field
 from . import grammar
 from .grammar import Export, GrammarError, Param
 
-CHECKS = ("null", "size", "width", "step", "offset", "range", "own")
+CHECKS = ("null", "size", "width", "step", "offset", "range", "frame", "value", "own")
 HOMES = ("frame", "arithmetic", "data", "statistics", "filters", "geometry", "transforms", "analysis")
 
 
@@ -124,11 +124,22 @@ class _Reader:
         self._operation().brief = rest
 
     def _on_param(self, rest):
-        match = re.match(r"(\w+)\s+(.+?)(\s+optional)?(?:\s+=\s+(\S+))?\s+:\s+(.+)$", rest)
+        match = re.match(r"(\w+)\s+(.+?)(\s+optional)?(?:\s+=\s+(\S+))?(?:\s+refuses\s+(.+?)\s+by\s+(\w+))?"
+                         r"\s+:\s+(.+)$", rest)
         if not match:
-            self._fail("param takes: name type [optional] [= valid value] : meaning")
-        name, ctype, optional, base, about = match.groups()
-        self._operation().params.append(Param(name, ctype, about, bool(optional), base or "0"))
+            self._fail("param takes: name type [optional] [= valid value] [refuses values by check] : meaning")
+        name, ctype, optional, base, refused, by, about = match.groups()
+        values = tuple(self._refused(ctype, value) for value in (refused or "").split())
+        if by and by not in CHECKS:
+            self._fail(f"'{by}' is no check: {' '.join(CHECKS)}")
+        self._operation().params.append(Param(name, ctype, about, bool(optional), base or "0", values, by or ""))
+
+    def _refused(self, ctype, value):
+        """`-1`, or `6x3` of a size."""
+        numbers = value.split("x")
+        if len(numbers) != (2 if ctype == "LumiSize" else 1) or any(not re.match(r"-?\d+$", n) for n in numbers):
+            self._fail(f"'{value}' is no value of {ctype}")
+        return tuple(int(n) for n in numbers)
 
     def _on_args(self, rest):
         self._operation().args = rest.split()

@@ -107,6 +107,23 @@ class Rows(unittest.TestCase):
                          "Lum32f* lumiProbe_32f_C1(int flag, Lum32f* out)")
         self.assertIn("return probe<4>(flag, out);", emit.bindings(family))
 
+    def test_refused_values(self):
+        family = read(HEAD + "  param whole LumiSize refuses 6x3 7x2 by frame : all of it\n"
+                      "  param top int = 2 refuses -1 2147483647 by frame : rows above\n"
+                      "  args whole top\n  8u C1R check size frame bind probe\n")
+        whole, top = family.operations[0].exports[0].args
+        self.assertEqual((whole.kind, whole.refused, whole.refused_by), ("size", ((6, 3), (7, 2)), "frame"))
+        self.assertEqual((top.kind, top.base, top.refused), ("number", "2", ((-1,), (2147483647,))))
+        self.assertIn('{Kind::Number, "top", 2, {{Check::Frame, {-1, 0}}, {Check::Frame, {2147483647, 0}}}}',
+                      emit.fault_rows([family]))
+
+    def test_texts_of_checks_follow_the_arguments(self):
+        header = emit.family_header(read(HEAD + "  param whole LumiSize : all of it\n  args src whole value\n"
+                                         "  8u C3R check null size value bind probe\n"))
+        self.assertIn("an image's pointer is null", header)
+        self.assertIn("a width or a height is below 1", header)
+        self.assertIn("(-8)  value is null", header)
+
     def test_no_types(self):
         self.assertIn("lumiProbe", exports(HEAD + "  returns void\n  - bind probe\n"))
 
@@ -121,6 +138,9 @@ class Complaints(unittest.TestCase):
         (HEAD + "  args value\n  8u C3A0C4R bind x\n", 5, "'C3A0C4' does not tell how many values"),
         (HEAD + "  args src\n  8u C1R\n", 5, "a row ends in: bind name"),
         (HEAD + "  args src\n  8u C1R check nul bind x\n", 5, "check takes words of"),
+        (HEAD + "  param a int refuses 1x2 by size : a\n", 4, "'1x2' is no value of int"),
+        (HEAD + "  param a LumiSize refuses 1 by size : a\n", 4, "'1' is no value of LumiSize"),
+        (HEAD + "  param a int refuses 1 by luck : a\n", 4, "'luck' is no check"),
         (HEAD + "  args src\n  8u C1R bind x\n  8u C1R bind x\n", 6, "lumiProbe_8u_C1R stands twice"),
         (HEAD + "  args src\n  8u {C1R bind x\n", 5, "unbalanced brace"),
         (HEAD + "  args src\n  same 8u_C1R=8u_C4R\n", 5, "no row for lumiProbe_8u_C1R"),

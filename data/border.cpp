@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: MIT
+// Border extension: a frame around an image, of a value, of its edge pixels, or of the image continued.
+#include "lumi/border.h"
+
+#include "frame/border.hpp"
+#include "frame/check.hpp"
+#include "frame/constant.hpp"
+#include "frame/layout.hpp"
+#include "frame/rows.hpp"
+#include "frame/streaming.hpp"
+#include "kernels/border.hpp"
+#include "kernels/fence.hpp"
+#include "kernels/set.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace check;
+
+// Images of more bytes do not stay near the processor, whose second cache holds as many or less.
+constexpr int64_t kFar = 0x100000;
+
+// Runs of pixels of one sample type and layout, in an image of that size.
+template <typename T, typename Layout>
+struct Runs {
+  static constexpr int kBytes = kPixelBytes<T, Layout>, kUsed = kUsedBytes<T, Layout>;
+
+  static constexpr size_t kShortFill = 128;  // up to here a start is dearer than unaligned stores
+
+  static size_t bytes(int pixels) { return static_cast<size_t>(pixels) * kBytes; }
+
+  const bool far;
+
+  explicit Runs(LumiSize whole) : far(bytesMoved(whole, kBytes) > kFar) {}
+
+  void move(const Byte* src, Byte* dst, int pixels) const {
+    moveRun<sizeof(T), Layout::kStored, Layout::kUsed>(src, dst, static_cast<size_t>(pixels), far);
+  }
+  static void repeat(const Byte* pixel, Byte* dst, int pixels) {
+    if (pixels) repeatPixel<kBytes, kUsed>(pixel, dst, static_cast<size_t>(pixels));
+  }
+  static void fill(const PixelPattern& value, Byte* dst, int pixels) {
+    const size_t count = bytes(pixels);
+    if (kUsed < kBytes || count <= kShortFill) {
+      repeat(value.bytes, dst, pixels);
+    } else {
+      fillRow<kBytes>(value, dst, count, mayStream(pixels) && streamsFill(static_cast<int64_t>(count)));
+    }
+  }
+  // Whether a run is so long that fills of it may bypass the cache.
+  static bool mayStream(int pixels) { return bytes(pixels) > static_cast<size_t>(kFillStreamingFloor); }
+};
+
+template <typename B>
+Rows<B> startingAt(Rows<B> image, int y) {
+  return {image.row(y), image.step};
+}
+
+// An image in a larger one: rows of the first from its own first pixel on, of the second from the frame's
+// left edge; both count from the image's first row.
+struct Framed {
+  LumiSize roi;
+  Frame frame;
+  Rows<Byte> image, whole;
+
+  LumiSize wholeRoi() const {
+    return {frame.left + roi.width + frame.right, frame.top + roi.height + frame.bottom};
+  }
+};
+
+Framed framed(Rows<Byte> image, LumiSize roi, Frame frame, size_t leftBytes) {
+  return {roi, frame, image, {image.first - leftBytes, image.step}};
+}
+
+Rows<Byte> placeOfImage(Rows<Byte> whole, Frame frame, size_t leftBytes) {
+  return {whole.row(frame.top) + leftBytes, whole.step};
+}
+
+template <typename T, typename Layout, typename Value>
+LumStatus copyConstBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst, int dstStep, LumiSize dstRoi,
+                          int top, int left, Value value) {
+  if (LumStatus fault = firstFault(pointers(src, dst), steps(srcStep, dstStep), size(srcRoi), size(dstRoi),
+                                   frame(srcRoi, dstRoi, top, left), pointers(value)))
+    return fault;
+  using Run = Runs<T, Layout>;
+  const Frame sides = Frame::around(srcRoi, dstRoi, top, left);
+  const PixelPattern pattern = patternOf<T, Layout>(value);
+  const auto fillWhole = [&](Byte* d) { Run::fill(pattern, d, dstRoi.width); };
+  const Run run(dstRoi);
+  const auto extend = [&](const Byte* s, Byte* d) {
+    Byte* const image = d + Run::bytes(left);
+    Run::fill(pattern, d, left);
+    run.move(s, image, srcRoi.width);
+    Run::fill(pattern, image + Run::bytes(srcRoi.width), sides.right);
+  };
+  const Rows<Byte> whole = rows(dst, dstStep);
+  walkRows(top, fillWhole, whole);
+  walkRows(srcRoi.height, extend, rows(src, srcStep), startingAt(whole, top));
+  walkRows(sides.bottom, fillWhole, startingAt(whole, top + srcRoi.height));
+  if (Run::mayStream(dstRoi.width)) storeFence();
+  return lumStatusOk;
+}
+
+// The first row is finished before the rows above are copied from it; `src` may be the image itself.
+template <typename Run>
+void replicate(Rows<const Byte> src, const Framed& dst) {
+  const int width = dst.roi.width, height = dst.roi.height;
+  const Run run(dst.wholeRoi());
+  const auto extend = [&](const Byte* s, Byte* d) {
+    Run::repeat(s, d - Run::bytes(dst.frame.left), dst.frame.left);
+    run.move(s, d, width);
+    Run::repeat(s + Run::bytes(width - 1), d + Run::bytes(width), dst.frame.right);
+  };
+  const auto copyOver = [&](int from, int to, int count) {
+    const Byte* const finished = dst.whole.row(from);
+    walkRows(
+        count, [&](Byte* d) { run.move(finished, d, dst.wholeRoi().width); }, startingAt(dst.whole, to));
+  };
+  extend(src.row(0), dst.image.row(0));
+  copyOver(0, -dst.frame.top, dst.frame.top);
+  walkRows(height - 1, extend, startingAt(src, 1), startingAt(dst.image, 1));
+  copyOver(height - 1, height, dst.frame.bottom);
+}
+
+// Rows outside are copied from the image outwards, each from the row one period nearer.
+template <typename Run>
+void wrap(Rows<const Byte> src, const Framed& dst) {
+  const int width = dst.roi.width, height = dst.roi.height;
+  const Run run(dst.wholeRoi());
+  walkRows(
+      height,
+      [&](const Byte* s, Byte* d) {
+        run.move(s, d, width);
+        wrapRow(s, d, Run::bytes(width), Run::bytes(dst.frame.left), Run::bytes(dst.frame.right));
+      },
+      src, dst.image);
+  const auto copyWhole = [&](const Byte* s, Byte* d) { run.move(s, d, dst.wholeRoi().width); };
+  const auto upwardsFrom = [&](int y) { return Rows<Byte>{dst.whole.row(y), -dst.whole.step}; };
+  walkRows(dst.frame.top, copyWhole, upwardsFrom(height - 1), upwardsFrom(-1));
+  walkRows(dst.frame.bottom, copyWhole, dst.whole, startingAt(dst.whole, height));
+}
+
+template <typename Run, typename T, typename Extend>
+void extendCopy(const T* src, int srcStep, LumiSize srcRoi, T* dst, int dstStep, Frame sides, Extend extend) {
+  const size_t leftBytes = Run::bytes(sides.left);
+  extend(rows(src, srcStep),
+         framed(placeOfImage(rows(dst, dstStep), sides, leftBytes), srcRoi, sides, leftBytes));
+}
+
+template <typename Run, typename T, typename Extend>
+LumStatus extendInPlace(T* image, int step, LumiSize srcRoi, LumiSize dstRoi, int top, int left,
+                        Extend extend) {
+  if (LumStatus fault = firstFault(pointers(image), steps(step), size(srcRoi), size(dstRoi),
+                                   frame(srcRoi, dstRoi, top, left)))
+    return fault;
+  const Rows<Byte> place = rows(image, step);
+  const Frame sides = Frame::around(srcRoi, dstRoi, top, left);
+  extend(Rows<const Byte>{place.first, place.step}, framed(place, srcRoi, sides, Run::bytes(left)));
+  return lumStatusOk;
+}
+
+template <typename T, typename Layout>
+LumStatus replicateBorderInPlace(T* image, int step, LumiSize srcRoi, LumiSize dstRoi, int top, int left) {
+  using Run = Runs<T, Layout>;
+  return extendInPlace<Run>(image, step, srcRoi, dstRoi, top, left, replicate<Run>);
+}
+
+template <typename T, typename Layout>
+LumStatus copyReplicateBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst, int dstStep,
+                              LumiSize dstRoi, int top, int left) {
+  if (src == dst) return replicateBorderInPlace<T, Layout>(dst, dstStep, srcRoi, dstRoi, top, left);
+  if (LumStatus fault = firstFault(pointers(src, dst), steps(srcStep, dstStep), size(srcRoi), size(dstRoi),
+                                   frame(srcRoi, dstRoi, top, left)))
+    return fault;
+  using Run = Runs<T, Layout>;
+  extendCopy<Run>(src, srcStep, srcRoi, dst, dstStep, Frame::around(srcRoi, dstRoi, top, left),
+                  replicate<Run>);
+  return lumStatusOk;
+}
+
+template <typename T, typename Layout>
+LumStatus wrapBorderInPlace(T* image, int step, LumiSize srcRoi, LumiSize dstRoi, int top, int left) {
+  using Run = Runs<T, Layout>;
+  return extendInPlace<Run>(image, step, srcRoi, dstRoi, top, left, wrap<Run>);
+}
+
+// Equal pointers mean the image in place here too, but only once all arguments have passed.
+template <typename T, typename Layout>
+LumStatus copyWrapBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst, int dstStep, LumiSize dstRoi,
+                         int top, int left) {
+  if (LumStatus fault = firstFault(pointers(src, dst), steps(srcStep, dstStep), size(srcRoi), size(dstRoi),
+                                   frame(srcRoi, dstRoi, top, left)))
+    return fault;
+  if (src == dst) return wrapBorderInPlace<T, Layout>(dst, dstStep, srcRoi, dstRoi, top, left);
+  using Run = Runs<T, Layout>;
+  extendCopy<Run>(src, srcStep, srcRoi, dst, dstStep, Frame::around(srcRoi, dstRoi, top, left), wrap<Run>);
+  return lumStatusOk;
+}
+
+}  // namespace
+}  // namespace lumi
+
+using namespace lumi;
+#include "bind/border.inc"
