@@ -78,7 +78,7 @@ class FilterRun {
  public:
   FilterRun(const FilterBorderObject& object, Rows<const Byte> src, Rows<Byte> dst, LumiSize roi,
             LumiBorderType border, const T* borderValue, Lum8u* scratch)
-      : object_(object), src_(src), dst_(dst), roi_(roi), border_(border) {
+      : object_(object), src_(src), dst_(dst), roi_(roi), border_(border), borderValue_(borderValue) {
     const LumiSize kernel{object.kernelWidth, object.kernelHeight};
     const LumiDataType taps = usesWholeTaps<T>(object) ? lumiData16s : lumiData32f;
     left_ = kernel.width / 2;
@@ -87,7 +87,6 @@ class FilterRun {
     bottom_ = kernel.height - top_ - 1;
     image_ = alignedUp(scratch, kObjectAlignment) +
              filterScratchBytes(kDataType<T>, taps, Layout::kStored, kernel, roi.width);
-    if (mode() == lumiBorderConst) pixel_.constant = reinterpret_cast<const Byte*>(borderValue);
   }
 
   void run() const {
@@ -125,7 +124,10 @@ class FilterRun {
                           {size.width + left + right, size.height + top + bottom},
                           frame.y - top,
                           frame.x - left};
-    buildBorderImage(part, pixel_, rows, image);
+    if (mode() == lumiBorderConst)
+      constantBorder<T, Layout>(part, borderValue_, rows, image);
+    else
+      replicateBorder<T, Layout>(part, rows, image);
     return result;
   }
 
@@ -202,7 +204,7 @@ class FilterRun {
   Rows<Byte> dst_;
   LumiSize roi_;
   LumiBorderType border_;
-  BorderPixel pixel_{nullptr, kPixelBytes<T, Layout>};
+  const T* borderValue_;
   int left_, right_, top_, bottom_;
   Lum8u* image_;
 };
