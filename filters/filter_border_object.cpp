@@ -166,7 +166,7 @@ LumStatus initFilterBorder(const Lum16s* kernel, LumiSize kernelSize, int diviso
     setFloatPath(o, dataType);
     return lumStatusOk;
   }
-  std::memcpy(o.kernelI, kernel, taps * sizeof *kernel);
+  std::memcpy(o.kernelI, kernel, static_cast<size_t>(taps) * sizeof *kernel);
   o.fitsPacked = packKernel(o.kernelI, kernelSize, o.kernelPacked);
   o.fitsWords = sumOfMagnitudes(o.kernelI, taps) <= 65534;
   setDivisor(o, divisor);
@@ -182,7 +182,7 @@ LumStatus initFilterBorder(const Lum32f* kernel, LumiSize kernelSize, LumiDataTy
                                    channelCount(channels), roundingMode(roundMode)))
     return fault;
   FilterBorderObject& o = makeObject(spec, kernelSize, roundMode);
-  std::memcpy(o.kernelF, kernel, tapsOf(kernelSize) * sizeof *kernel);
+  std::memcpy(o.kernelF, kernel, static_cast<size_t>(tapsOf(kernelSize)) * sizeof *kernel);
   setFloatPath(o, dataType);
   return lumStatusOk;
 }
