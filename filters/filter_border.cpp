@@ -190,9 +190,12 @@ class FilterRun {
   void filterRow(bool wide, FilterSource src, Byte* dst, size_t samples) const {
     const FilterTaps taps = tapsOf(object_);
     if constexpr (std::is_same_v<T, Lum8u> || std::is_same_v<T, Lum16s>)
-      if (usesWholeTaps<T>(object_))
+      if (usesWholeTaps<T>(object_)) {
+        if constexpr (sizeof(T) == 1)
+          if (wide && object_.fitsBytes) return filterWideSmall(taps, roundingOf(object_), src, dst, samples);
         return wide ? filterWide<T>(taps, roundingOf(object_), src, dst, samples)
                     : filterNarrow<T>(taps, roundingOf(object_), src, dst, samples);
+      }
     if (wide)
       filterWideFloats<T>(taps, src, dst, samples);
     else

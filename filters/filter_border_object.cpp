@@ -168,7 +168,10 @@ LumStatus initFilterBorder(const Lum16s* kernel, LumiSize kernelSize, int diviso
   }
   std::memcpy(o.kernelI, kernel, static_cast<size_t>(taps) * sizeof *kernel);
   o.fitsPacked = packKernel(o.kernelI, kernelSize, o.kernelPacked);
-  o.fitsWords = sumOfMagnitudes(o.kernelI, taps) <= 65534;
+  const int64_t magnitudes = sumOfMagnitudes(o.kernelI, taps);
+  o.fitsWords = magnitudes <= 65534;
+  o.fitsBytes =
+      magnitudes <= 128 && *std::max_element(o.kernelI, o.kernelI + taps) < 128;  // 128 * 255 < 2^15
   setDivisor(o, divisor);
   o.path = dataType == lumiData8u ? kBytesWhole : kWordsWhole;
   return lumStatusOk;

@@ -37,6 +37,7 @@ struct FilterBorderObject {
   void* kernelEnd;
   int32_t fitsPacked;
   int32_t fitsWords;  // whether sums of products with 16-bit samples stay in 32 bits
+  int32_t fitsBytes;  // whether taps are bytes, and sums of products with 8-bit samples stay in 16 bits
 };
 
 inline constexpr int kFilterHeader = 128;

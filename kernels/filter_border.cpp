@@ -123,6 +123,83 @@ void filterBlocks(const FilterTaps& taps, FilterSource src, Byte* dst, size_t sa
   });
 }
 
+// Sums of 8-bit samples in words, for taps that are bytes and so small that no sum leaves a word.
+template <int vectors>
+struct WordSums {
+  S16 at[vectors] = {};
+};
+
+template <int vectors>
+WordSums<vectors> wordSumsOf(const FilterTaps& taps, FilterSource src) {
+  const Byte* packed = reinterpret_cast<const Byte*>(taps.packed);
+  WordSums<vectors> sums;
+  const auto add = [&](U8 x, U8 y) {
+    const S16 pair{load16(packed)};
+    const S8 factors = simd::packed<int8_t>(pair, pair);
+    sums.at[0] = sums.at[0] + pairSums(interleavedLow(x, y), factors);
+    if constexpr (vectors == 2) sums.at[1] = sums.at[1] + pairSums(interleavedHigh(x, y), factors);
+    packed += kPairBytes;
+  };
+  for (int y = 0; y < taps.rows; ++y) {
+    const Byte* p = src.first + y * src.step;
+    for (int x = taps.columns; x > 1; x -= 2, p += 2 * src.channels)
+      add({loadFew<8 * vectors>(p)}, {loadFew<8 * vectors>(p + src.channels)});
+    if (taps.columns % 2) add({loadFew<8 * vectors>(p)}, broadcast<uint8_t>(0));
+  }
+  return sums;
+}
+
+// As ByShift, for shifts of up to 14: the rest of a division fits a word.
+class WordsByShift {
+ public:
+  explicit WordsByShift(const FilterRounding& r)
+      : shift_(r.shift),
+        mask_(broadcast(static_cast<int16_t>(r.mask))),
+        bias_(broadcast(static_cast<int16_t>(r.half - 1))) {}
+
+  S16 operator()(S16 sum) const {
+    const S16 quotient = sum >> shift_;
+    const S16 rest = (sum & mask_) + bias_ + (quotient & broadcast<int16_t>(1));
+    return quotient + (rest >> shift_);
+  }
+
+ private:
+  Shift shift_;
+  S16 mask_, bias_;
+};
+
+struct WordsAsTheyAre {
+  S16 operator()(S16 sum) const { return sum; }
+};
+
+class WordsByScale {
+ public:
+  explicit WordsByScale(const FilterRounding& r) : scale_(r) {}
+
+  S16 operator()(S16 sum) const {
+    return packed<int16_t>(scale_(widened<int32_t>(sum)), scale_(widened<int32_t>(upperHalf(sum))));
+  }
+
+ private:
+  ByScale scale_;
+};
+
+template <typename Divide>
+void filterWordSums(const FilterTaps& taps, FilterSource src, Byte* dst, size_t samples,
+                    const Divide& divide) {
+  inBlocks<16, 8>(samples, [&](auto count, size_t i) {
+    constexpr int vectors = decltype(count)::value / 8;
+    const WordSums<vectors> sums = wordSumsOf<vectors>(taps, src.at(i));
+    const S16 first = divide(sums.at[0]);
+    if constexpr (vectors == 2)
+      store16(dst + i, packed<uint8_t>(first, divide(sums.at[1])).v);
+    else
+      storeLow8(dst + i, packed<uint8_t>(first, first).v);
+  });
+}
+
+constexpr int kMostWordShift = 14;
+
 template <typename T>
 using WideSum = std::conditional_t<sizeof(T) == 1, int32_t, int64_t>;
 
@@ -183,6 +260,18 @@ void filterWide(const FilterTaps& taps, const FilterRounding& rounding, FilterSo
     filterBlocks<T>(taps, src, dst, samples, ByShift(rounding));
   else
     filterBlocks<T>(taps, src, dst, samples, ByScale(rounding));
+}
+
+void filterWideSmall(const FilterTaps& taps, const FilterRounding& rounding, FilterSource src, uint8_t* dst,
+                     size_t samples) {
+  if (rounding.shift > kMostWordShift)
+    filterWide<uint8_t>(taps, rounding, src, dst, samples);
+  else if (rounding.shift > 0)
+    filterWordSums(taps, src, dst, samples, WordsByShift(rounding));
+  else if (rounding.divisorKind == FilterRounding::One)
+    filterWordSums(taps, src, dst, samples, WordsAsTheyAre());
+  else
+    filterWordSums(taps, src, dst, samples, WordsByScale(rounding));
 }
 
 template <typename T>

@@ -42,6 +42,10 @@ template <typename T>
 void filterWide(const FilterTaps& taps, const FilterRounding& rounding, FilterSource src, uint8_t* dst,
                 size_t samples);
 
+// The same for 8-bit samples and taps of -128..127, whose magnitudes add up to at most 128.
+void filterWideSmall(const FilterTaps& taps, const FilterRounding& rounding, FilterSource src, uint8_t* dst,
+                     size_t samples);
+
 // The narrow form, for any number of samples.
 template <typename T>
 void filterNarrow(const FilterTaps& taps, const FilterRounding& rounding, FilterSource src, uint8_t* dst,

@@ -192,7 +192,8 @@ class Bench {
   Arena spec_{1 << 15}, buffer_{1 << 18}, src_{1 << 17}, dst_{1 << 17};
 };
 
-enum class Taps { Small, Any, Unpacked, Weights };
+// Few: magnitudes that add up to 127, 128 or 129, for which 8-bit images may be summed in 16 bits.
+enum class Taps { Small, Any, Unpacked, Weights, Few };
 
 FilterKernel wholeKernel(Random& random, LumiSize size, Taps taps, int divisor) {
   FilterKernel k{size, {}, {}, divisor, random.below(3)};
@@ -201,6 +202,18 @@ FilterKernel wholeKernel(Random& random, LumiSize size, Taps taps, int divisor) 
     if (taps == Taps::Small) tap = static_cast<Lum16s>(random.between(-9, 9));
     if (taps == Taps::Weights) tap = static_cast<Lum16s>(random.between(0, 20));
     if (taps == Taps::Any || taps == Taps::Unpacked) tap = static_cast<Lum16s>(random.between(-32767, 32766));
+  }
+  if (taps == Taps::Few) {
+    const int sign = random.pick(std::vector<int>{-1, 1, 0});
+    const int sum = random.between(126, 129), most = random.pick(std::vector<int>{1, 40, 129});
+    for (int left = sum; left > 0;) {
+      const int more = std::min(left, random.between(1, most)),
+                at = random.below(static_cast<int>(k.whole.size()));
+      Lum16s& tap = k.whole[static_cast<size_t>(at)];
+      const int direction = tap != 0 ? tap : sign != 0 ? sign : random.between(0, 1) * 2 - 1;
+      tap = static_cast<Lum16s>(direction < 0 ? tap - more : tap + more);
+      left -= more;
+    }
   }
   if (taps == Taps::Unpacked) {
     const int at = random.below(static_cast<int>(k.whole.size()));
@@ -284,9 +297,9 @@ TYPED_TEST(FilterBorder, WholeKernels) {
   if constexpr (std::is_integral_v<TypeParam>) {
     for (const LumiSize size : kKernels)
       for (const int channels : {1, 3, 4})
-        for (int i = 0; i < settings().scaled(60) && !this->HasFailure(); ++i) {
-          const auto taps = this->random_.pick(
-              std::vector<Taps>{Taps::Small, Taps::Small, Taps::Any, Taps::Unpacked, Taps::Weights});
+        for (int i = 0; i < settings().scaled(80) && !this->HasFailure(); ++i) {
+          const auto taps = this->random_.pick(std::vector<Taps>{Taps::Small, Taps::Small, Taps::Any,
+                                                                 Taps::Unpacked, Taps::Weights, Taps::Few});
           this->expectModel(channels, anyTrial(this->random_, wholeKernel(this->random_, size, taps,
                                                                           this->random_.pick(kDivisors))));
         }
