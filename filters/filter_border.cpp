@@ -18,6 +18,7 @@ namespace {
 using namespace check;
 
 constexpr int kBorderModeMask = 15;
+constexpr int kLeastStrip = 4;  // rows of a strip that is worth the turn
 
 template <typename T>
 LumStatus stepsOfRows(int srcStep, int dstStep, LumiSize roi) {
@@ -187,14 +188,31 @@ class FilterRun {
         from, pixelAt(dst_, to.x, to.y));
   }
 
+  // Strips at the sides are done by columns, if their sums fit into 32 bits.
+  bool filterStrip(Rows<const Byte> from, Rows<Byte> to, size_t samples, int height) const {
+    const FilterTaps taps = tapsOf(object_);
+    if (samples >= 8 || !fitsStrip(taps, static_cast<int>(samples), Layout::kStored)) return false;
+    const FilterSource src{from.first, from.step, Layout::kStored};
+    const FilterStrip strip{to.first, to.step, static_cast<int>(samples), height};
+    if constexpr (std::is_same_v<T, Lum8u> || std::is_same_v<T, Lum16s>)
+      if (usesWholeTaps<T>(object_)) {
+        if (sizeof(T) == 2 && !object_.fitsWords) return false;
+        filterNarrowStrip<T>(taps, roundingOf(object_), src, strip);
+        return true;
+      }
+    filterNarrowFloatStrip<T>(taps, object_.roundMode, src, strip);
+    return true;
+  }
+
   void filterRow(bool wide, FilterSource src, Byte* dst, size_t samples) const {
     const FilterTaps taps = tapsOf(object_);
     if constexpr (std::is_same_v<T, Lum8u> || std::is_same_v<T, Lum16s>)
       if (usesWholeTaps<T>(object_)) {
         if constexpr (sizeof(T) == 1)
           if (wide && object_.fitsBytes) return filterWideSmall(taps, roundingOf(object_), src, dst, samples);
+        const bool packed = object_.fitsPacked && (sizeof(T) == 1 || object_.fitsWords);
         return wide ? filterWide<T>(taps, roundingOf(object_), src, dst, samples)
-                    : filterNarrow<T>(taps, roundingOf(object_), src, dst, samples);
+                    : filterNarrow<T>(taps, roundingOf(object_), src, dst, samples, packed);
       }
     if (wide)
       filterWideFloats<T>(taps, src, dst, samples);

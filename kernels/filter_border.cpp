@@ -7,6 +7,7 @@
 #include <type_traits>
 
 #include "kernels/filter_blocks.hpp"
+#include "kernels/filter_columns.hpp"
 #include "kernels/simd/filter.hpp"
 
 namespace lumi {
@@ -251,6 +252,12 @@ int64_t divided(int64_t sum, const FilterRounding& r) {
   return rounded<T>(static_cast<double>(sum) / r.divisorD, r.mode == 1);
 }
 
+template <typename T>
+T sampleOf(int64_t sum, const FilterRounding& r) {
+  using Limits = std::numeric_limits<T>;
+  return static_cast<T>(std::clamp<int64_t>(divided<T>(sum, r), Limits::min(), Limits::max()));
+}
+
 }  // namespace
 
 template <typename T>
@@ -276,18 +283,35 @@ void filterWideSmall(const FilterTaps& taps, const FilterRounding& rounding, Fil
 
 template <typename T>
 void filterNarrow(const FilterTaps& taps, const FilterRounding& rounding, FilterSource src, uint8_t* dst,
-                  size_t samples) {
-  using Limits = std::numeric_limits<T>;
-  for (size_t i = 0; i < samples; ++i) {
-    const int64_t result = divided<T>(sumAt<T>(taps, src.at(i * sizeof(T))), rounding);
-    const T sample = static_cast<T>(std::clamp<int64_t>(result, Limits::min(), Limits::max()));
+                  size_t samples, bool packed) {
+  const auto store = [&](size_t i, int64_t sum) {
+    const T sample = sampleOf<T>(sum, rounding);
     move<sizeof(T)>(dst + i * sizeof(T), reinterpret_cast<const Byte*>(&sample));
-  }
+  };
+  if (packed && samples >= 8)
+    return inBlocks<8, 8>(samples, [&](auto, size_t first) {
+      const Sums<2> sums = sumsOf<2, T>(taps, src.at(first * sizeof(T)));
+      int32_t each[8];
+      for (int i = 0; i < 2; ++i) store16(reinterpret_cast<Byte*>(each + 4 * i), sums.at[i].v);
+      for (size_t i = 0; i < 8; ++i) store(first + i, each[i]);
+    });
+  for (size_t i = 0; i < samples; ++i) store(i, sumAt<T>(taps, src.at(i * sizeof(T))));
+}
+
+template <typename T>
+void filterNarrowStrip(const FilterTaps& taps, const FilterRounding& rounding, FilterSource src,
+                       FilterStrip dst) {
+  filterColumns<T, uint32_t>(taps, taps.whole, src, dst,
+                             [&](uint32_t sum) { return sampleOf<T>(static_cast<int32_t>(sum), rounding); });
 }
 
 template void filterWide<uint8_t>(const FilterTaps&, const FilterRounding&, FilterSource, uint8_t*, size_t);
 template void filterWide<int16_t>(const FilterTaps&, const FilterRounding&, FilterSource, uint8_t*, size_t);
-template void filterNarrow<uint8_t>(const FilterTaps&, const FilterRounding&, FilterSource, uint8_t*, size_t);
-template void filterNarrow<int16_t>(const FilterTaps&, const FilterRounding&, FilterSource, uint8_t*, size_t);
+template void filterNarrow<uint8_t>(const FilterTaps&, const FilterRounding&, FilterSource, uint8_t*, size_t,
+                                    bool);
+template void filterNarrow<int16_t>(const FilterTaps&, const FilterRounding&, FilterSource, uint8_t*, size_t,
+                                    bool);
+template void filterNarrowStrip<uint8_t>(const FilterTaps&, const FilterRounding&, FilterSource, FilterStrip);
+template void filterNarrowStrip<int16_t>(const FilterTaps&, const FilterRounding&, FilterSource, FilterStrip);
 
 }  // namespace lumi

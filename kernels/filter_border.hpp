@@ -46,10 +46,28 @@ void filterWide(const FilterTaps& taps, const FilterRounding& rounding, FilterSo
 void filterWideSmall(const FilterTaps& taps, const FilterRounding& rounding, FilterSource src, uint8_t* dst,
                      size_t samples);
 
-// The narrow form, for any number of samples.
+// A rectangle of the result, of less than eight samples in a row.
+struct FilterStrip {
+  uint8_t* first;
+  ptrdiff_t step;
+  int samples, rows;
+};
+// What strips are done together for: columns of samples under the kernel, and rows of taps.
+inline constexpr int kMostStripColumns = 48, kMostStripRows = 32;
+inline bool fitsStrip(const FilterTaps& taps, int samples, int channels) {
+  return samples < 8 && taps.columns <= 16 && samples + (taps.columns - 1) * channels <= kMostStripColumns &&
+         taps.rows <= kMostStripRows;
+}
+
+// The narrow form, for any number of samples. Where packed taps and sums of 32 bits are enough, sums are made
+// in vectors.
 template <typename T>
 void filterNarrow(const FilterTaps& taps, const FilterRounding& rounding, FilterSource src, uint8_t* dst,
-                  size_t samples);
+                  size_t samples, bool packed);
+// The same for a strip, for sums of 32 bits.
+template <typename T>
+void filterNarrowStrip(const FilterTaps& taps, const FilterRounding& rounding, FilterSource src,
+                       FilterStrip dst);
 
 // The wide form of float taps, for at least eight samples of type T, or four if T is float. Sums are made in
 // this order: row after row, in each the columns from the left, starting from 0; where the kernel has eight
@@ -62,5 +80,8 @@ void filterWideFloats(const FilterTaps& taps, FilterSource src, uint8_t* dst, si
 template <typename T>
 void filterNarrowFloats(const FilterTaps& taps, int roundMode, FilterSource src, uint8_t* dst,
                         size_t samples);
+
+template <typename T>
+void filterNarrowFloatStrip(const FilterTaps& taps, int roundMode, FilterSource src, FilterStrip dst);
 
 }  // namespace lumi

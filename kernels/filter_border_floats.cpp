@@ -6,6 +6,7 @@
 
 #include "kernels/filter_blocks.hpp"
 #include "kernels/filter_border.hpp"
+#include "kernels/filter_columns.hpp"
 #include "kernels/simd/filter.hpp"
 
 namespace lumi {
@@ -214,9 +215,16 @@ void filterNarrowFloats(const FilterTaps& taps, int roundMode, FilterSource src,
   }
 }
 
-#define LUMI_FILTER_FLOATS(T)                                                           \
-  template void filterWideFloats<T>(const FilterTaps&, FilterSource, uint8_t*, size_t); \
-  template void filterNarrowFloats<T>(const FilterTaps&, int, FilterSource, uint8_t*, size_t);
+template <typename T>
+void filterNarrowFloatStrip(const FilterTaps& taps, int roundMode, FilterSource src, FilterStrip dst) {
+  filterColumns<T, float>(taps, taps.floats, src, dst,
+                          [=](float sum) { return sampleOf<T>(sum, roundMode); });
+}
+
+#define LUMI_FILTER_FLOATS(T)                                                                  \
+  template void filterWideFloats<T>(const FilterTaps&, FilterSource, uint8_t*, size_t);        \
+  template void filterNarrowFloats<T>(const FilterTaps&, int, FilterSource, uint8_t*, size_t); \
+  template void filterNarrowFloatStrip<T>(const FilterTaps&, int, FilterSource, FilterStrip);
 LUMI_FILTER_FLOATS(uint8_t)
 LUMI_FILTER_FLOATS(uint16_t)
 LUMI_FILTER_FLOATS(int16_t)
