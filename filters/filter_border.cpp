@@ -93,7 +93,7 @@ class FilterRun {
   void run() const {
     if (mode() == lumiBorderInMemory) return filter(pixelAt(src_, -left_, -top_), {0, 0}, roi_);
     if (roi_.height < top_ + bottom_) return filterSmall();
-    filterStrips();
+    filterTopAndBottom();
     const LumiSize middle{roi_.width, roi_.height - top_ - bottom_};
     if (middle.height == 0) return;
     if (roi_.width > left_ + right_ + 1)
@@ -144,7 +144,7 @@ class FilterRun {
     filter(border({0, 0}, roi_, {left_, top_}, {right_, bottom_}, image, paddedStep()), {0, 0}, roi_);
   }
 
-  void filterStrips() const {
+  void filterTopAndBottom() const {
     const int rows = top_ + bottom_, width = roi_.width + left_ + right_;
     if (top_ > 0)
       filter(
@@ -180,16 +180,20 @@ class FilterRun {
   void filter(Rows<const Byte> from, LumiPoint to, LumiSize size) const {
     const bool wide = size.width >= leastWideWidth<T, Layout>(object_);
     const size_t samples = static_cast<size_t>(size.width) * Layout::kStored;
+    const Rows<Byte> rows = pixelAt(dst_, to.x, to.y);
+    if (!wide && size.height >= kLeastStrip && filterByColumns(from, rows, samples, size.height)) return;
+    const FilterTaps taps = tapsOf(object_);
+    const FilterRounding rounding = roundingOf(object_);
     walkRows(
         size.height,
         [&](const Byte* s, Byte* d) {
-          filterRow(wide, {s, from.step, Layout::kStored}, d, samples);
+          filterRow(taps, rounding, wide, {s, from.step, Layout::kStored}, d, samples);
         },
-        from, pixelAt(dst_, to.x, to.y));
+        from, rows);
   }
 
   // Strips at the sides are done by columns, if their sums fit into 32 bits.
-  bool filterStrip(Rows<const Byte> from, Rows<Byte> to, size_t samples, int height) const {
+  bool filterByColumns(Rows<const Byte> from, Rows<Byte> to, size_t samples, int height) const {
     const FilterTaps taps = tapsOf(object_);
     if (samples >= 8 || !fitsStrip(taps, static_cast<int>(samples), Layout::kStored)) return false;
     const FilterSource src{from.first, from.step, Layout::kStored};
@@ -204,20 +208,20 @@ class FilterRun {
     return true;
   }
 
-  void filterRow(bool wide, FilterSource src, Byte* dst, size_t samples) const {
-    const FilterTaps taps = tapsOf(object_);
+  void filterRow(const FilterTaps& taps, const FilterRounding& rounding, bool wide, FilterSource src,
+                 Byte* dst, size_t samples) const {
     if constexpr (std::is_same_v<T, Lum8u> || std::is_same_v<T, Lum16s>)
       if (usesWholeTaps<T>(object_)) {
         if constexpr (sizeof(T) == 1)
-          if (wide && object_.fitsBytes) return filterWideSmall(taps, roundingOf(object_), src, dst, samples);
+          if (wide && object_.fitsBytes) return filterWideSmall(taps, rounding, src, dst, samples);
+        if (wide) return filterWide<T>(taps, rounding, src, dst, samples);
         const bool packed = object_.fitsPacked && (sizeof(T) == 1 || object_.fitsWords);
-        return wide ? filterWide<T>(taps, roundingOf(object_), src, dst, samples)
-                    : filterNarrow<T>(taps, roundingOf(object_), src, dst, samples, packed);
+        return filterNarrow<T>(taps, rounding, src, dst, samples, packed);
       }
     if (wide)
       filterWideFloats<T>(taps, src, dst, samples);
     else
-      filterNarrowFloats<T>(taps, object_.roundMode, src, dst, samples);
+      filterNarrowFloats<T>(taps, rounding.mode, src, dst, samples);
   }
 
   const FilterBorderObject& object_;

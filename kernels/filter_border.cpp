@@ -56,7 +56,7 @@ void addSingle(Sums<vectors>& sums, const T*, const Byte* a, S16 taps) {
 }
 
 template <int vectors, typename T>
-Sums<vectors> sumsOf(const FilterTaps& taps, FilterSource src) {
+[[gnu::always_inline]] inline Sums<vectors> sumsOf(const FilterTaps& taps, FilterSource src) {
   constexpr const T* type = nullptr;
   const ptrdiff_t column = src.channels * static_cast<ptrdiff_t>(sizeof(T));
   const Byte* packed = reinterpret_cast<const Byte*>(taps.packed);
@@ -131,7 +131,7 @@ struct WordSums {
 };
 
 template <int vectors>
-WordSums<vectors> wordSumsOf(const FilterTaps& taps, FilterSource src) {
+[[gnu::always_inline]] inline WordSums<vectors> wordSumsOf(const FilterTaps& taps, FilterSource src) {
   const Byte* packed = reinterpret_cast<const Byte*>(taps.packed);
   WordSums<vectors> sums;
   const auto add = [&](U8 x, U8 y) {

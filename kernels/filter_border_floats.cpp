@@ -51,7 +51,7 @@ void addColumns(Floats (&sums)[vectors], const FilterTaps& taps, FilterSource sr
 
 // A block of a float image, with all its sums in registers.
 template <typename Floats, int vectors>
-void filterFloatBlock(const FilterTaps& taps, FilterSource src, Byte* dst) {
+[[gnu::always_inline]] inline void filterFloatBlock(const FilterTaps& taps, FilterSource src, Byte* dst) {
   Floats sums[vectors];
   for (Floats& sum : sums) sum = broadcastFloat<Floats>(0);
   const Columns blocks = blocksOf(taps), tail = tailOf(taps);
