@@ -288,6 +288,10 @@ void filterNarrow(const FilterTaps& taps, const FilterRounding& rounding, Filter
     const T sample = sampleOf<T>(sum, rounding);
     move<sizeof(T)>(dst + i * sizeof(T), reinterpret_cast<const Byte*>(&sample));
   };
+  // To nearest, ties to even, both forms are the same but for divisors that are no power of two.
+  const bool asWide = rounding.divisorKind == FilterRounding::One ||
+                      (rounding.divisorKind == FilterRounding::PowerOfTwo && rounding.mode == 1);
+  if (packed && samples >= 8 && asWide) return filterWide<T>(taps, rounding, src, dst, samples);
   if (packed && samples >= 8)
     return inBlocks<8, 8>(samples, [&](auto, size_t first) {
       const Sums<2> sums = sumsOf<2, T>(taps, src.at(first * sizeof(T)));

@@ -69,7 +69,7 @@ template <typename Floats, int vectors>
 // nearest cache.
 constexpr int kPiece = 256, kMostChannels = 4;
 struct Piece {
-  alignas(32) float samples[kPiece + 8 * kMostChannels] = {};
+  alignas(32) float samples[kPiece + 8 * kMostChannels + 8];  // a vector behind the last one is written
   alignas(32) float sums[kPiece];
   alignas(32) float others[kPiece];
 };
@@ -120,13 +120,14 @@ void addToSums(float* sums, const float* samples, int channels, const float* tap
 template <typename T>
 void sumColumns(Piece& piece, float* sums, const FilterTaps& taps, FilterSource src, Columns columns,
                 size_t samples) {
-  std::fill_n(sums, kPiece, 0.0F);
+  std::fill_n(sums, (samples + 7) & ~size_t{7}, 0.0F);
   const ptrdiff_t column = src.channels * static_cast<ptrdiff_t>(sizeof(T));
   for (int y = 0; y < taps.rows; ++y)
     for (int x = columns.first; x < columns.end; x += 8) {
       const int count = std::min(8, columns.end - x);
-      toFloats<T>(src.first + y * src.step + x * column, piece.samples,
-                  samples + static_cast<size_t>((count - 1) * src.channels));
+      const size_t covered = samples + static_cast<size_t>((count - 1) * src.channels);
+      toFloats<T>(src.first + y * src.step + x * column, piece.samples, covered);
+      storeFloats(reinterpret_cast<Byte*>(piece.samples + covered), broadcastFloat<Floats8>(0));
       const float* const tap = tapAt(taps, y, x);
       size_t i = 0;
       for (; i + 32 <= samples; i += 32) addToSums<4>(sums + i, piece.samples + i, src.channels, tap, count);
