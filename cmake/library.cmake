@@ -32,7 +32,8 @@ lumi_sources(frame attach image_memory version streaming)
 lumi_sources(data set copy copy_channels border convert scale bits)
 lumi_sources(arithmetic add_sub)
 lumi_kernels(masked chosen planes pattern)  # not of one family alone
-lumi_kernels(convert_floats convert_scaled)
+lumi_sources(filters filter_border filter_border_object)
+lumi_kernels(convert_floats convert_scaled filter_border_floats)
 
 # The date of the version record: SOURCE_DATE_EPOCH where it is set, so that builds can be repeated.
 string(TIMESTAMP LUMI_BUILD_DATE "%b %d %Y" UTC)

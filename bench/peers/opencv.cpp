@@ -114,4 +114,12 @@ Peer border(View src, View dst, int top, int left, Border kind, Value value) {
   });
 }
 
+Peer filter(View src, View dst, std::vector<float> taps, LumiSize size) {
+  const cv::Mat kernel = cv::Mat(size.height, size.width, CV_32F, taps.data()).clone();
+  cv::Mat d = mat(dst);
+  return peer("opencv", [s = mat(src), d, kernel] {
+    cv::filter2D(s, d, d.depth(), kernel, cv::Point(-1, -1), 0, cv::BORDER_REPLICATE);
+  });
+}
+
 }  // namespace bench::opencv

@@ -31,5 +31,7 @@ namespace bench::opencv {
 [[gnu::weak]] Peer convert(View src, View dst);
 enum class Border { constant, replicate, wrap };
 [[gnu::weak]] Peer border(View src, View dst, int top, int left, Border kind, Value value);
+// Correlation with a kernel of floats, to the type of dst; the nearest pixel is repeated outside.
+[[gnu::weak]] Peer filter(View src, View dst, std::vector<float> taps, LumiSize size);
 
 }  // namespace bench::opencv

@@ -74,6 +74,13 @@ enum {
   lumiBorderInMemoryRight = 0x80   /**< flag: columns to the right are in memory */
 };
 
+/** A sample type as an argument. Each operation tells which ones it takes. */
+typedef int32_t LumiDataType;
+enum { lumiData8u = 1, lumiData16u = 5, lumiData16s = 7, lumiData32s = 11, lumiData32f = 13, lumiData64f = 19 };
+
+/** A kernel made ready for lumiFilterBorder, in memory of the caller's. */
+typedef struct LumiFilterBorderSpec LumiFilterBorderSpec;
+
 /** 2 asks for the accurate way of an operation that has two; any other value for the fast one. */
 typedef int32_t LumAlgorithmHint;
 
