@@ -12,6 +12,7 @@
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"
 #include "lumi/image_memory.h"
+#include "lumi/resize.h"
 #include "lumi/scale.h"
 #include "lumi/set.h"
 #include "lumi/version.h"

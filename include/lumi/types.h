@@ -54,8 +54,48 @@ enum {
   lumRoundHalfAway = 2     /**< to the nearest integer, ties away from zero */
 };
 
+/**
+ * Where samples outside an image come from: a type, and flags of the sides where they are in memory. On flagged
+ * sides the real samples are used, on the others the type decides; all four flags are the same as
+ * lumiBorderInMemory. Each operation tells which types it takes.
+ */
+typedef int32_t LumiBorderType;
+enum {
+  lumiBorderConst = 0,       /**< a constant given by the caller */
+  lumiBorderReplicate = 1,   /**< the nearest edge sample */
+  lumiBorderMirror = 3,      /**< reflected about the edge sample: -1 takes 1, -2 takes 2 */
+  lumiBorderMirrorEdge = 4,  /**< reflected with the edge sample repeated: -1 takes 0, -2 takes 1 */
+  lumiBorderInMemory = 6,    /**< the samples outside are in memory and are read */
+  lumiBorderTransparent = 7, /**< destination pixels that have no source pixel stay */
+
+  lumiBorderInMemoryTop = 0x10,    /**< flag: rows above are in memory */
+  lumiBorderInMemoryBottom = 0x20, /**< flag: rows below are in memory */
+  lumiBorderInMemoryLeft = 0x40,   /**< flag: columns to the left are in memory */
+  lumiBorderInMemoryRight = 0x80   /**< flag: columns to the right are in memory */
+};
+
 /** 2 asks for the accurate way of an operation that has two; any other value for the fast one. */
 typedef int32_t LumAlgorithmHint;
+
+/** How a resize finds a destination pixel. Each operation tells which ones it takes. */
+typedef int32_t LumiInterpolationType;
+enum {
+  lumInterpNone = 0,    /**< always refused */
+  lumInterpNearest = 1, /**< the nearest source pixel */
+  lumInterpLinear = 2,  /**< two taps an axis */
+  lumInterpCubic = 6,   /**< four taps an axis */
+  lumInterpSuper = 8,   /**< average of the covered area; only to smaller sizes */
+  lumInterpLanczos = 16 /**< two or three lobes */
+};
+
+/** Source pixels that an operation reads outside a tile, on each side. */
+typedef struct {
+  Lum32u left, top, right, bottom;
+} LumiBorderSize;
+
+/** Plans of a resize, in memory of the caller's: of 8u, 16u, 16s and 32f, and of 64f. */
+typedef struct LumiResizeSpec LumiResizeSpec;
+typedef struct LumiResizeSpec64f LumiResizeSpec64f;
 
 /** What lumiGetLibVersion returns: a constant record. */
 typedef struct {
