@@ -195,18 +195,27 @@ TEST(ResizeSpec, ScratchFollowsFromTheTile) {
     }
 }
 
-// Rows of four channels and 2^25 columns: two of 2^29 bytes, but of 64f more than 2^31.
+// Two rows of four channels and 2^26 columns are 2^31 bytes; the plan of so wide a destination is made from a
+// small one by another destination width.
 TEST(ResizeSpec, ScratchBeyond31BitsIsRefused) {
-  const int width = 1 << 25;
-  for (const std::string& type : kTypes) {
-    const PlanMemory plan("Linear", type, {2, 2}, {width, 1});
-    ASSERT_EQ(plan.status, lumStatusOk);
-    Lum32s bytes = kUnset;
-    const bool fits = type != "64f";
-    EXPECT_EQ(getBufferSize(type, plan.at, {width, 1}, 4, &bytes).run(),
-              fits ? lumStatusOk : lumStatusBadSize);
-    EXPECT_EQ(bytes == kUnset, !fits);
-  }
+  constexpr int32_t kWidth = 12347;
+  for (const std::string& type : kTypes)
+    for (int width : {1 << 20, 1 << 26}) {
+      const PlanMemory plan("Linear", type, {2, 2}, {kWidth, 1});
+      auto* const words = reinterpret_cast<int32_t*>((reinterpret_cast<uintptr_t>(plan.at) + 63) / 64 * 64);
+      int changed = 0;
+      for (int i = 0; i < 29; ++i)
+        if (words[i] == kWidth) {
+          words[i] = width;
+          ++changed;
+        }
+      ASSERT_GE(changed, 1);
+      Lum32s bytes = kUnset;
+      const bool fits = width == 1 << 20;
+      EXPECT_EQ(getBufferSize(type, plan.at, {width, 1}, 4, &bytes).run(),
+                fits ? lumStatusOk : lumStatusBadSize);
+      EXPECT_EQ(bytes == kUnset, !fits);
+    }
 }
 
 TEST(ResizeSpec, OffsetsAndRoisFollowFromTheSizes) {

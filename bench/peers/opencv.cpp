@@ -106,4 +106,15 @@ Peer above(View src, double threshold) {
   return peer("opencv", [s = mat(src), bytes, threshold] { cv::compare(s, threshold, bytes, cv::CMP_GT); });
 }
 
+Peer resizeNearest(View src, View dst) {
+  return peer("opencv", [s = mat(src), d = mat(dst)]() mutable {
+    cv::resize(s, d, d.size(), 0, 0, cv::INTER_NEAREST);
+  });
+}
+
+Peer resizeLinear(View src, View dst) {
+  return peer("opencv",
+              [s = mat(src), d = mat(dst)]() mutable { cv::resize(s, d, d.size(), 0, 0, cv::INTER_LINEAR); });
+}
+
 }  // namespace bench::opencv

@@ -29,5 +29,8 @@ namespace bench::opencv {
 [[gnu::weak]] Peer above(View src, double threshold);
 // To the destination's type.
 [[gnu::weak]] Peer convert(View src, View dst);
+// To the destination's size.
+[[gnu::weak]] Peer resizeNearest(View src, View dst);
+[[gnu::weak]] Peer resizeLinear(View src, View dst);
 
 }  // namespace bench::opencv
