@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
-#include <cmath>
+#include <memory>
 
 #include "bench/harness.hpp"
 #include "bench/peers/opencv.hpp"
@@ -9,26 +9,26 @@
 namespace bench {
 namespace {
 
-// A plan and the scratch of a run over the whole destination.
+// A plan and the scratch of a run over the whole destination. A plan must not be copied: calls share it.
 struct Plan {
   std::vector<Lum8u> object, buffer;
   LumiResizeSpec* spec() { return reinterpret_cast<LumiResizeSpec*>(object.data()); }
 };
 
 template <typename T, bool linear>
-Plan planOf(LumiSize src, LumiSize dst, int channels) {
-  Plan plan;
+std::shared_ptr<Plan> planOf(LumiSize src, LumiSize dst, int channels) {
+  const auto plan = std::make_shared<Plan>();
   Lum32s bytes = 0, unused = 0;
   lumiResizeGetSize_8u(src, dst, linear ? lumInterpLinear : lumInterpNearest, 0, &bytes, &unused);
-  plan.object.resize(static_cast<std::size_t>(bytes));
+  plan->object.resize(static_cast<std::size_t>(bytes));
   if constexpr (!linear)
-    lumiResizeNearestInit_8u(src, dst, plan.spec());
+    lumiResizeNearestInit_8u(src, dst, plan->spec());
   else if constexpr (sizeof(T) == 1)
-    lumiResizeLinearInit_8u(src, dst, plan.spec());
+    lumiResizeLinearInit_8u(src, dst, plan->spec());
   else
-    lumiResizeLinearInit_32f(src, dst, plan.spec());
-  lumiResizeGetBufferSize_8u(plan.spec(), dst, static_cast<Lum32u>(channels), &bytes);
-  plan.buffer.resize(static_cast<std::size_t>(bytes));
+    lumiResizeLinearInit_32f(src, dst, plan->spec());
+  lumiResizeGetBufferSize_8u(plan->spec(), dst, static_cast<Lum32u>(channels), &bytes);
+  plan->buffer.resize(static_cast<std::size_t>(bytes));
   return plan;
 }
 
@@ -114,8 +114,8 @@ Suite::Build nearest(Nearest<T> lumi) {
   return [=](Scene& s) {
     const auto src = s.inputOf<T>(C, kSource);
     const auto dst = s.output<T>(C);
-    s.ours([=, plan = planOf<T, false>(src.roi, dst.roi, C)]() mutable {
-      lumi(src.data(), src.step, dst.data(), dst.step, {0, 0}, dst.roi, plan.spec(), plan.buffer.data());
+    s.ours([=, plan = planOf<T, false>(src.roi, dst.roi, C)] {
+      lumi(src.data(), src.step, dst.data(), dst.step, {0, 0}, dst.roi, plan->spec(), plan->buffer.data());
     });
     constexpr const char* kWhy = "takes other pixels where two are equally near";
     addPeer(s, opencv::resizeNearest, kWhy, src, dst);
@@ -130,9 +130,9 @@ Suite::Build linear(Linear<T> lumi) {
   return [=](Scene& s) {
     const auto src = s.inputOf<T>(C, kSource);
     const auto dst = s.output<T>(C);
-    s.ours([=, plan = planOf<T, true>(src.roi, dst.roi, C)]() mutable {
+    s.ours([=, plan = planOf<T, true>(src.roi, dst.roi, C)] {
       lumi(src.data(), src.step, dst.data(), dst.step, {0, 0}, dst.roi, lumiBorderReplicate, nullptr,
-           plan.spec(), plan.buffer.data());
+           plan->spec(), plan->buffer.data());
     });
     addPeer(s, opencv::resizeLinear, "rounds in other steps", src, dst);
     addPeer(s, yuv::resizeLinear, "has weights of fewer bits", src, dst);
