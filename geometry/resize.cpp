@@ -109,13 +109,23 @@ class LinearTile {
 
   void run(LumiBorderType border, Lum8u* buffer) {
     if (!isAllInMemory(border)) runEdges(border);
-    if (middleX_.count() > 0 && middleY_.count() > 0) runMiddle(buffer);
+    if (middleX_.count() <= 0 || middleY_.count() <= 0) return;
+    if constexpr (sizeof(T) == 1) {
+      if (isHalved(plan_.horizontal) && isHalved(plan_.vertical)) return runHalved();
+    }
+    runMiddle(buffer);
   }
 
  private:
   using Element = BlendElement<T>;
   using Blender = ColumnBlender<T, channels>;
   static constexpr int kPixel = channels * static_cast<int>(sizeof(T));
+
+  // Every position lies in the middle of two.
+  template <typename Axis>
+  static bool isHalved(const Axis& axis) {
+    return axis.reducedDst == 1 && axis.reducedSrc == 2;
+  }
 
   // What is left of a tile's axis between the positions that lie before the first source position and those
   // at or beyond the last one.
@@ -166,6 +176,13 @@ class LinearTile {
 
   TileColumns<T> middleColumns() const {
     return columns_.from(static_cast<size_t>(middleX_.first), static_cast<size_t>(middleX_.count()));
+  }
+
+  void runHalved() {
+    const int column = middleColumns().index[0];
+    for (int y = middleY_.first; y < middleY_.end; ++y)
+      halveRows<channels>(sourcePixel(rowIndex(y), column), sourcePixel(rowIndex(y) + 1, column),
+                          pixel(y, middleX_.first), static_cast<size_t>(middleX_.count()));
   }
 
   // Two rows of blended columns are kept; each source row is blended once for all rows that need it.

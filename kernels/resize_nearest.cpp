@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "kernels/simd/samples.hpp"
+#include "kernels/simd/resize.hpp"
 
 namespace lumi {
 namespace {
@@ -34,6 +34,13 @@ bool suitsWindows(const int32_t* index, size_t columns, size_t pixelBytes) {
   if (columns < each || reach(index, columns, pixelBytes) < kBlock) return false;
   for (size_t x = 0; x < columns; x += each)
     if (reach(index + std::min(x, columns - each), each, pixelBytes) > kReach) return false;
+  return true;
+}
+
+// Whether no column between two that are picked is left out.
+bool isClose(const int32_t* index, size_t columns) {
+  for (size_t x = 1; x < columns; ++x)
+    if (index[x] - index[x - 1] > 1) return false;
   return true;
 }
 
@@ -69,8 +76,20 @@ void pickByWindows(const Byte* src, Byte* dst, const Byte* windows, size_t colum
   if (columns % each != 0) store16(dst + columns * pixelBytes - kBlock, blockOf(src, windows));
 }
 
+// Dwords four at a time. Where four columns never span more than four pixels, they are picked from one
+// vector.
+size_t pickDwords(const Byte* base, Byte* dst, const int32_t* index, size_t columns, bool isClose) {
+  const auto at = [&](size_t x) { return base + static_cast<ptrdiff_t>(index[x]) * 4; };
+  size_t x = 0;
+  if (isClose)
+    for (; x + 4 <= columns && index[x] + 3 <= index[columns - 1]; x += 4)
+      store16(dst + x * 4, pickNear(at(x), index + x));
+  for (; x + 4 <= columns; x += 4) store16(dst + x * 4, gatherDwords(at(x), at(x + 1), at(x + 2), at(x + 3)));
+  return x;
+}
+
 template <size_t pixel>
-void pickOneByOne(const Byte* src, Byte* dst, const int32_t* index, size_t columns) {
+void pickOneByOne(const Byte* src, Byte* dst, const int32_t* index, size_t columns, bool isClose) {
   const auto at = [&](size_t x) {
     return src + static_cast<ptrdiff_t>(index[x]) * static_cast<ptrdiff_t>(pixel);
   };
@@ -80,6 +99,7 @@ void pickOneByOne(const Byte* src, Byte* dst, const int32_t* index, size_t colum
     const int32_t last = index[columns - 1];
     for (; index[x] < last; ++x) move<4>(dst + x * pixel, at(x));
   }
+  if constexpr (pixel == 4) x = pickDwords(src, dst, index, columns, isClose);
   for (; x + 4 <= columns; x += 4)
     for (size_t i = 0; i < 4; ++i) move<pixel>(dst + (x + i) * pixel, at(x + i));
   for (; x < columns; ++x) move<pixel>(dst + x * pixel, at(x));
@@ -89,7 +109,12 @@ void pickOneByOne(const Byte* src, Byte* dst, const int32_t* index, size_t colum
 
 PickedColumns::PickedColumns(const int32_t* index, int32_t origin, size_t columns, size_t pixelBytes,
                              uint8_t* scratch)
-    : index_(index), origin_(origin), columns_(columns), pixelBytes_(pixelBytes), windows_(nullptr) {
+    : index_(index),
+      origin_(origin),
+      columns_(columns),
+      pixelBytes_(pixelBytes),
+      windows_(nullptr),
+      isClose_(isClose(index, columns)) {
   if (!suitsWindows(index, columns, pixelBytes)) return;
   windows_ = scratch;
   const size_t each = kBlock / pixelBytes;
@@ -105,21 +130,21 @@ void PickedColumns::pick(const uint8_t* src, uint8_t* dst) const {
   const Byte* const base = src - static_cast<ptrdiff_t>(origin_) * static_cast<ptrdiff_t>(pixelBytes_);
   switch (pixelBytes_) {
     case 1:
-      return pickOneByOne<1>(base, dst, index_, columns_);
+      return pickOneByOne<1>(base, dst, index_, columns_, isClose_);
     case 2:
-      return pickOneByOne<2>(base, dst, index_, columns_);
+      return pickOneByOne<2>(base, dst, index_, columns_, isClose_);
     case 3:
-      return pickOneByOne<3>(base, dst, index_, columns_);
+      return pickOneByOne<3>(base, dst, index_, columns_, isClose_);
     case 4:
-      return pickOneByOne<4>(base, dst, index_, columns_);
+      return pickOneByOne<4>(base, dst, index_, columns_, isClose_);
     case 6:
-      return pickOneByOne<6>(base, dst, index_, columns_);
+      return pickOneByOne<6>(base, dst, index_, columns_, isClose_);
     case 8:
-      return pickOneByOne<8>(base, dst, index_, columns_);
+      return pickOneByOne<8>(base, dst, index_, columns_, isClose_);
     case 12:
-      return pickOneByOne<12>(base, dst, index_, columns_);
+      return pickOneByOne<12>(base, dst, index_, columns_, isClose_);
     default:
-      return pickOneByOne<16>(base, dst, index_, columns_);
+      return pickOneByOne<16>(base, dst, index_, columns_, isClose_);
   }
 }
 

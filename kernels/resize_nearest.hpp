@@ -21,6 +21,7 @@ class PickedColumns {
   int32_t origin_;
   size_t columns_, pixelBytes_;
   uint8_t* windows_;  // null where columns are picked one by one
+  bool isClose_;      // from one column to the next is one source column at most
 };
 
 }  // namespace lumi

@@ -27,6 +27,13 @@ inline Bytes16 gatherDwords(const Byte* a, const Byte* b, const Byte* c, const B
 inline Bytes16 gatherQuadwords(const Byte* a, const Byte* b) {
   return _mm_castpd_si128(_mm_loadh_pd(_mm_castsi128_pd(loadFew<8>(a)), reinterpret_cast<const double*>(b)));
 }
+// Dwords index[0..3] - index[0], which are 0 to 3, of the four at p.
+inline Bytes16 pickNear(const Byte* p, const int32_t* index) {
+  const Bytes16 control =
+      _mm_sub_epi32(load16(reinterpret_cast<const Byte*>(index)), _mm_set1_epi32(index[0]));
+  return _mm_castps_si128(_mm_permutevar_ps(_mm_castsi128_ps(load16(p)), control));
+}
+inline void store8(Byte* p, Bytes16 v) { _mm_storel_epi64(reinterpret_cast<__m128i*>(p), v); }
 
 // Word i from p.
 template <int i>
