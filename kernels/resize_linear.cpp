@@ -97,7 +97,7 @@ void makeGathers(const TileColumns<uint8_t>& columns, uint8_t* scratch) {
 // Pairs of a sample and its right neighbour to elements.
 S16 blendPairs(Bytes16 pairs, const uint8_t* weights) {
   const S8 difference{broadcast<int16_t>(static_cast<int16_t>(0xC040)).v};  // 64, -64
-  const S16 first{_mm_slli_epi16(both(pairs, broadcast<int16_t>(0xFF).v), 6)};
+  const S16 first = sumOfProducts({pairs}, {broadcast<int16_t>(64).v});
   return first + productRounded(sumOfProducts({pairs}, difference), {load16(weights)});
 }
 
@@ -179,11 +179,16 @@ Bytes16 neighbours(Bytes16 pixels) {
 
 // (a + b + c + d + 2) >> 2 of eight samples: with every weight 2^13, p is 32 (a + b).
 template <int channels>
-void halveBlock(const Byte* first, const Byte* second, Byte* dst) {
+S16 halved(const Byte* first, const Byte* second) {
   const S8 ones = broadcast<int8_t>(1);
   const S16 sum = sumOfProducts({neighbours<channels>(load16(first))}, ones) +
                   sumOfProducts({neighbours<channels>(load16(second))}, ones);
-  const S16 mean = shiftRight<2>(sum + broadcast<int16_t>(2));
+  return shiftRight<2>(sum + broadcast<int16_t>(2));
+}
+
+template <int channels>
+void halveBlock(const Byte* first, const Byte* second, Byte* dst) {
+  const S16 mean = halved<channels>(first, second);
   store8(dst, packed<uint8_t>(mean, mean).v);
 }
 
@@ -267,6 +272,12 @@ void halveRows(const uint8_t* first, const uint8_t* second, uint8_t* dst, size_t
   constexpr size_t kTaken = kUsed<channels>;
   const size_t samples = count * channels;
   size_t i = 0;
+  if constexpr (channels != 3) {
+    for (; i + kStep <= samples; i += kStep) {
+      const Byte *const a = first + 2 * i, *const b = second + 2 * i;
+      store16(dst + i, packed<uint8_t>(halved<channels>(a, b), halved<channels>(a + kStep, b + kStep)).v);
+    }
+  }
   // A block loads sixteen bytes of twice as many samples and stores eight: both are inside while this holds.
   for (; i + kLanes <= samples; i += kTaken) halveBlock<channels>(first + 2 * i, second + 2 * i, dst + i);
   for (; i < samples; i += kTaken) {

@@ -2,6 +2,7 @@
 #include "kernels/resize_nearest.hpp"
 
 #include <algorithm>
+#include <type_traits>
 
 #include "kernels/simd/resize.hpp"
 
@@ -37,10 +38,12 @@ bool suitsWindows(const int32_t* index, size_t columns, size_t pixelBytes) {
   return true;
 }
 
-// Whether no column between two that are picked is left out.
-bool isClose(const int32_t* index, size_t columns) {
-  for (size_t x = 1; x < columns; ++x)
-    if (index[x] - index[x - 1] > 1) return false;
+// Whether from each column to the next are `least` to `most` source columns.
+bool advancesBy(int32_t least, int32_t most, const int32_t* index, size_t columns) {
+  for (size_t x = 1; x < columns; ++x) {
+    const int32_t step = index[x] - index[x - 1];
+    if (step < least || step > most) return false;
+  }
   return true;
 }
 
@@ -88,6 +91,16 @@ size_t pickDwords(const Byte* base, Byte* dst, const int32_t* index, size_t colu
   return x;
 }
 
+// Every second pixel, in blocks; those that are left have no pixel behind them.
+template <size_t pixel>
+size_t pickEvens(const Byte* src, Byte* dst, size_t columns) {
+  constexpr size_t kEach = kBlock / pixel;
+  size_t x = 0;
+  for (; x + kEach < columns; x += kEach, src += 2 * kBlock)
+    store16(dst + x * pixel, evenPixels<pixel>(load16(src), load16(src + kBlock)));
+  return x;
+}
+
 template <size_t pixel>
 void pickOneByOne(const Byte* src, Byte* dst, const int32_t* index, size_t columns, bool isClose) {
   const auto at = [&](size_t x) {
@@ -114,8 +127,9 @@ PickedColumns::PickedColumns(const int32_t* index, int32_t origin, size_t column
       columns_(columns),
       pixelBytes_(pixelBytes),
       windows_(nullptr),
-      isClose_(isClose(index, columns)) {
-  if (!suitsWindows(index, columns, pixelBytes)) return;
+      isClose_(advancesBy(0, 1, index, columns)),
+      isHalved_(pixelBytes <= 4 && pixelBytes != 3 && advancesBy(2, 2, index, columns)) {
+  if (isHalved_ || !suitsWindows(index, columns, pixelBytes)) return;
   windows_ = scratch;
   const size_t each = kBlock / pixelBytes;
   for (size_t block = 0; block * each < columns; ++block) {
@@ -125,9 +139,25 @@ PickedColumns::PickedColumns(const int32_t* index, int32_t origin, size_t column
   }
 }
 
+void PickedColumns::pickHalved(const uint8_t* base, uint8_t* dst) const {
+  const auto pick = [&](auto bytes) {
+    constexpr size_t kPixel = decltype(bytes)::value;
+    const Byte* const first = base + static_cast<ptrdiff_t>(index_[0]) * static_cast<ptrdiff_t>(kPixel);
+    const size_t done = pickEvens<kPixel>(first, dst, columns_);
+    pickOneByOne<kPixel>(base, dst + done * kPixel, index_ + done, columns_ - done, false);
+  };
+  if (pixelBytes_ == 1)
+    pick(std::integral_constant<size_t, 1>());
+  else if (pixelBytes_ == 2)
+    pick(std::integral_constant<size_t, 2>());
+  else
+    pick(std::integral_constant<size_t, 4>());
+}
+
 void PickedColumns::pick(const uint8_t* src, uint8_t* dst) const {
   if (windows_) return pickByWindows(src, dst, windows_, columns_, pixelBytes_);
   const Byte* const base = src - static_cast<ptrdiff_t>(origin_) * static_cast<ptrdiff_t>(pixelBytes_);
+  if (isHalved_) return pickHalved(base, dst);
   switch (pixelBytes_) {
     case 1:
       return pickOneByOne<1>(base, dst, index_, columns_, isClose_);

@@ -17,11 +17,14 @@ class PickedColumns {
   void pick(const uint8_t* src, uint8_t* dst) const;
 
  private:
+  void pickHalved(const uint8_t* base, uint8_t* dst) const;
+
   const int32_t* index_;
   int32_t origin_;
   size_t columns_, pixelBytes_;
   uint8_t* windows_;  // null where columns are picked one by one
   bool isClose_;      // from one column to the next is one source column at most
+  bool isHalved_;     // it is always two
 };
 
 }  // namespace lumi
