@@ -17,6 +17,7 @@
 #include <cstddef>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "bench/image.hpp"
@@ -78,6 +79,14 @@ class Scene {
   template <typename T>
   Image<T> input(int channels) {
     return typed<T>(allocate(depthOf<T>(), channels, false));
+  }
+  // An input that has another size than the row.
+  template <typename T>
+  Image<T> inputOf(int channels, LumiSize size) {
+    std::swap(roi_, size);
+    const Image<T> image = input<T>(channels);
+    std::swap(roi_, size);
+    return image;
   }
   template <typename T>
   Image<T> output(int channels) {

@@ -122,4 +122,15 @@ Peer filter(View src, View dst, std::vector<float> taps, LumiSize size) {
   });
 }
 
+Peer resizeNearest(View src, View dst) {
+  return peer("opencv", [s = mat(src), d = mat(dst)]() mutable {
+    cv::resize(s, d, d.size(), 0, 0, cv::INTER_NEAREST);
+  });
+}
+
+Peer resizeLinear(View src, View dst) {
+  return peer("opencv",
+              [s = mat(src), d = mat(dst)]() mutable { cv::resize(s, d, d.size(), 0, 0, cv::INTER_LINEAR); });
+}
+
 }  // namespace bench::opencv

@@ -33,5 +33,8 @@ enum class Border { constant, replicate, wrap };
 [[gnu::weak]] Peer border(View src, View dst, int top, int left, Border kind, Value value);
 // Correlation with a kernel of floats, to the type of dst; the nearest pixel is repeated outside.
 [[gnu::weak]] Peer filter(View src, View dst, std::vector<float> taps, LumiSize size);
+// To the destination's size.
+[[gnu::weak]] Peer resizeNearest(View src, View dst);
+[[gnu::weak]] Peer resizeLinear(View src, View dst);
 
 }  // namespace bench::opencv

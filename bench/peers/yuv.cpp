@@ -13,6 +13,30 @@ constexpr int kAboveLevel = libyuv::kCpuHasAVX2 | libyuv::kCpuHasFMA3 | libyuv::
                             libyuv::kCpuHasAVX512VBMI | libyuv::kCpuHasAVX512VBMI2 |
                             libyuv::kCpuHasAVX512VBITALG | libyuv::kCpuHasAVX512VPOPCNTDQ;
 
+Peer resize(View src, View dst, libyuv::FilterMode filter) {
+  const LumiSize from = src.roi, to = dst.roi;
+  if (src.depth == Depth::u8 && src.channels == 1) {
+    return peer("libyuv", [=] {
+      libyuv::ScalePlane(src.bytes, src.step, from.width, from.height, dst.bytes, dst.step, to.width,
+                         to.height, filter);
+    });
+  }
+  if (src.depth == Depth::u8 && src.channels == 4) {
+    return peer("libyuv", [=] {
+      libyuv::ARGBScale(src.bytes, src.step, from.width, from.height, dst.bytes, dst.step, to.width,
+                        to.height, filter);
+    });
+  }
+  if (src.depth == Depth::u16 && src.channels == 1) {
+    return peer("libyuv", [=] {
+      libyuv::ScalePlane_16(reinterpret_cast<const uint16_t*>(src.bytes), src.step / 2, from.width,
+                            from.height, reinterpret_cast<uint16_t*>(dst.bytes), dst.step / 2, to.width,
+                            to.height, filter);
+    });
+  }
+  return {};
+}
+
 }  // namespace
 
 void hold() { libyuv::MaskCpuFlags(~kAboveLevel); }
@@ -87,5 +111,8 @@ Peer convert(View src, View dst) {
       libyuv::ByteToFloat(src.row(y), reinterpret_cast<float*>(dst.row(y)), 1, samples);
   });
 }
+
+Peer resizeNearest(View src, View dst) { return resize(src, dst, libyuv::kFilterNone); }
+Peer resizeLinear(View src, View dst) { return resize(src, dst, libyuv::kFilterBilinear); }
 
 }  // namespace bench::yuv

@@ -17,4 +17,8 @@ namespace bench::yuv {
 
 [[gnu::weak]] Peer convert(View src, View dst);  // 8u to 32f
 
+// Planes of 8 and 16 bits, and four channels of 8.
+[[gnu::weak]] Peer resizeNearest(View src, View dst);
+[[gnu::weak]] Peer resizeLinear(View src, View dst);
+
 }  // namespace bench::yuv

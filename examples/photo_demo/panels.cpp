@@ -210,6 +210,7 @@ const std::vector<Panel>& panels() {
         {"inset", "Picture in picture", pictureInPicture},
     };
     for (const Panel& panel : samplePanels()) all.push_back(panel);
+    for (const Panel& panel : geometryPanels()) all.push_back(panel);
     return all;
   }();
   return list;

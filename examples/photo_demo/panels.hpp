@@ -17,3 +17,5 @@ const std::vector<Panel>& panels();
 
 // Those of arithmetic and of other sample types.
 std::vector<Panel> samplePanels();
+// Those of resizing and filtering.
+std::vector<Panel> geometryPanels();

@@ -76,13 +76,40 @@ enum {
 
 /** A sample type as an argument. Each operation tells which ones it takes. */
 typedef int32_t LumiDataType;
-enum { lumiData8u = 1, lumiData16u = 5, lumiData16s = 7, lumiData32s = 11, lumiData32f = 13, lumiData64f = 19 };
+enum {
+  lumiData8u = 1,
+  lumiData16u = 5,
+  lumiData16s = 7,
+  lumiData32s = 11,
+  lumiData32f = 13,
+  lumiData64f = 19
+};
 
 /** A kernel made ready for lumiFilterBorder, in memory of the caller's. */
 typedef struct LumiFilterBorderSpec LumiFilterBorderSpec;
 
 /** 2 asks for the accurate way of an operation that has two; any other value for the fast one. */
 typedef int32_t LumAlgorithmHint;
+
+/** How a resize finds a destination pixel. Each operation tells which ones it takes. */
+typedef int32_t LumiInterpolationType;
+enum {
+  lumInterpNone = 0,    /**< always refused */
+  lumInterpNearest = 1, /**< the nearest source pixel */
+  lumInterpLinear = 2,  /**< two taps an axis */
+  lumInterpCubic = 6,   /**< four taps an axis */
+  lumInterpSuper = 8,   /**< average of the covered area; only to smaller sizes */
+  lumInterpLanczos = 16 /**< two or three lobes */
+};
+
+/** Source pixels that an operation reads outside a tile, on each side. */
+typedef struct {
+  Lum32u left, top, right, bottom;
+} LumiBorderSize;
+
+/** Plans of a resize, in memory of the caller's: of 8u, 16u, 16s and 32f, and of 64f. */
+typedef struct LumiResizeSpec LumiResizeSpec;
+typedef struct LumiResizeSpec64f LumiResizeSpec64f;
 
 /** What lumiGetLibVersion returns: a constant record. */
 typedef struct {

@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: MIT
+// Resize: runs of a plan over tiles of the destination.
+#include "lumi/resize.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "frame/check.hpp"
+#include "frame/layout.hpp"
+#include "frame/rows.hpp"
+#include "geometry/resize_spec.hpp"
+#include "kernels/resize_linear.hpp"
+#include "kernels/resize_nearest.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace check;
+
+template <typename T>
+LumStatus wholeSteps(int srcStep, int dstStep) {
+  constexpr int kMask = sizeof(T) - 1;
+  return ((srcStep | dstStep) & kMask) != 0 ? lumStatusBadStep : lumStatusOk;
+}
+
+template <typename Plan>
+LumStatus madeFor(const Plan& plan, LumiInterpolationType interpolation) {
+  return plan.antialiasing == 0 && plan.interpolation == interpolation ? lumStatusOk
+                                                                       : lumStatusUnsupportedMode;
+}
+
+constexpr LumiBorderType kBorderTypes = 7, kBorderSides = 0xF0;
+
+// Whether all pixels outside the source are in memory.
+bool isAllInMemory(LumiBorderType border) {
+  return (border & kBorderTypes) == lumiBorderInMemory || (border & kBorderSides) == kBorderSides;
+}
+
+LumStatus borderTaken(LumiBorderType border) {
+  if ((border & ~(kBorderTypes | kBorderSides)) != 0) return lumStatusBadBorder;
+  const LumiBorderType type = border & kBorderTypes;
+  return type == lumiBorderReplicate || type == lumiBorderInMemory ? lumStatusOk : lumStatusUnsupportedMode;
+}
+
+// The checks that all runs begin with, the plan's interpolation included.
+template <typename T, typename Opaque, typename Plan>
+LumStatus runFault(const T* src, int srcStep, const T* dst, int dstStep, LumiPoint offset, LumiSize tile,
+                   const Opaque* object, const Lum8u* buffer, const Plan* plan,
+                   LumiInterpolationType interpolation) {
+  if (LumStatus fault = firstFault(pointers(src, dst, object, buffer), notZero(tile))) return fault;
+  return firstFault(identity(*plan), size(tile), wholeSteps<T>(srcStep, dstStep), offsetInside(*plan, offset),
+                    madeFor(*plan, interpolation));
+}
+
+// A part of one axis of the destination.
+struct Span {
+  int first, end;
+
+  int count() const { return end - first; }
+};
+
+template <typename T, typename Layout>
+LumStatus resizeNearest(const T* src, int srcStep, T* dst, int dstStep, LumiPoint dstOffset, LumiSize dstSize,
+                        const LumiResizeSpec* object, Lum8u* buffer) {
+  const ResizePlan* const plan = planAt(object);
+  if (LumStatus fault =
+          runFault(src, srcStep, dst, dstStep, dstOffset, dstSize, object, buffer, plan, lumInterpNearest))
+    return fault;
+  constexpr size_t pixelBytes = kPixelBytes<T, Layout>;
+  const LumiSize tile = clipped(*plan, dstOffset, dstSize);
+  const auto rowBytes = static_cast<size_t>(tile.width) * pixelBytes;
+  const PickedColumns columns(plan->horizontal.index + dstOffset.x,
+                              sourceStart(plan->horizontal, dstOffset.x), static_cast<size_t>(tile.width),
+                              pixelBytes, buffer);
+  const auto from = rows(src, srcStep);
+  const auto to = rows(dst, dstStep);
+  const int32_t* const index = plan->vertical.index + dstOffset.y;
+  const int32_t origin = sourceStart(plan->vertical, dstOffset.y);
+  // Rows that overlap one another are not copied: the earlier one is no longer whole.
+  const bool apart = static_cast<size_t>(std::abs(int64_t{dstStep})) >= rowBytes;
+  for (int y = 0; y < tile.height; ++y) {
+    if (apart && y > 0 && index[y] == index[y - 1])
+      std::memcpy(to.row(y), to.row(y - 1), rowBytes);
+    else
+      columns.pick(from.row(index[y] - origin), to.row(y));
+  }
+  return aboveWhole(*plan, dstSize);
+}
+
+// A tile of a linear resize. Its middle is blended in two stages; rows and columns around it, whose taps
+// would fall outside the source, in one from the nearest source row or column.
+template <typename T, int channels, typename Plan>
+class LinearTile {
+ public:
+  LinearTile(const Plan& plan, const T* src, int srcStep, T* dst, int dstStep, LumiPoint offset,
+             LumiSize size)
+      : plan_(plan),
+        src_(rows(src, srcStep)),
+        dst_(rows(dst, dstStep)),
+        offset_(offset),
+        originY_(sourceStart(plan.vertical, offset.y)),
+        middleX_{0, size.width},
+        middleY_{0, size.height},
+        size_(size) {
+    columns_ = {plan.horizontal.index, sourceStart(plan.horizontal, offset.x),
+                plan.horizontal.template weights<BlendWeight<T>>(), 0};
+    columns_ = columns_.from(static_cast<size_t>(offset.x), static_cast<size_t>(size.width));
+  }
+
+  void run(LumiBorderType border, Lum8u* buffer) {
+    if (!isAllInMemory(border)) runEdges(border);
+    if (middleX_.count() <= 0 || middleY_.count() <= 0) return;
+    if constexpr (sizeof(T) == 1) {
+      if (isHalved(plan_.horizontal) && isHalved(plan_.vertical)) return runHalved();
+    }
+    runMiddle(buffer);
+  }
+
+ private:
+  using Element = BlendElement<T>;
+  using Blender = ColumnBlender<T, channels>;
+  static constexpr int kPixel = channels * static_cast<int>(sizeof(T));
+
+  // Every position lies in the middle of two.
+  template <typename Axis>
+  static bool isHalved(const Axis& axis) {
+    return axis.reducedDst == 1 && axis.reducedSrc == 2;
+  }
+
+  // What is left of a tile's axis between the positions that lie before the first source position and those
+  // at or beyond the last one.
+  template <typename Axis>
+  static Span middleOf(const Axis& axis, int offset, int size, bool lowInMemory, bool highInMemory) {
+    const int behind = axis.dstSize - offset - size;
+    const int low = lowInMemory ? 0 : std::min(std::max(axis.low - offset, 0), size);
+    const int high = highInMemory ? 0 : std::min(std::max(axis.high - behind, 0), size);
+    return {low, size - high};
+  }
+
+  const Byte* sourceRow(int row) const { return src_.row(row - originY_); }
+  const Byte* sourcePixel(int row, int column) const {
+    return sourceRow(row) + static_cast<ptrdiff_t>(column - columns_.origin) * kPixel;
+  }
+  Byte* pixel(int y, int x) const { return dst_.row(y) + static_cast<ptrdiff_t>(x) * kPixel; }
+  int rowIndex(int y) const { return plan_.vertical.index[offset_.y + y]; }
+  BlendWeight<T> rowWeight(int y) const {
+    return plan_.vertical.template weights<BlendWeight<T>>()[offset_.y + y];
+  }
+
+  void runEdges(LumiBorderType border) {
+    middleX_ = middleOf(plan_.horizontal, offset_.x, size_.width, border & lumiBorderInMemoryLeft,
+                        border & lumiBorderInMemoryRight);
+    middleY_ = middleOf(plan_.vertical, offset_.y, size_.height, border & lumiBorderInMemoryTop,
+                        border & lumiBorderInMemoryBottom);
+    for (int y = 0; y < middleY_.first; ++y) edgeRow(y, 0);
+    for (int y = middleY_.end; y < size_.height; ++y) edgeRow(y, plan_.vertical.srcSize - 1);
+    for (int y = middleY_.first; y < middleY_.end; ++y)
+      edgeColumns(y, rowIndex(y), rowIndex(y) + 1, rowWeight(y));
+  }
+
+  void edgeRow(int y, int row) {
+    edgeColumns(y, row, row, 0);
+    if (middleX_.count() > 0) Blender::blendOnce(sourceRow(row), middleColumns(), pixel(y, middleX_.first));
+  }
+
+  // The columns on both sides of the middle.
+  void edgeColumns(int y, int row, int nextRow, BlendWeight<T> weight) {
+    const auto repeat = [&](int column, int first, int end) {
+      if (first < end)
+        Blender::repeatBlend(sourcePixel(row, column), sourcePixel(nextRow, column), weight, pixel(y, first),
+                             static_cast<size_t>(end - first));
+    };
+    repeat(0, 0, middleX_.first);
+    repeat(plan_.horizontal.srcSize - 1, middleX_.end, size_.width);
+  }
+
+  TileColumns<T> middleColumns() const {
+    return columns_.from(static_cast<size_t>(middleX_.first), static_cast<size_t>(middleX_.count()));
+  }
+
+  void runHalved() {
+    const int column = middleColumns().index[0];
+    for (int y = middleY_.first; y < middleY_.end; ++y)
+      halveRows<channels>(sourcePixel(rowIndex(y), column), sourcePixel(rowIndex(y) + 1, column),
+                          pixel(y, middleX_.first), static_cast<size_t>(middleX_.count()));
+  }
+
+  // Two rows of blended columns are kept; each source row is blended once for all rows that need it.
+  void runMiddle(Lum8u* buffer) {
+    const auto samples = static_cast<size_t>(middleX_.count()) * channels;
+    Tables tables(buffer);
+    Element* upper = tables.take<Element>(static_cast<int64_t>(samples + kRowSlack<T>), 32);
+    Element* lower = tables.take<Element>(static_cast<int64_t>(samples + kRowSlack<T>), 32);
+    const Blender blender(middleColumns(), tables.take<Lum8u>(0));
+    constexpr int64_t kNone = INT64_MIN;
+    int64_t upperRow = kNone, lowerRow = kNone;
+    for (int y = middleY_.first; y < middleY_.end; ++y) {
+      const int row = rowIndex(y);
+      if (lowerRow == row && upperRow != row) {
+        std::swap(upper, lower);
+        std::swap(upperRow, lowerRow);
+      }
+      if (upperRow != row) blender.blend(sourceRow(row), upper);
+      if (lowerRow != int64_t{row} + 1) blender.blend(sourceRow(row + 1), lower);
+      upperRow = row;
+      lowerRow = int64_t{row} + 1;
+      blendRows<T>(upper, lower, rowWeight(y), pixel(y, middleX_.first), samples);
+    }
+  }
+
+  const Plan& plan_;
+  Rows<const Byte> src_;
+  Rows<Byte> dst_;
+  LumiPoint offset_;
+  int originY_;  // the source row of the first pixel given
+  Span middleX_, middleY_;
+  LumiSize size_;
+  TileColumns<T> columns_;  // of the whole tile
+};
+
+template <typename T, typename Layout, typename Opaque>
+LumStatus resizeLinear(const T* src, int srcStep, T* dst, int dstStep, LumiPoint dstOffset, LumiSize dstSize,
+                       LumiBorderType border, const T*, const Opaque* object, Lum8u* buffer) {
+  const auto* const plan = planAt(object);
+  if (LumStatus fault =
+          runFault(src, srcStep, dst, dstStep, dstOffset, dstSize, object, buffer, plan, lumInterpLinear))
+    return fault;
+  if (LumStatus fault = borderTaken(border)) return fault;
+  LinearTile<T, Layout::kStored, std::decay_t<decltype(*plan)>>(*plan, src, srcStep, dst, dstStep, dstOffset,
+                                                                clipped(*plan, dstOffset, dstSize))
+      .run(border, buffer);
+  return aboveWhole(*plan, dstSize);
+}
+
+}  // namespace
+}  // namespace lumi
+
+using namespace lumi;
+#include "bind/resize.inc"

@@ -1,0 +1,297 @@
+// SPDX-License-Identifier: MIT
+// Linear interpolation of bytes. Products are taken in words, exactly:
+//
+//   columns  (a (2^14 - c) + b c + 2^7) >> 8 = 64 a + ((64 a - 64 b) (-2 c) + 2^14 >> 15)
+//   rows     (p (2^14 - c) + q c + 2^19) >> 20 = (p + ((p - q) (-4 c) >> 16) + 2^5) >> 6
+//
+// -2 c is a word even for c = 2^14; -4 c is up to c = 2^13. Beyond, the rows change places: with 2^14 - c for
+// c the formula stays true to the bit, since (q - p) 2^16 >> 16 is q - p.
+#include "kernels/resize_linear.hpp"
+
+#include <algorithm>
+
+#include "kernels/simd/resize.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace simd;
+
+constexpr int kQ14 = 1 << 14;
+constexpr size_t kLanes = 8, kStep = 16;
+
+// A block makes eight elements: of eight columns, or of two pixels.
+template <int channels>
+inline constexpr size_t kColumns = channels == 1 ? 8 : 2;
+// Elements that count: the last two of two 3-channel pixels are overwritten by the next block.
+template <int channels>
+inline constexpr size_t kUsed = kColumns<channels>* channels;
+
+// Where the eight columns' samples lie in one vector.
+struct WindowBlock {
+  int16_t weights[kLanes];  // -2 c
+  Control control;
+  int32_t offset;
+};
+// Where they are gathered.
+template <int channels>
+struct GatherBlock {
+  int16_t weights[kLanes];
+  int32_t offsets[kColumns<channels>];
+};
+
+template <typename Block>
+void put(uint8_t* scratch, size_t i, const Block& block) {
+  move<sizeof block>(scratch + i * sizeof block, reinterpret_cast<const Byte*>(&block));
+}
+
+template <int channels, typename Block>
+void setWeights(Block& block, const TileColumns<uint8_t>& columns, size_t first) {
+  for (size_t lane = 0; lane < kLanes; ++lane) {
+    const size_t x = std::min(first + lane / channels, columns.count - 1);
+    block.weights[lane] = static_cast<int16_t>(-2 * columns.weights[2 * x + 1]);
+  }
+}
+
+// Blocks that reach beyond the last column repeat it.
+template <int channels>
+int32_t offsetOf(const TileColumns<uint8_t>& columns, size_t x) {
+  return (columns.index[std::min(x, columns.count - 1)] - columns.origin) * channels;
+}
+
+bool suitsWindows(const TileColumns<uint8_t>& columns) {
+  const auto reach = [&](size_t x, size_t last) {
+    return offsetOf<1>(columns, last) + 2 - offsetOf<1>(columns, x);
+  };
+  if (reach(0, columns.count) < static_cast<int32_t>(kStep)) return false;
+  for (size_t x = 0; x < columns.count; x += kLanes)
+    if (reach(x, x + kLanes - 1) > static_cast<int32_t>(kStep)) return false;
+  return true;
+}
+
+void makeWindows(const TileColumns<uint8_t>& columns, uint8_t* scratch) {
+  const int32_t last = offsetOf<1>(columns, columns.count) + 2 - static_cast<int32_t>(kStep);
+  for (size_t i = 0, x = 0; x < columns.count; ++i, x += kLanes) {
+    WindowBlock block;
+    setWeights<1>(block, columns, x);
+    block.offset = std::min(offsetOf<1>(columns, x), last);
+    for (size_t lane = 0; lane < kLanes; ++lane) {
+      const auto at = static_cast<Byte>(offsetOf<1>(columns, x + lane) - block.offset);
+      block.control[2 * lane] = at;
+      block.control[2 * lane + 1] = static_cast<Byte>(at + 1);
+    }
+    put(scratch, i, block);
+  }
+}
+
+template <int channels>
+void makeGathers(const TileColumns<uint8_t>& columns, uint8_t* scratch) {
+  for (size_t i = 0, x = 0; x < columns.count; ++i, x += kColumns<channels>) {
+    GatherBlock<channels> block;
+    setWeights<channels>(block, columns, x);
+    for (size_t k = 0; k < kColumns<channels>; ++k) block.offsets[k] = offsetOf<channels>(columns, x + k);
+    put(scratch, i, block);
+  }
+}
+
+// Pairs of a sample and its right neighbour to elements.
+S16 blendPairs(Bytes16 pairs, const uint8_t* weights) {
+  const S8 difference{broadcast<int16_t>(static_cast<int16_t>(0xC040)).v};  // 64, -64
+  const S16 first = sumOfProducts({pairs}, {broadcast<int16_t>(64).v});
+  return first + productRounded(sumOfProducts({pairs}, difference), {load16(weights)});
+}
+
+void blendWindows(const Byte* src, int16_t* row, const uint8_t* blocks, size_t count) {
+  for (size_t i = 0; i < count; ++i, blocks += sizeof(WindowBlock)) {
+    int32_t offset = 0;
+    move<4>(reinterpret_cast<Byte*>(&offset), blocks + offsetof(WindowBlock, offset));
+    const Bytes16 pairs = shuffle(load16(src + offset), load16(blocks + offsetof(WindowBlock, control)));
+    store16(reinterpret_cast<Byte*>(row + i * kLanes), blendPairs(pairs, blocks).v);
+  }
+}
+
+// Pixels and their right neighbours as pairs of samples.
+template <int channels>
+Bytes16 gathered(const Byte* src, const int32_t* offsets) {
+  if constexpr (channels == 1) {
+    Bytes16 v = _mm_setzero_si128();
+    v = insertWord<0>(v, src + offsets[0]);
+    v = insertWord<1>(v, src + offsets[1]);
+    v = insertWord<2>(v, src + offsets[2]);
+    v = insertWord<3>(v, src + offsets[3]);
+    v = insertWord<4>(v, src + offsets[4]);
+    v = insertWord<5>(v, src + offsets[5]);
+    v = insertWord<6>(v, src + offsets[6]);
+    return insertWord<7>(v, src + offsets[7]);
+  } else {
+    constexpr Control kPairs = channels == 3 ? Control{0, 3, 1, 4, 2, 5, 8, 11, 9, 12, 10, 13, 6, 6, 6, 6}
+                                             : Control{0, 4, 1, 5, 2, 6, 3, 7, 8, 12, 9, 13, 10, 14, 11, 15};
+    return shuffle(gatherQuadwords(src + offsets[0], src + offsets[1]), vectorOf(kPairs));
+  }
+}
+
+template <int channels>
+void blendGathers(const Byte* src, int16_t* row, const uint8_t* blocks, size_t first, size_t end) {
+  using Block = GatherBlock<channels>;
+  for (size_t i = first; i < end; ++i) {
+    const uint8_t* const block = blocks + i * sizeof(Block);
+    int32_t offsets[kColumns<channels>];
+    move<sizeof offsets>(reinterpret_cast<Byte*>(offsets), block + offsetof(Block, offsets));
+    store16(reinterpret_cast<Byte*>(row + i * kUsed<channels>),
+            blendPairs(gathered<channels>(src, offsets), block).v);
+  }
+}
+
+// The last 3-channel pixels end less than eight bytes after their start: each is copied apart.
+void blendLast(const Byte* src, int16_t* row, const uint8_t* blocks, size_t first, size_t end) {
+  using Block = GatherBlock<3>;
+  for (size_t i = first; i < end; ++i) {
+    const uint8_t* const block = blocks + i * sizeof(Block);
+    int32_t offsets[2];
+    move<sizeof offsets>(reinterpret_cast<Byte*>(offsets), block + offsetof(Block, offsets));
+    Byte pixels[16] = {};
+    move<6>(pixels, src + offsets[0]);
+    move<6>(pixels + 8, src + offsets[1]);
+    constexpr int32_t kCopied[2] = {0, 8};
+    store16(reinterpret_cast<Byte*>(row + i * kUsed<3>), blendPairs(gathered<3>(pixels, kCopied), block).v);
+  }
+}
+
+// Sixteen samples of the destination from two rows of Q6.
+Bytes16 blendQ6(const int16_t* nearer, const int16_t* farther, S16 weight) {
+  const auto half = [&](size_t at) -> S16 {
+    const S16 p{load16(reinterpret_cast<const Byte*>(nearer + at))};
+    const S16 q{load16(reinterpret_cast<const Byte*>(farther + at))};
+    return productRounded(p + productHigh(p - q, weight), broadcast<int16_t>(512));  // (x + 32) >> 6
+  };
+  return packed<uint8_t>(half(0), half(kLanes)).v;
+}
+
+// A pixel and its right neighbour, of 16 bytes, as pairs of samples.
+template <int channels>
+Bytes16 neighbours(Bytes16 pixels) {
+  if constexpr (channels == 1) return pixels;
+  constexpr Control kPairs = channels == 3
+                                 ? Control{0, 3, 1, 4, 2, 5, 6, 9, 7, 10, 8, 11, kZero, kZero, kZero, kZero}
+                                 : Control{0, 4, 1, 5, 2, 6, 3, 7, 8, 12, 9, 13, 10, 14, 11, 15};
+  return shuffle(pixels, vectorOf(kPairs));
+}
+
+// (a + b + c + d + 2) >> 2 of eight samples: with every weight 2^13, p is 32 (a + b).
+template <int channels>
+S16 halved(const Byte* first, const Byte* second) {
+  const S8 ones = broadcast<int8_t>(1);
+  const S16 sum = sumOfProducts({neighbours<channels>(load16(first))}, ones) +
+                  sumOfProducts({neighbours<channels>(load16(second))}, ones);
+  return shiftRight<2>(sum + broadcast<int16_t>(2));
+}
+
+template <int channels>
+void halveBlock(const Byte* first, const Byte* second, Byte* dst) {
+  const S16 mean = halved<channels>(first, second);
+  store8(dst, packed<uint8_t>(mean, mean).v);
+}
+
+// t has 14 fraction bits. An odd integer part rounds up from a unit below its half.
+uint8_t roundedQ14(int t) { return static_cast<uint8_t>((t + ((t >> 14) & 1) + 8192) >> 14); }
+
+uint8_t blendQ14(int a, int b, int c) { return roundedQ14(a * kQ14 + (b - a) * c); }
+
+}  // namespace
+
+template <int channels>
+ColumnBlender<uint8_t, channels>::ColumnBlender(const TileColumns<uint8_t>& columns, uint8_t* scratch)
+    : blocks_(scratch),
+      blockCount_((columns.count + kColumns<channels> - 1) / kColumns<channels>),
+      wholeLoads_(blockCount_) {
+  if (channels == 1 && suitsWindows(columns)) {
+    makeWindows(columns, scratch);
+    return;
+  }
+  makeGathers<channels>(columns, scratch);
+  if (channels == 1) wholeLoads_ = 0;
+  if (channels == 3) {
+    const int32_t* const end = columns.index + columns.count;
+    const int32_t last = end[-1];
+    const auto beforeLast = static_cast<size_t>(std::lower_bound(columns.index, end, last) - columns.index);
+    wholeLoads_ = beforeLast / kColumns<channels>;
+  }
+}
+
+template <int channels>
+void ColumnBlender<uint8_t, channels>::blend(const uint8_t* src, int16_t* row) const {
+  if constexpr (channels == 1) {
+    if (wholeLoads_ != 0)
+      blendWindows(src, row, blocks_, blockCount_);
+    else
+      blendGathers<1>(src, row, blocks_, 0, blockCount_);
+  } else {
+    blendGathers<channels>(src, row, blocks_, 0, wholeLoads_);
+    if constexpr (channels == 3) blendLast(src, row, blocks_, wholeLoads_, blockCount_);
+  }
+}
+
+template <int channels>
+void ColumnBlender<uint8_t, channels>::blendOnce(const uint8_t* src, const TileColumns<uint8_t>& columns,
+                                                 uint8_t* dst) {
+  for (size_t x = 0; x < columns.count; ++x) {
+    const uint8_t* const pixel = src + offsetOf<channels>(columns, x);
+    for (int k = 0; k < channels; ++k)
+      *dst++ = blendQ14(pixel[k], pixel[k + channels], columns.weights[2 * x + 1]);
+  }
+}
+
+template <int channels>
+void ColumnBlender<uint8_t, channels>::repeatBlend(const uint8_t* first, const uint8_t* second, uint16_t c,
+                                                   uint8_t* dst, size_t count) {
+  uint8_t pixel[channels];
+  for (int k = 0; k < channels; ++k) pixel[k] = blendQ14(first[k], second[k], c);
+  for (size_t i = 0; i < count; ++i, dst += channels) move<channels>(dst, pixel);
+}
+
+template class ColumnBlender<uint8_t, 1>;
+template class ColumnBlender<uint8_t, 3>;
+template class ColumnBlender<uint8_t, 4>;
+
+template <>
+void blendRows<uint8_t>(const int16_t* first, const int16_t* second, uint16_t c, uint8_t* dst,
+                        size_t samples) {
+  const bool nearsSecond = c > kQ14 / 2;
+  const int16_t *const nearer = nearsSecond ? second : first, *const farther = nearsSecond ? first : second;
+  const S16 weight = broadcast(static_cast<int16_t>(-4 * (nearsSecond ? kQ14 - c : c)));
+  size_t i = 0;
+  for (; i + kStep <= samples; i += kStep) store16(dst + i, blendQ6(nearer + i, farther + i, weight));
+  if (i == samples) return;
+  Byte rest[kStep];
+  store16(rest, blendQ6(nearer + i, farther + i, weight));
+  std::memcpy(dst + i, rest, samples - i);
+}
+
+template <int channels>
+void halveRows(const uint8_t* first, const uint8_t* second, uint8_t* dst, size_t count) {
+  constexpr size_t kTaken = kUsed<channels>;
+  const size_t samples = count * channels;
+  size_t i = 0;
+  if constexpr (channels != 3) {
+    for (; i + kStep <= samples; i += kStep) {
+      const Byte *const a = first + 2 * i, *const b = second + 2 * i;
+      store16(dst + i, packed<uint8_t>(halved<channels>(a, b), halved<channels>(a + kStep, b + kStep)).v);
+    }
+  }
+  // A block loads sixteen bytes of twice as many samples and stores eight: both are inside while this holds.
+  for (; i + kLanes <= samples; i += kTaken) halveBlock<channels>(first + 2 * i, second + 2 * i, dst + i);
+  for (; i < samples; i += kTaken) {
+    const size_t rest = std::min(samples - i, kTaken);
+    Byte rows[2][16] = {}, result[kLanes];
+    std::memcpy(rows[0], first + 2 * i, 2 * rest);
+    std::memcpy(rows[1], second + 2 * i, 2 * rest);
+    halveBlock<channels>(rows[0], rows[1], result);
+    std::memcpy(dst + i, result, rest);
+  }
+}
+
+template void halveRows<1>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
+template void halveRows<3>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
+template void halveRows<4>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
+
+}  // namespace lumi

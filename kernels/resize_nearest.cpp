@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+#include "kernels/resize_nearest.hpp"
+
+#include <algorithm>
+#include <type_traits>
+
+#include "kernels/simd/resize.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace simd;
+
+// Sixteen bytes of the destination, from two windows of the source row. Control bytes count from the first
+// window's start; those from 16 on are in the second window, as if it followed the first.
+struct Windows {
+  int32_t first, second;  // in bytes from the row's start
+  Control control;
+};
+
+constexpr size_t kBlock = 16, kReach = 2 * kBlock;
+
+size_t blockStart(size_t block, size_t columns, size_t each) {
+  return std::min(block * each, columns - each);
+}
+
+// Bytes from the first to the last one that some columns pick.
+size_t reach(const int32_t* index, size_t columns, size_t pixelBytes) {
+  return static_cast<size_t>(index[columns - 1] - index[0] + 1) * pixelBytes;
+}
+
+bool suitsWindows(const int32_t* index, size_t columns, size_t pixelBytes) {
+  if (pixelBytes > 2) return false;  // single moves are as fast
+  const size_t each = kBlock / pixelBytes;
+  if (columns < each || reach(index, columns, pixelBytes) < kBlock) return false;
+  for (size_t x = 0; x < columns; x += each)
+    if (reach(index + std::min(x, columns - each), each, pixelBytes) > kReach) return false;
+  return true;
+}
+
+// Whether from each column to the next are `least` to `most` source columns.
+bool advancesBy(int32_t least, int32_t most, const int32_t* index, size_t columns) {
+  for (size_t x = 1; x < columns; ++x) {
+    const int32_t step = index[x] - index[x - 1];
+    if (step < least || step > most) return false;
+  }
+  return true;
+}
+
+Windows windowsOf(const int32_t* index, size_t pixelBytes, int32_t origin, int32_t end) {
+  const auto pixel = static_cast<int32_t>(pixelBytes);
+  const auto at = [=](int32_t column) { return (column - origin) * pixel; };
+  const int32_t last = at(end) - static_cast<int32_t>(kBlock);
+  Windows w{std::min(at(index[0]), last), 0, {}};
+  w.second = std::min(w.first + static_cast<int32_t>(kBlock), last);
+  for (size_t i = 0; i < kBlock; ++i) {
+    const int32_t byte = at(index[i / pixelBytes]) + static_cast<int32_t>(i % pixelBytes);
+    const bool inFirst = byte < w.first + static_cast<int32_t>(kBlock);
+    w.control[i] =
+        static_cast<Byte>(inFirst ? byte - w.first : byte - w.second + static_cast<int32_t>(kBlock));
+  }
+  return w;
+}
+
+// Control bytes of the other window are turned into ones with the top bit set, which give zero.
+Bytes16 blockOf(const Byte* src, const Byte* windows) {
+  Windows w;
+  move<8>(reinterpret_cast<Byte*>(&w), windows);
+  const Bytes16 control = load16(windows + offsetof(Windows, control));
+  const Bytes16 first = shuffle(load16(src + w.first), addSat(U8{control}, broadcast<Byte>(0x70)).v);
+  const Bytes16 second = shuffle(load16(src + w.second), (U8{control} - broadcast<Byte>(kBlock)).v);
+  return either(first, second);
+}
+
+void pickByWindows(const Byte* src, Byte* dst, const Byte* windows, size_t columns, size_t pixelBytes) {
+  const size_t each = kBlock / pixelBytes, whole = columns / each;
+  for (size_t block = 0; block < whole; ++block, windows += sizeof(Windows))
+    store16(dst + block * kBlock, blockOf(src, windows));
+  if (columns % each != 0) store16(dst + columns * pixelBytes - kBlock, blockOf(src, windows));
+}
+
+// Dwords four at a time. Where four columns never span more than four pixels, they are picked from one
+// vector.
+size_t pickDwords(const Byte* base, Byte* dst, const int32_t* index, size_t columns, bool isClose) {
+  const auto at = [&](size_t x) { return base + static_cast<ptrdiff_t>(index[x]) * 4; };
+  size_t x = 0;
+  if (isClose)
+    for (; x + 4 <= columns && index[x] + 3 <= index[columns - 1]; x += 4)
+      store16(dst + x * 4, pickNear(at(x), index + x));
+  for (; x + 4 <= columns; x += 4) store16(dst + x * 4, gatherDwords(at(x), at(x + 1), at(x + 2), at(x + 3)));
+  return x;
+}
+
+// Every second pixel, in blocks; those that are left have no pixel behind them.
+template <size_t pixel>
+size_t pickEvens(const Byte* src, Byte* dst, size_t columns) {
+  constexpr size_t kEach = kBlock / pixel;
+  size_t x = 0;
+  for (; x + kEach < columns; x += kEach, src += 2 * kBlock)
+    store16(dst + x * pixel, evenPixels<pixel>(load16(src), load16(src + kBlock)));
+  return x;
+}
+
+template <size_t pixel>
+void pickOneByOne(const Byte* src, Byte* dst, const int32_t* index, size_t columns, bool isClose) {
+  const auto at = [&](size_t x) {
+    return src + static_cast<ptrdiff_t>(index[x]) * static_cast<ptrdiff_t>(pixel);
+  };
+  size_t x = 0;
+  if constexpr (pixel == 3) {
+    // Four bytes at once, where a further pixel is behind; the next one overwrites what is too much.
+    const int32_t last = index[columns - 1];
+    for (; index[x] < last; ++x) move<4>(dst + x * pixel, at(x));
+  }
+  if constexpr (pixel == 4) x = pickDwords(src, dst, index, columns, isClose);
+  for (; x + 4 <= columns; x += 4)
+    for (size_t i = 0; i < 4; ++i) move<pixel>(dst + (x + i) * pixel, at(x + i));
+  for (; x < columns; ++x) move<pixel>(dst + x * pixel, at(x));
+}
+
+}  // namespace
+
+PickedColumns::PickedColumns(const int32_t* index, int32_t origin, size_t columns, size_t pixelBytes,
+                             uint8_t* scratch)
+    : index_(index),
+      origin_(origin),
+      columns_(columns),
+      pixelBytes_(pixelBytes),
+      windows_(nullptr),
+      isClose_(advancesBy(0, 1, index, columns)),
+      isHalved_(pixelBytes <= 4 && pixelBytes != 3 && advancesBy(2, 2, index, columns)) {
+  if (isHalved_ || !suitsWindows(index, columns, pixelBytes)) return;
+  windows_ = scratch;
+  const size_t each = kBlock / pixelBytes;
+  for (size_t block = 0; block * each < columns; ++block) {
+    const Windows w =
+        windowsOf(index + blockStart(block, columns, each), pixelBytes, origin, index[columns - 1] + 1);
+    move<sizeof(Windows)>(scratch + block * sizeof(Windows), reinterpret_cast<const Byte*>(&w));
+  }
+}
+
+void PickedColumns::pickHalved(const uint8_t* base, uint8_t* dst) const {
+  const auto pick = [&](auto bytes) {
+    constexpr size_t kPixel = decltype(bytes)::value;
+    const Byte* const first = base + static_cast<ptrdiff_t>(index_[0]) * static_cast<ptrdiff_t>(kPixel);
+    const size_t done = pickEvens<kPixel>(first, dst, columns_);
+    pickOneByOne<kPixel>(base, dst + done * kPixel, index_ + done, columns_ - done, false);
+  };
+  if (pixelBytes_ == 1)
+    pick(std::integral_constant<size_t, 1>());
+  else if (pixelBytes_ == 2)
+    pick(std::integral_constant<size_t, 2>());
+  else
+    pick(std::integral_constant<size_t, 4>());
+}
+
+void PickedColumns::pick(const uint8_t* src, uint8_t* dst) const {
+  if (windows_) return pickByWindows(src, dst, windows_, columns_, pixelBytes_);
+  const Byte* const base = src - static_cast<ptrdiff_t>(origin_) * static_cast<ptrdiff_t>(pixelBytes_);
+  if (isHalved_) return pickHalved(base, dst);
+  switch (pixelBytes_) {
+    case 1:
+      return pickOneByOne<1>(base, dst, index_, columns_, isClose_);
+    case 2:
+      return pickOneByOne<2>(base, dst, index_, columns_, isClose_);
+    case 3:
+      return pickOneByOne<3>(base, dst, index_, columns_, isClose_);
+    case 4:
+      return pickOneByOne<4>(base, dst, index_, columns_, isClose_);
+    case 6:
+      return pickOneByOne<6>(base, dst, index_, columns_, isClose_);
+    case 8:
+      return pickOneByOne<8>(base, dst, index_, columns_, isClose_);
+    case 12:
+      return pickOneByOne<12>(base, dst, index_, columns_, isClose_);
+    default:
+      return pickOneByOne<16>(base, dst, index_, columns_, isClose_);
+  }
+}
+
+}  // namespace lumi

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+// Pixels picked from a row by a table of source columns, which never descends.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace lumi {
+
+// The columns of a tile. Kept in scratch, at any address, it takes up to 4 bytes a column and 64 more.
+class PickedColumns {
+ public:
+  // Source column of each destination column; `origin` is the source column that rows begin with.
+  PickedColumns(const int32_t* index, int32_t origin, size_t columns, size_t pixelBytes, uint8_t* scratch);
+
+  // src is the row's pixel at `origin`; read is from the first column picked to the last one.
+  void pick(const uint8_t* src, uint8_t* dst) const;
+
+ private:
+  void pickHalved(const uint8_t* base, uint8_t* dst) const;
+
+  const int32_t* index_;
+  int32_t origin_;
+  size_t columns_, pixelBytes_;
+  uint8_t* windows_;  // null where columns are picked one by one
+  bool isClose_;      // from one column to the next is one source column at most
+  bool isHalved_;     // it is always two
+};
+
+}  // namespace lumi

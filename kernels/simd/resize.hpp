@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+// Vectors of a resize: pixels gathered by address, products of fixed-point samples, blends of floats.
+#pragma once
+
+#include "kernels/simd/convert.hpp"
+#include "kernels/simd/rounding.hpp"
+
+namespace lumi::simd {
+
+// Each word: first byte * first weight + second byte * second weight, limited to the type.
+inline S16 sumOfProducts(U8 pairs, S8 weights) { return {_mm_maddubs_epi16(pairs.v, weights.v)}; }
+// (a * b) >> 16.
+inline S16 productHigh(S16 a, S16 b) { return {_mm_mulhi_epi16(a.v, b.v)}; }
+// (a * b + 2^14) >> 15.
+inline S16 productRounded(S16 a, S16 b) { return {_mm_mulhrs_epi16(a.v, b.v)}; }
+
+// Dwords or quadwords from addresses of their own.
+inline Bytes16 gatherDwords(const Byte* a, const Byte* b, const Byte* c, const Byte* d) {
+  const auto dword = [](const Byte* p) {
+    int v = 0;
+    move<4>(reinterpret_cast<Byte*>(&v), p);
+    return v;
+  };
+  return _mm_insert_epi32(
+      _mm_insert_epi32(_mm_insert_epi32(_mm_cvtsi32_si128(dword(a)), dword(b), 1), dword(c), 2), dword(d), 3);
+}
+inline Bytes16 gatherQuadwords(const Byte* a, const Byte* b) {
+  return _mm_castpd_si128(_mm_loadh_pd(_mm_castsi128_pd(loadFew<8>(a)), reinterpret_cast<const double*>(b)));
+}
+// Dwords index[0..3] - index[0], which are 0 to 3, of the four at p.
+inline Bytes16 pickNear(const Byte* p, const int32_t* index) {
+  const Bytes16 control =
+      _mm_sub_epi32(load16(reinterpret_cast<const Byte*>(index)), _mm_set1_epi32(index[0]));
+  return _mm_castps_si128(_mm_permutevar_ps(_mm_castsi128_ps(load16(p)), control));
+}
+// The first, third and so on of the pixels of two vectors.
+template <size_t bytes>
+Bytes16 evenPixels(Bytes16 a, Bytes16 b) {
+  static_assert(bytes == 1 || bytes == 2 || bytes == 4);
+  if constexpr (bytes == 1) {
+    const Bytes16 low = _mm_set1_epi16(0xFF);
+    return _mm_packus_epi16(both(a, low), both(b, low));
+  } else if constexpr (bytes == 2) {
+    const Bytes16 low = _mm_set1_epi32(0xFFFF);
+    return _mm_packus_epi32(both(a, low), both(b, low));
+  } else {
+    return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(a), _mm_castsi128_ps(b), 0x88));
+  }
+}
+inline void store8(Byte* p, Bytes16 v) { _mm_storel_epi64(reinterpret_cast<__m128i*>(p), v); }
+
+// Word i from p.
+template <int i>
+Bytes16 insertWord(Bytes16 v, const Byte* p) {
+  uint16_t word = 0;
+  move<2>(reinterpret_cast<Byte*>(&word), p);
+  return _mm_insert_epi16(v, word, i);
+}
+
+struct Doubles4 {
+  __m256d v;
+};
+inline Doubles4 operator+(Doubles4 a, Doubles4 b) { return {_mm256_add_pd(a.v, b.v)}; }
+inline Doubles4 operator-(Doubles4 a, Doubles4 b) { return {_mm256_sub_pd(a.v, b.v)}; }
+inline Doubles4 operator*(Doubles4 a, Doubles4 b) { return {_mm256_mul_pd(a.v, b.v)}; }
+inline Bytes32 bytesOf(Doubles4 x) { return _mm256_castpd_si256(x.v); }
+inline Doubles4 doublesOf(Bytes32 v) { return {_mm256_castsi256_pd(v)}; }
+
+inline Floats8 load(const float* p) { return {_mm256_loadu_ps(p)}; }
+inline Doubles4 load(const double* p) { return {_mm256_loadu_pd(p)}; }
+inline void store(float* p, Floats8 x) { _mm256_storeu_ps(p, x.v); }
+inline void store(float* p, Floats4 x) { _mm_storeu_ps(p, x.v); }
+inline void store(double* p, Doubles4 x) { _mm256_storeu_pd(p, x.v); }
+inline Floats8 broadcastWide(float x) { return {_mm256_set1_ps(x)}; }
+inline Doubles4 broadcastWide(double x) { return {_mm256_set1_pd(x)}; }
+
+// The even and the odd elements of two vectors, half by half.
+inline Floats8 evens(Bytes32 a, Bytes32 b) { return {_mm256_shuffle_ps(asFloats(a), asFloats(b), 0x88)}; }
+inline Floats8 odds(Bytes32 a, Bytes32 b) { return {_mm256_shuffle_ps(asFloats(a), asFloats(b), 0xDD)}; }
+inline Doubles4 evenDoubles(Bytes32 a, Bytes32 b) {
+  return {_mm256_unpacklo_pd(_mm256_castsi256_pd(a), _mm256_castsi256_pd(b))};
+}
+inline Doubles4 oddDoubles(Bytes32 a, Bytes32 b) {
+  return {_mm256_unpackhi_pd(_mm256_castsi256_pd(a), _mm256_castsi256_pd(b))};
+}
+
+// The low or the high word of each dword, as a dword.
+template <typename T>
+S32 lowWords(Bytes16 v) {
+  static_assert(sizeof(T) == 2);
+  return {std::is_signed_v<T> ? _mm_srai_epi32(_mm_slli_epi32(v, 16), 16)
+                              : _mm_blend_epi16(v, _mm_setzero_si128(), 0xAA)};
+}
+template <typename T>
+S32 highWords(Bytes16 v) {
+  static_assert(sizeof(T) == 2);
+  return {std::is_signed_v<T> ? _mm_srai_epi32(v, 16) : _mm_srli_epi32(v, 16)};
+}
+
+// One sample, by the rounding control; limited to 32 bits like a vector's.
+inline int roundedOne(float x) { return _mm_cvtss_si32(_mm_set_ss(x)); }
+
+}  // namespace lumi::simd
