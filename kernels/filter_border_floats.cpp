@@ -78,7 +78,8 @@ template <typename T>
 Floats8 floatsAt(const Byte* p) {
   if constexpr (sizeof(T) == 1) {
     const U8 x{loadFew<8>(p)};
-    return floatsOf(joined({widened<uint32_t>(x).v}, {widened<uint32_t>(U8{_mm_srli_epi64(x.v, 32)}).v}));
+    const U32 low = widened<uint32_t>(x), high = widened<uint32_t>(upperDword(x));
+    return floatsOf(joined(S32{low.v}, S32{high.v}));
   } else {
     const auto half = [](const Byte* q) {
       return S32{
@@ -131,7 +132,8 @@ void sumColumns(Piece& piece, float* sums, const FilterTaps& taps, FilterSource 
       const float* const tap = tapAt(taps, y, x);
       size_t i = 0;
       for (; i + 32 <= samples; i += 32) addToSums<4>(sums + i, piece.samples + i, src.channels, tap, count);
-      for (; i < samples; i += 8) addToSums<1>(sums + i, piece.samples + i, src.channels, tap, count);
+      for (; i + 8 < samples; i += 16) addToSums<2>(sums + i, piece.samples + i, src.channels, tap, count);
+      if (i < samples) addToSums<1>(sums + i, piece.samples + i, src.channels, tap, count);
     }
 }
 
