@@ -27,9 +27,6 @@ const float* tapAt(const FilterTaps& taps, int row, int column) {
   return taps.floats + static_cast<ptrdiff_t>(taps.rows - row) * taps.columns - 1 - column;
 }
 
-template <typename Floats>
-constexpr int kFloats = static_cast<int>(sizeof(Floats) / sizeof(float));
-
 // Adds `count` products to each of a few vectors of sums; taps run backwards.
 template <typename Floats, int vectors>
 inline void addProducts(Floats (&sums)[vectors], const Byte* samples, ptrdiff_t column, const float* tap,
