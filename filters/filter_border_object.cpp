@@ -106,7 +106,7 @@ void setDivisor(FilterBorderObject& o, int divisor) {
     o.divisorClass = DivisorClass::One;
   } else if (isPowerOfTwo(divisor)) {
     o.divisorClass = DivisorClass::PowerOfTwo;
-    o.shift = __builtin_ctz(static_cast<unsigned>(divisor));
+    while (divisor >> o.shift > 1) ++o.shift;
     o.half = 1 << (o.shift - 1);
     o.mask = divisor - 1;
     o.scale = std::ldexp(1.0F, -o.shift);

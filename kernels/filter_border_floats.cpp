@@ -27,9 +27,6 @@ const float* tapAt(const FilterTaps& taps, int row, int column) {
   return taps.floats + static_cast<ptrdiff_t>(taps.rows - row) * taps.columns - 1 - column;
 }
 
-template <typename Floats>
-constexpr int kFloats = static_cast<int>(sizeof(Floats) / sizeof(float));
-
 // Adds `count` products to each of a few vectors of sums; taps run backwards.
 template <typename Floats, int vectors>
 inline void addProducts(Floats (&sums)[vectors], const Byte* samples, ptrdiff_t column, const float* tap,
@@ -78,7 +75,8 @@ template <typename T>
 Floats8 floatsAt(const Byte* p) {
   if constexpr (sizeof(T) == 1) {
     const U8 x{loadFew<8>(p)};
-    return floatsOf(joined({widened<uint32_t>(x).v}, {widened<uint32_t>(U8{_mm_srli_epi64(x.v, 32)}).v}));
+    const U32 low = widened<uint32_t>(x), high = widened<uint32_t>(upperDword(x));
+    return floatsOf(joined(S32{low.v}, S32{high.v}));
   } else {
     const auto half = [](const Byte* q) {
       return S32{
@@ -131,7 +129,8 @@ void sumColumns(Piece& piece, float* sums, const FilterTaps& taps, FilterSource 
       const float* const tap = tapAt(taps, y, x);
       size_t i = 0;
       for (; i + 32 <= samples; i += 32) addToSums<4>(sums + i, piece.samples + i, src.channels, tap, count);
-      for (; i < samples; i += 8) addToSums<1>(sums + i, piece.samples + i, src.channels, tap, count);
+      for (; i + 8 < samples; i += 16) addToSums<2>(sums + i, piece.samples + i, src.channels, tap, count);
+      if (i < samples) addToSums<1>(sums + i, piece.samples + i, src.channels, tap, count);
     }
 }
 

@@ -16,6 +16,9 @@ inline S16 pairSums(U8 a, S8 b) { return {_mm_maddubs_epi16(a.v, b.v)}; }
 // The last eight bytes, as the first.
 inline S16 upperHalf(S16 x) { return {_mm_unpackhi_epi64(x.v, x.v)}; }
 
+// The second four bytes, as the first.
+inline U8 upperDword(U8 x) { return {_mm_srli_epi64(x.v, 32)}; }
+
 // The samples of two vectors in turn, from the low or the high half.
 inline U8 interleavedLow(U8 a, U8 b) { return {_mm_unpacklo_epi8(a.v, b.v)}; }
 inline U8 interleavedHigh(U8 a, U8 b) { return {_mm_unpackhi_epi8(a.v, b.v)}; }
