@@ -55,8 +55,8 @@ enum {
 };
 
 /**
- * Where samples outside an image come from: a type, and flags of the sides where they are in memory. On flagged
- * sides the real samples are used, on the others the type decides; all four flags are the same as
+ * Where samples outside an image come from: a type, and flags of the sides where they are in memory. On
+ * flagged sides the real samples are used, on the others the type decides; all four flags are the same as
  * lumiBorderInMemory. Each operation tells which types it takes.
  */
 typedef int32_t LumiBorderType;
