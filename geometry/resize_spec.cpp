@@ -3,7 +3,6 @@
 #include "geometry/resize_spec.hpp"
 
 #include <cmath>
-#include <numeric>
 
 #include "frame/check.hpp"
 
@@ -78,9 +77,19 @@ LumStatus offers(const ResizePlan64f*, LumiInterpolationType interpolation, Lumi
                     static_cast<LumStatus>(lumStatusUnsupportedMode));
 }
 
+// By remainders: the standard library's counts trailing zeros, in an encoding above the level.
+int32_t commonDivisor(int32_t a, int32_t b) {
+  while (b != 0) {
+    const int32_t rest = a % b;
+    a = b;
+    b = rest;
+  }
+  return a;
+}
+
 // Table entries of an averaging axis: a group for each position of a period.
 int64_t superEntries(int32_t srcSize, int32_t dstSize) {
-  const int32_t divisor = std::gcd(srcSize, dstSize);
+  const int32_t divisor = commonDivisor(srcSize, dstSize);
   const int64_t src = srcSize / divisor, dst = dstSize / divisor, rest = src % dst;
   return dst * (src / dst + (rest < 2 ? rest : 2));
 }
@@ -145,7 +154,7 @@ bool fitsInt(int64_t n) { return n <= INT32_MAX; }
 
 template <typename Axis>
 void setSizes(Axis& axis, int32_t src, int32_t dst) {
-  const int32_t divisor = std::gcd(src, dst);
+  const int32_t divisor = commonDivisor(src, dst);
   axis = {};
   axis.srcSize = src;
   axis.dstSize = dst;
