@@ -156,7 +156,10 @@ AnyImage sharpened(const Colour& photo, Calls& calls) {
 
 // The pixels around the ROI are in memory: the outermost ones are only read.
 AnyImage embossed(const Colour& photo, Calls& calls) {
-  Colour result = copyOf(photo);
+  Colour result(photo.size());
+  calls.time("lumiCopy_8u_C3R", photo.size(), [&] {
+    return lumiCopy_8u_C3R(photo.data(), photo.step(), result.data(), result.step(), photo.size());
+  });
   const LumiSize inner = {photo.size().width - 2, photo.size().height - 2};
   if (std::min(inner.width, inner.height) < 1) return result;
   Filter filter({3, 3}, kEmboss, 1, inner);

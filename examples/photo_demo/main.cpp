@@ -34,7 +34,7 @@ std::string timing(const Call& call) {
 
 void tell(const char* title, const Calls& calls) {
   for (const Call& call : calls.list()) {
-    std::printf("  %-24s %-22s %9.4f ms %8.3f ns/pixel\n", title, call.name, call.nanoseconds / 1e6,
+    std::printf("  %-26s %-30s %9.4f ms %8.3f ns/pixel\n", title, call.name, call.nanoseconds / 1e6,
                 perPixel(call));
     title = "";
   }

@@ -13,7 +13,9 @@ import png
 PROGRAM = pathlib.Path(sys.argv.pop()).resolve()
 NAMES = ["original", "red", "green", "blue", "swapped", "green-into-red", "grey", "blue-filled", "ring", "disc",
          "opaque", "alpha", "alpha-kept", "mosaic", "upside-down", "inset", "brighter", "contrast", "exposure",
-         "difference", "through-16-bits", "stretched", "bit-mask", "bits-applied"]
+         "difference", "through-16-bits", "stretched", "bit-mask", "bits-applied", "reduced-nearest", "reduced-linear",
+         "enlarged-nearest", "enlarged-linear", "enlarged-tiles", "blurred", "sharpened", "embossed", "corner-value",
+         "corner-edges", "framed"]
 
 # 8 x 8 pixels of about (200, 100, 50).
 JPEG = base64.b64decode("""
@@ -139,6 +141,47 @@ class PhotoDemo(unittest.TestCase):
                 here = samples[y * row + i]
                 moved[y * row + i] = min(255, 2 * abs(samples[(y + 3) * row + i + 9] - here))
         expect("difference", moved)
+
+    def test_resizing(self):
+        width, height = 80, 48
+        photo = pixels(noise(width * height * 3), 3)
+        results = self.results(self.picture(width, height), self.out)
+        reduced = []
+        across, down = width * 2 // 5, height * 2 // 5
+        for y in range(down):
+            for x in range(across):
+                row, column = int((y + 0.5) * (height / down) - 1e-10), int((x + 0.5) * (width / across) - 1e-10)
+                reduced.append(photo[row * width + column])
+        self.assertEqual(results["reduced-nearest"], (3, b"".join(reduced)))
+        self.assertEqual(len(results["reduced-linear"][1]), len(results["reduced-nearest"][1]))
+        part = [photo[(18 - 3 + y) * width + 50 - 5 + x] for y in range(6) for x in range(10)]
+        enlarged = [part[y // 8 * 10 + x // 8] for y in range(48) for x in range(80)]
+        self.assertEqual(results["enlarged-nearest"], (3, b"".join(enlarged)))
+        self.assertEqual(results["enlarged-tiles"], results["enlarged-linear"])
+        self.assertNotEqual(results["enlarged-linear"], results["enlarged-nearest"])
+
+    def test_filters(self):
+        width, height = 53, 31
+        photo = pixels(noise(width * height * 3), 3)
+        results = self.results(self.picture(width, height), self.out)
+
+        def sample(x, y, c):
+            return photo[min(max(y, 0), height - 1) * width + min(max(x, 0), width - 1)][c]
+
+        blurred, sharpened = results.pixels("blurred"), results.pixels("sharpened")
+        for y in range(0, height, 3):
+            for x in range(0, width, 4):
+                for c in range(3):
+                    total = sum(sample(x + i, y + j, c) for i in range(-4, 5) for j in range(-4, 5))
+                    self.assertAlmostEqual(blurred[y * width + x][c], total / 81, delta=0.5001)
+                    sharp = 5 * sample(x, y, c) - sum(sample(x + i, y + j, c)
+                                                      for i, j in ((0, 1), (0, -1), (1, 0), (-1, 0)))
+                    self.assertEqual(sharpened[y * width + x][c], min(255, max(0, sharp)))
+        embossed = results.pixels("embossed")
+        self.assertEqual(embossed[:width], photo[:width])
+        self.assertEqual(embossed[-width:], photo[-width:])
+        self.assertNotEqual(embossed, photo)
+        self.assertNotEqual(results["corner-value"], results["corner-edges"])
 
     def test_bits(self):
         width, height = 53, 31
