@@ -28,38 +28,48 @@ const float* tapAt(const FilterTaps& taps, int row, int column) {
 }
 
 // Adds `count` products to each of a few vectors of sums; taps run backwards.
-template <typename Floats, int vectors>
-inline void addProducts(Floats (&sums)[vectors], const Byte* samples, ptrdiff_t column, const float* tap,
-                        int count) {
-  for (; count > 0; --count, --tap, samples += column) {
+template <typename Floats, int vectors, typename Count>
+[[gnu::always_inline]] inline void addProducts(Floats (&sums)[vectors], const Byte* samples, ptrdiff_t column,
+                                               const float* tap, Count count) {
+  for (int left = count; left > 0; --left, --tap, samples += column) {
     const Floats factor = broadcastFloat<Floats>(*tap);
     for (int i = 0; i < vectors; ++i)
       sums[i] = sums[i] + loadFloats<Floats>(samples + i * static_cast<ptrdiff_t>(sizeof(Floats))) * factor;
   }
 }
 
-template <typename Floats, int vectors>
-void addColumns(Floats (&sums)[vectors], const FilterTaps& taps, FilterSource src, Columns columns) {
+// The sums of `count` columns of every row, from column `first` on.
+template <typename Floats, int vectors, typename Count>
+[[gnu::always_inline]] inline void sumFloatColumns(Floats (&sums)[vectors], const FilterTaps& taps,
+                                                   FilterSource src, int first, Count count) {
   const ptrdiff_t column = src.channels * static_cast<ptrdiff_t>(sizeof(float));
-  for (int y = 0; y < taps.rows; ++y)
-    addProducts(sums, src.first + y * src.step + columns.first * column, column,
-                tapAt(taps, y, columns.first), columns.end - columns.first);
+  const Byte* samples = src.first + first * column;
+  const float* tap = tapAt(taps, 0, first);
+  for (Floats& sum : sums) sum = broadcastFloat<Floats>(0);
+  for (int y = taps.rows; y > 0; --y, samples += src.step, tap -= taps.columns)
+    addProducts(sums, samples, column, tap, count);
 }
 
-// A block of a float image, with all its sums in registers.
-template <typename Floats, int vectors>
-[[gnu::always_inline]] inline void filterFloatBlock(const FilterTaps& taps, FilterSource src, Byte* dst) {
-  Floats sums[vectors];
-  for (Floats& sum : sums) sum = broadcastFloat<Floats>(0);
-  const Columns blocks = blocksOf(taps), tail = tailOf(taps);
-  addColumns(sums, taps, src, isEmpty(blocks) ? tail : blocks);
-  if (!isEmpty(blocks) && !isEmpty(tail)) {
-    Floats others[vectors];
-    for (Floats& sum : others) sum = broadcastFloat<Floats>(0);
-    addColumns(others, taps, src, tail);
-    for (int i = 0; i < vectors; ++i) sums[i] = sums[i] + others[i];
-  }
-  for (int i = 0; i < vectors; ++i) storeFloats(dst + i * static_cast<ptrdiff_t>(sizeof(Floats)), sums[i]);
+// A row of a float image, with the sums of each block in registers. The kernel's columns are in one sum, or
+// in two.
+template <typename Floats, int large, typename Count>
+void filterFloatRow(const FilterTaps& taps, FilterSource src, Byte* dst, size_t samples, Count count) {
+  constexpr int small = static_cast<int>(sizeof(Floats) / sizeof(float));
+  const int others = taps.columns - count;
+  inBlocks<large, small>(samples, [&](auto size, size_t i) {
+    constexpr int vectors = decltype(size)::value / small;
+    const size_t at = i * sizeof(float);
+    Floats sums[vectors];
+    sumFloatColumns(sums, taps, src.at(at), 0, count);
+    if constexpr (std::is_same_v<Count, int>)
+      if (others > 0) {
+        Floats tail[vectors];
+        sumFloatColumns(tail, taps, src.at(at), count, others);
+        for (int v = 0; v < vectors; ++v) sums[v] = sums[v] + tail[v];
+      }
+    for (int v = 0; v < vectors; ++v)
+      storeFloats(dst + at + v * static_cast<ptrdiff_t>(sizeof(Floats)), sums[v]);
+  });
 }
 
 // A piece of a row of integer samples, as floats, and its sums. A row is done in pieces that stay in the
@@ -190,13 +200,16 @@ T sampleOf(float x, int mode) {
 template <typename T>
 void filterWideFloats(const FilterTaps& taps, FilterSource src, uint8_t* dst, size_t samples) {
   if constexpr (std::is_same_v<T, float>) {
+    const Columns first = isEmpty(blocksOf(taps)) ? tailOf(taps) : blocksOf(taps);
+    // The usual widths without a loop over them.
     if (samples < 8)
-      return inBlocks<4, 4>(samples, [&](auto, size_t i) {
-        filterFloatBlock<Floats4, 1>(taps, src.at(i * sizeof(T)), dst + i * sizeof(T));
-      });
-    inBlocks<32, 8>(samples, [&](auto count, size_t i) {
-      filterFloatBlock<Floats8, decltype(count)::value / 8>(taps, src.at(i * sizeof(T)), dst + i * sizeof(T));
-    });
+      filterFloatRow<Floats4, 4>(taps, src, dst, samples, first.end);
+    else if (taps.columns == 3)
+      filterFloatRow<Floats8, 32>(taps, src, dst, samples, std::integral_constant<int, 3>());
+    else if (taps.columns == 5)
+      filterFloatRow<Floats8, 32>(taps, src, dst, samples, std::integral_constant<int, 5>());
+    else
+      filterFloatRow<Floats8, 32>(taps, src, dst, samples, first.end);
   } else {
     Piece piece;
     for (size_t i = 0; i < samples; i += kPiece) {
