@@ -284,7 +284,7 @@ class FilterBorder : public testing::Test {
   Random random_{mixSeed(settings().seed, "filter border", sizeof(T))};
 };
 using SampleTypes = testing::Types<Lum8u, Lum16s, Lum16u, Lum32f>;
-TYPED_TEST_SUITE(FilterBorder, SampleTypes);
+TYPED_TEST_SUITE(FilterBorder, SampleTypes, testing::internal::DefaultNameGenerator);
 
 TYPED_TEST(FilterBorder, FloatKernels) {
   for (const LumiSize size : kKernels)
