@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <list>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -40,8 +40,8 @@ class NamedCall {
     return *this;
   }
   NamedCall& point(const std::string& name, LumiPoint p) {
-    points_.push_back(p);
-    slot(name).value = &points_.back();
+    points_.push_back(std::make_shared<LumiPoint>(p));
+    slot(name).value = points_.back().get();
     return *this;
   }
   LumStatus run() const { return row_.invoke.call(row_.invoke.function, slots_.data()); }
@@ -62,7 +62,7 @@ class NamedCall {
 
   const ExportRow& row_;
   std::vector<Slot> slots_;
-  std::list<LumiPoint> points_;
+  std::vector<std::shared_ptr<LumiPoint>> points_;  // copies of a call share them
 };
 
 inline NamedCall getSize(const std::string& type, LumiSize src, LumiSize dst, int interpolation,
