@@ -19,7 +19,11 @@ struct Rows {
   B* first;
   ptrdiff_t step;
 
-  B* row(int y) const { return first + y * step; }
+  // By numbers: of rows that are not there, which nothing touches, the address may wrap.
+  B* row(int y) const {
+    return reinterpret_cast<B*>(reinterpret_cast<uintptr_t>(first) +
+                                static_cast<uintptr_t>(y) * static_cast<uintptr_t>(step));
+  }
 };
 
 template <typename T>
