@@ -29,50 +29,42 @@ auto bitsOf(T sample) {
   return bits;
 }
 
-template <typename, typename T, typename>
-LumStatus expand(const Lum8u* src, int srcStep, int srcBitOffset, T* dst, int dstStep, LumiSize roi,
-                 T zeroValue, T oneValue) {
-  if (LumStatus fault =
-          firstFault(pointers(src, dst), size(roi), steps(srcStep, dstStep), bitOffset(srcBitOffset)))
+// The checks and the walk of all members; kernel(source row, destination row, bit, pixels).
+template <typename S, typename D, typename Kernel>
+LumStatus walkBits(const S* src, int srcStep, D* dst, int dstStep, int offset, LumiSize roi, Kernel kernel) {
+  if (LumStatus fault = firstFault(pointers(src, dst), size(roi), steps(srcStep, dstStep), bitOffset(offset)))
     return fault;
   walkRows(
       roi.height,
-      [&](const Byte* s, Byte* d) {
-        expandBitsRow(s, firstBit(srcBitOffset), d, static_cast<size_t>(roi.width), bitsOf(zeroValue),
-                      bitsOf(oneValue));
-      },
+      [&](const Byte* s, Byte* d) { kernel(s, d, firstBit(offset), static_cast<size_t>(roi.width)); },
       rows(src, srcStep), rows(dst, dstStep));
   return lumStatusOk;
+}
+
+template <typename, typename T, typename>
+LumStatus expand(const Lum8u* src, int srcStep, int srcBitOffset, T* dst, int dstStep, LumiSize roi,
+                 T zeroValue, T oneValue) {
+  return walkBits(src, srcStep, dst, dstStep, srcBitOffset, roi,
+                  [&](const Byte* s, Byte* d, unsigned bit, size_t pixels) {
+                    expandBitsRow(s, bit, d, pixels, bitsOf(zeroValue), bitsOf(oneValue));
+                  });
 }
 
 template <typename, typename, typename>
 LumStatus expandToFull(const Lum8u* src, int srcStep, int srcBitOffset, Lum8u* dst, int dstStep,
                        LumiSize roi) {
-  if (LumStatus fault =
-          firstFault(pointers(src, dst), size(roi), steps(srcStep, dstStep), bitOffset(srcBitOffset)))
-    return fault;
-  walkRows(
-      roi.height,
-      [&](const Byte* s, Byte* d) {
-        expandBitsToFullRow(s, firstBit(srcBitOffset), d, static_cast<size_t>(roi.width));
-      },
-      rows(src, srcStep), rows(dst, dstStep));
-  return lumStatusOk;
+  return walkBits(
+      src, srcStep, dst, dstStep, srcBitOffset, roi,
+      [](const Byte* s, Byte* d, unsigned bit, size_t pixels) { expandBitsToFullRow(s, bit, d, pixels); });
 }
 
 template <typename T, typename, typename>
 LumStatus compare(const T* src, int srcStep, Lum8u* dst, int dstStep, int dstBitOffset, LumiSize roi,
                   T threshold) {
-  if (LumStatus fault =
-          firstFault(pointers(src, dst), size(roi), steps(srcStep, dstStep), bitOffset(dstBitOffset)))
-    return fault;
-  walkRows(
-      roi.height,
-      [&](const Byte* s, Byte* d) {
-        bitsAboveRow<T>(s, d, firstBit(dstBitOffset), static_cast<size_t>(roi.width), threshold);
-      },
-      rows(src, srcStep), rows(dst, dstStep));
-  return lumStatusOk;
+  return walkBits(src, srcStep, dst, dstStep, dstBitOffset, roi,
+                  [&](const Byte* s, Byte* d, unsigned bit, size_t pixels) {
+                    bitsAboveRow<T>(s, d, bit, pixels, threshold);
+                  });
 }
 
 }  // namespace
