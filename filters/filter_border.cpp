@@ -7,6 +7,7 @@
 
 #include "filters/border_image.hpp"
 #include "filters/filter_border_object.hpp"
+#include "frame/border.hpp"
 #include "frame/check.hpp"
 #include "frame/layout.hpp"
 #include "frame/rows.hpp"
@@ -91,7 +92,7 @@ class FilterRun {
   }
 
   void run() const {
-    if (mode() == lumiBorderInMemory) return filter(pixelAt(src_, -left_, -top_), {0, 0}, roi_);
+    if (border_.type() == lumiBorderInMemory) return filter(pixelAt(src_, -left_, -top_), {0, 0}, roi_);
     if (roi_.height < top_ + bottom_) return filterSmall();
     filterTopAndBottom();
     const LumiSize middle{roi_.width, roi_.height - top_ - bottom_};
@@ -103,8 +104,7 @@ class FilterRun {
   }
 
  private:
-  int mode() const { return border_ & kBorderModeMask; }
-  int added(int side, LumiBorderType flag) const { return border_ & flag ? side : 0; }
+  int added(int side, LumiBorderType flag) const { return border_.isInMemory(flag) ? side : 0; }
 
   template <typename B>
   static Rows<B> pixelAt(Rows<B> image, int x, int y) {
@@ -117,7 +117,7 @@ class FilterRun {
                           ptrdiff_t step) const {
     const Rows<Byte> rows{image_, step};
     const Rows<const Byte> result{image_, step};
-    if (mode() != lumiBorderConst && mode() != lumiBorderReplicate) return result;
+    if (!border_.isOneOf(lumiBorderConst, lumiBorderReplicate)) return result;
     const int left = added(frame.x, lumiBorderInMemoryLeft), top = added(frame.y, lumiBorderInMemoryTop);
     const int right = added(after.x, lumiBorderInMemoryRight);
     const int bottom = added(after.y, lumiBorderInMemoryBottom);
@@ -125,7 +125,7 @@ class FilterRun {
                           {size.width + left + right, size.height + top + bottom},
                           frame.y - top,
                           frame.x - left};
-    if (mode() == lumiBorderConst)
+    if (border_.type() == lumiBorderConst)
       constantBorder<T, Layout>(part, borderValue_, rows, image);
     else
       replicateBorder<T, Layout>(part, rows, image);
@@ -228,7 +228,7 @@ class FilterRun {
   Rows<const Byte> src_;
   Rows<Byte> dst_;
   LumiSize roi_;
-  LumiBorderType border_;
+  BorderMode border_;
   const T* borderValue_;
   int left_, right_, top_, bottom_;
   Lum8u* image_;

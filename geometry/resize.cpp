@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "frame/border.hpp"
 #include "frame/check.hpp"
 #include "frame/layout.hpp"
 #include "frame/rows.hpp"
@@ -29,17 +30,10 @@ LumStatus madeFor(const Plan& plan, LumiInterpolationType interpolation) {
                                                                        : lumStatusUnsupportedMode;
 }
 
-constexpr LumiBorderType kBorderTypes = 7, kBorderSides = 0xF0;
-
-// Whether all pixels outside the source are in memory.
-bool isAllInMemory(LumiBorderType border) {
-  return (border & kBorderTypes) == lumiBorderInMemory || (border & kBorderSides) == kBorderSides;
-}
-
-LumStatus borderTaken(LumiBorderType border) {
-  if ((border & ~(kBorderTypes | kBorderSides)) != 0) return lumStatusBadBorder;
-  const LumiBorderType type = border & kBorderTypes;
-  return type == lumiBorderReplicate || type == lumiBorderInMemory ? lumStatusOk : lumStatusUnsupportedMode;
+LumStatus borderTaken(BorderMode border) {
+  constexpr LumiBorderType types = 7;
+  if ((border.value() & ~(types | BorderMode::kAllSides)) != 0) return lumStatusBadBorder;
+  return border.isOneOf(lumiBorderReplicate, lumiBorderInMemory) ? lumStatusOk : lumStatusUnsupportedMode;
 }
 
 // The checks that all runs begin with, the plan's interpolation included.
@@ -107,8 +101,8 @@ class LinearTile {
     columns_ = columns_.from(static_cast<size_t>(offset.x), static_cast<size_t>(size.width));
   }
 
-  void run(LumiBorderType border, Lum8u* buffer) {
-    if (!isAllInMemory(border)) runEdges(border);
+  void run(BorderMode border, Lum8u* buffer) {
+    if (!border.isAllInMemory()) runEdges(border);
     if (middleX_.count() <= 0 || middleY_.count() <= 0) return;
     if constexpr (sizeof(T) == 1) {
       if (isHalved(plan_.horizontal) && isHalved(plan_.vertical)) return runHalved();
@@ -147,11 +141,11 @@ class LinearTile {
     return plan_.vertical.template weights<BlendWeight<T>>()[offset_.y + y];
   }
 
-  void runEdges(LumiBorderType border) {
-    middleX_ = middleOf(plan_.horizontal, offset_.x, size_.width, border & lumiBorderInMemoryLeft,
-                        border & lumiBorderInMemoryRight);
-    middleY_ = middleOf(plan_.vertical, offset_.y, size_.height, border & lumiBorderInMemoryTop,
-                        border & lumiBorderInMemoryBottom);
+  void runEdges(BorderMode border) {
+    middleX_ = middleOf(plan_.horizontal, offset_.x, size_.width, border.isInMemory(lumiBorderInMemoryLeft),
+                        border.isInMemory(lumiBorderInMemoryRight));
+    middleY_ = middleOf(plan_.vertical, offset_.y, size_.height, border.isInMemory(lumiBorderInMemoryTop),
+                        border.isInMemory(lumiBorderInMemoryBottom));
     for (int y = 0; y < middleY_.first; ++y) edgeRow(y, 0);
     for (int y = middleY_.end; y < size_.height; ++y) edgeRow(y, plan_.vertical.srcSize - 1);
     for (int y = middleY_.first; y < middleY_.end; ++y)
@@ -225,10 +219,10 @@ LumStatus resizeLinear(const T* src, int srcStep, T* dst, int dstStep, LumiPoint
   if (LumStatus fault =
           runFault(src, srcStep, dst, dstStep, dstOffset, dstSize, object, buffer, plan, lumInterpLinear))
     return fault;
-  if (LumStatus fault = borderTaken(border)) return fault;
+  if (LumStatus fault = borderTaken(BorderMode(border))) return fault;
   LinearTile<T, Layout::kStored, std::decay_t<decltype(*plan)>>(*plan, src, srcStep, dst, dstStep, dstOffset,
                                                                 clipped(*plan, dstOffset, dstSize))
-      .run(border, buffer);
+      .run(BorderMode(border), buffer);
   return aboveWhole(*plan, dstSize);
 }
 
