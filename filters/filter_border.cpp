@@ -18,7 +18,6 @@ namespace {
 
 using namespace check;
 
-constexpr int kBorderModeMask = 15;
 constexpr int kLeastStrip = 4;  // rows of a strip that is worth the turn
 
 template <typename T>
