@@ -32,7 +32,7 @@ lumi_sources(frame attach image_memory version streaming)
 lumi_sources(data set copy copy_channels border convert scale bits)
 lumi_sources(arithmetic add_sub)
 lumi_sources(geometry resize resize_spec)
-lumi_kernels(resize_nearest resize_linear resize_linear_floats)
+lumi_kernels(resize_nearest resize_linear resize_linear_floats resize_by_two)
 lumi_kernels(masked chosen planes pattern)  # not of one family alone
 lumi_sources(filters filter_border filter_border_object)
 lumi_kernels(convert_floats convert_scaled filter_border_floats)

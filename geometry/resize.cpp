@@ -10,6 +10,7 @@
 #include "frame/layout.hpp"
 #include "frame/rows.hpp"
 #include "geometry/resize_spec.hpp"
+#include "kernels/resize_by_two.hpp"
 #include "kernels/resize_linear.hpp"
 #include "kernels/resize_nearest.hpp"
 
@@ -104,8 +105,11 @@ class LinearTile {
   void run(BorderMode border, Lum8u* buffer) {
     if (!border.isAllInMemory()) runEdges(border);
     if (middleX_.count() <= 0 || middleY_.count() <= 0) return;
-    if constexpr (sizeof(T) == 1) {
-      if (isHalved(plan_.horizontal) && isHalved(plan_.vertical)) return runHalved();
+    if constexpr (kHalvesRows<T, channels>) {
+      if (hasRatio(2, 1)) return runHalved();
+    }
+    if constexpr (kDoublesRows<T>) {
+      if (hasRatio(1, 2)) return runDoubled(buffer);
     }
     runMiddle(buffer);
   }
@@ -115,10 +119,10 @@ class LinearTile {
   using Blender = ColumnBlender<T, channels>;
   static constexpr int kPixel = channels * static_cast<int>(sizeof(T));
 
-  // Every position lies in the middle of two.
-  template <typename Axis>
-  static bool isHalved(const Axis& axis) {
-    return axis.reducedDst == 1 && axis.reducedSrc == 2;
+  // On both axes.
+  bool hasRatio(int src, int dst) const {
+    const auto has = [=](const auto& axis) { return axis.reducedSrc == src && axis.reducedDst == dst; };
+    return has(plan_.horizontal) && has(plan_.vertical);
   }
 
   // What is left of a tile's axis between the positions that lie before the first source position and those
@@ -175,8 +179,27 @@ class LinearTile {
   void runHalved() {
     const int column = middleColumns().index[0];
     for (int y = middleY_.first; y < middleY_.end; ++y)
-      halveRows<channels>(sourcePixel(rowIndex(y), column), sourcePixel(rowIndex(y) + 1, column),
-                          pixel(y, middleX_.first), static_cast<size_t>(middleX_.count()));
+      halveRows<T, channels>(sourcePixel(rowIndex(y), column), sourcePixel(rowIndex(y) + 1, column),
+                             pixel(y, middleX_.first), static_cast<size_t>(middleX_.count()));
+  }
+
+  // Between two source rows lie two rows, an odd and an even one. A tile may begin or end between them: then
+  // the other one goes to the scratch.
+  void runDoubled(Lum8u* scratch) {
+    const int column = middleColumns().index[0];
+    const size_t phase = (offset_.x + middleX_.first) % 2 == 0 ? 1 : 0;
+    for (int y = middleY_.first; y < middleY_.end; ++y) {
+      const int row = rowIndex(y);
+      Byte *upper = scratch, *lower = scratch;
+      if ((offset_.y + y) % 2 == 1) {
+        upper = pixel(y, middleX_.first);
+        if (y + 1 < middleY_.end) lower = pixel(++y, middleX_.first);
+      } else {
+        lower = pixel(y, middleX_.first);
+      }
+      doubleRows<channels>(sourcePixel(row, column), sourcePixel(row + 1, column), upper, lower, phase,
+                           static_cast<size_t>(middleX_.count()));
+    }
   }
 
   // Two rows of blended columns are kept; each source row is blended once for all rows that need it.

@@ -167,31 +167,6 @@ Bytes16 blendQ6(const int16_t* nearer, const int16_t* farther, S16 weight) {
   return packed<uint8_t>(half(0), half(kLanes)).v;
 }
 
-// A pixel and its right neighbour, of 16 bytes, as pairs of samples.
-template <int channels>
-Bytes16 neighbours(Bytes16 pixels) {
-  if constexpr (channels == 1) return pixels;
-  constexpr Control kPairs = channels == 3
-                                 ? Control{0, 3, 1, 4, 2, 5, 6, 9, 7, 10, 8, 11, kZero, kZero, kZero, kZero}
-                                 : Control{0, 4, 1, 5, 2, 6, 3, 7, 8, 12, 9, 13, 10, 14, 11, 15};
-  return shuffle(pixels, vectorOf(kPairs));
-}
-
-// (a + b + c + d + 2) >> 2 of eight samples: with every weight 2^13, p is 32 (a + b).
-template <int channels>
-S16 halved(const Byte* first, const Byte* second) {
-  const S8 ones = broadcast<int8_t>(1);
-  const S16 sum = sumOfProducts({neighbours<channels>(load16(first))}, ones) +
-                  sumOfProducts({neighbours<channels>(load16(second))}, ones);
-  return shiftRight<2>(sum + broadcast<int16_t>(2));
-}
-
-template <int channels>
-void halveBlock(const Byte* first, const Byte* second, Byte* dst) {
-  const S16 mean = halved<channels>(first, second);
-  store8(dst, packed<uint8_t>(mean, mean).v);
-}
-
 // t has 14 fraction bits. An odd integer part rounds up from a unit below its half.
 uint8_t roundedQ14(int t) { return static_cast<uint8_t>((t + ((t >> 14) & 1) + 8192) >> 14); }
 
@@ -266,32 +241,5 @@ void blendRows<uint8_t>(const int16_t* first, const int16_t* second, uint16_t c,
   store16(rest, blendQ6(nearer + i, farther + i, weight));
   std::memcpy(dst + i, rest, samples - i);
 }
-
-template <int channels>
-void halveRows(const uint8_t* first, const uint8_t* second, uint8_t* dst, size_t count) {
-  constexpr size_t kTaken = kUsed<channels>;
-  const size_t samples = count * channels;
-  size_t i = 0;
-  if constexpr (channels != 3) {
-    for (; i + kStep <= samples; i += kStep) {
-      const Byte *const a = first + 2 * i, *const b = second + 2 * i;
-      store16(dst + i, packed<uint8_t>(halved<channels>(a, b), halved<channels>(a + kStep, b + kStep)).v);
-    }
-  }
-  // A block loads sixteen bytes of twice as many samples and stores eight: both are inside while this holds.
-  for (; i + kLanes <= samples; i += kTaken) halveBlock<channels>(first + 2 * i, second + 2 * i, dst + i);
-  for (; i < samples; i += kTaken) {
-    const size_t rest = std::min(samples - i, kTaken);
-    Byte rows[2][16] = {}, result[kLanes];
-    std::memcpy(rows[0], first + 2 * i, 2 * rest);
-    std::memcpy(rows[1], second + 2 * i, 2 * rest);
-    halveBlock<channels>(rows[0], rows[1], result);
-    std::memcpy(dst + i, result, rest);
-  }
-}
-
-template void halveRows<1>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
-template void halveRows<3>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
-template void halveRows<4>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
 
 }  // namespace lumi

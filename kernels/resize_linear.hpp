@@ -94,9 +94,4 @@ template <>
 void blendRows<uint8_t>(const int16_t* first, const int16_t* second, uint16_t c, uint8_t* dst,
                         size_t samples);
 
-// Two rows of bytes to half their length, each result from two by two samples: what both stages make of
-// weights of one half everywhere. `count` is in pixels of the result.
-template <int channels>
-void halveRows(const uint8_t* first, const uint8_t* second, uint8_t* dst, size_t count);
-
 }  // namespace lumi

@@ -72,11 +72,19 @@ Bytes16 blockOf(const Byte* src, const Byte* windows) {
   return either(first, second);
 }
 
+// Where the first window holds all.
+Bytes16 narrowBlockOf(const Byte* src, const Byte* windows) {
+  int32_t first = 0;
+  move<4>(reinterpret_cast<Byte*>(&first), windows + offsetof(Windows, first));
+  return shuffle(load16(src + first), load16(windows + offsetof(Windows, control)));
+}
+
+template <Bytes16 (&blockAt)(const Byte*, const Byte*)>
 void pickByWindows(const Byte* src, Byte* dst, const Byte* windows, size_t columns, size_t pixelBytes) {
   const size_t each = kBlock / pixelBytes, whole = columns / each;
   for (size_t block = 0; block < whole; ++block, windows += sizeof(Windows))
-    store16(dst + block * kBlock, blockOf(src, windows));
-  if (columns % each != 0) store16(dst + columns * pixelBytes - kBlock, blockOf(src, windows));
+    store16(dst + block * kBlock, blockAt(src, windows));
+  if (columns % each != 0) store16(dst + columns * pixelBytes - kBlock, blockAt(src, windows));
 }
 
 // Dwords four at a time. Where four columns never span more than four pixels, they are picked from one
@@ -127,6 +135,7 @@ PickedColumns::PickedColumns(const int32_t* index, int32_t origin, size_t column
       columns_(columns),
       pixelBytes_(pixelBytes),
       windows_(nullptr),
+      isNarrow_(true),
       isClose_(advancesBy(0, 1, index, columns)),
       isHalved_(pixelBytes <= 4 && pixelBytes != 3 && advancesBy(2, 2, index, columns)) {
   if (isHalved_ || !suitsWindows(index, columns, pixelBytes)) return;
@@ -136,6 +145,7 @@ PickedColumns::PickedColumns(const int32_t* index, int32_t origin, size_t column
     const Windows w =
         windowsOf(index + blockStart(block, columns, each), pixelBytes, origin, index[columns - 1] + 1);
     move<sizeof(Windows)>(scratch + block * sizeof(Windows), reinterpret_cast<const Byte*>(&w));
+    isNarrow_ = isNarrow_ && w.control.back() < kBlock;  // the last pixel is the farthest
   }
 }
 
@@ -155,7 +165,10 @@ void PickedColumns::pickHalved(const uint8_t* base, uint8_t* dst) const {
 }
 
 void PickedColumns::pick(const uint8_t* src, uint8_t* dst) const {
-  if (windows_) return pickByWindows(src, dst, windows_, columns_, pixelBytes_);
+  if (windows_) {
+    return isNarrow_ ? pickByWindows<narrowBlockOf>(src, dst, windows_, columns_, pixelBytes_)
+                     : pickByWindows<blockOf>(src, dst, windows_, columns_, pixelBytes_);
+  }
   const Byte* const base = src - static_cast<ptrdiff_t>(origin_) * static_cast<ptrdiff_t>(pixelBytes_);
   if (isHalved_) return pickHalved(base, dst);
   switch (pixelBytes_) {

@@ -23,6 +23,7 @@ class PickedColumns {
   int32_t origin_;
   size_t columns_, pixelBytes_;
   uint8_t* windows_;  // null where columns are picked one by one
+  bool isNarrow_;     // each block needs one vector of the source
   bool isClose_;      // from one column to the next is one source column at most
   bool isHalved_;     // it is always two
 };

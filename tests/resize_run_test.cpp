@@ -188,6 +188,10 @@ Tile randomTile(Random& random, bool linear, int limit) {
   chooseLengths(random, linear ? 2 : 1, limit, &tile.src.width, &tile.dst.width);
   chooseLengths(random, linear ? 2 : 1, limit / 4 + 2, &tile.src.height, &tile.dst.height);
   if (random.oneIn(8)) tile.src = {2 * tile.dst.width, 2 * tile.dst.height};
+  if (random.oneIn(8)) {
+    tile.src = {std::min(tile.src.width, limit), std::min(tile.src.height, limit)};
+    tile.dst = {2 * tile.src.width, 2 * tile.src.height};
+  }
   tile.size = tile.dst;
   if (random.oneIn(2)) {
     tile.offset = {random.below(tile.dst.width), random.below(tile.dst.height)};
@@ -249,11 +253,12 @@ TEST_P(ResizeRun, EveryWidth) {
     if (kind == "Nearest" && GetParam() == "64f") continue;
     for (int channels : kChannels)
       for (int width = 1; width <= 70; ++width)
-        for (int src :
-             {2, width / 3 + 2, width + 1, width * 3 / 2 + 2, width * 2, width * 2 + 1, width * 3 + 2}) {
-          if (kind == "Linear" && src < 2) continue;
-          // Halves on both axes are a path of its own.
-          const Tile tile{{src, src == 2 * width ? 8 : 5}, {width, 4}, {0, 0}, {width, 4}, channels, 1};
+        for (int src : {2, width / 3 + 2, width / 2, width + 1, width * 3 / 2 + 2, width * 2, width * 2 + 1,
+                        width * 3 + 2}) {
+          if (src < (kind == "Linear" ? 2 : 1)) continue;
+          // The half and the double on both axes are paths of their own.
+          const int rows = src == 2 * width ? 8 : width == 2 * src ? 2 : 5;
+          const Tile tile{{src, rows}, {width, 4}, {0, 0}, {width, 4}, channels, 1};
           const PlanMemory plan(kind, GetParam(), tile.src, tile.dst);
           Random random(mixSeed(settings().seed, kind, width * 1000 + src));
           Bench::Options options;

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+#include "kernels/resize_by_two.hpp"
+
+#include <algorithm>
+
+#include "kernels/simd/resize.hpp"
+#include "kernels/simd/scale.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace simd;
+
+// A pixel and its right neighbour, of 16 bytes, as pairs of samples.
+template <int channels>
+Bytes16 neighbours(Bytes16 pixels) {
+  if constexpr (channels == 1) return pixels;
+  constexpr Control kPairs = channels == 3
+                                 ? Control{0, 3, 1, 4, 2, 5, 6, 9, 7, 10, 8, 11, kZero, kZero, kZero, kZero}
+                                 : Control{0, 4, 1, 5, 2, 6, 3, 7, 8, 12, 9, 13, 10, 14, 11, 15};
+  return shuffle(pixels, vectorOf(kPairs));
+}
+
+// Blocks make kStored samples from twice as many, of which kUsed count.
+template <typename T, int channels>
+struct Halves;
+
+// (a + b + c + d + 2) >> 2 is what both stages round to.
+template <int channels>
+struct Halves<uint8_t, channels> {
+  static constexpr size_t kStored = channels == 3 ? 8 : 16, kUsed = channels == 3 ? 6 : 16;
+
+  static S16 mean(const Byte* first, const Byte* second) {
+    const S8 ones = broadcast<int8_t>(1);
+    const S16 sum = sumOfProducts({neighbours<channels>(load16(first))}, ones) +
+                    sumOfProducts({neighbours<channels>(load16(second))}, ones);
+    return shiftRight<2>(sum + broadcast<int16_t>(2));
+  }
+  static void block(const Byte* first, const Byte* second, Byte* dst) {
+    const S16 low = mean(first, second);
+    if constexpr (channels == 3)
+      store8(dst, packed<uint8_t>(low, low).v);
+    else
+      store16(dst, packed<uint8_t>(low, mean(first + 16, second + 16)).v);
+  }
+};
+
+// Sums of four words are exact in floats, and so are their quarters, which are rounded once.
+template <typename T>
+struct HalvesOfWords {
+  static constexpr size_t kStored = 8, kUsed = 8;
+
+  static S32 sum(const Byte* first, const Byte* second) {
+    const Bytes16 a = load16(first), b = load16(second);
+    return lowWords<T>(a) + highWords<T>(a) + lowWords<T>(b) + highWords<T>(b);
+  }
+  static void block(const Byte* first, const Byte* second, Byte* dst) {
+    const Floats8 sums = floatsOf(joined(sum(first, second), sum(first + 16, second + 16)));
+    const Ints8 means = rounded(sums * broadcastWide(0.25F));
+    store16(dst, packed<T>(lowHalf(means), highHalf(means)).v);
+  }
+};
+template <>
+struct Halves<uint16_t, 1> : HalvesOfWords<uint16_t> {};
+template <>
+struct Halves<int16_t, 1> : HalvesOfWords<int16_t> {};
+
+template <>
+struct Halves<float, 1> {
+  static constexpr size_t kStored = 8, kUsed = 8;
+
+  static Floats8 halfway(Floats8 a, Floats8 b) { return a + (b - a) * broadcastWide(0.5F); }
+  static Floats8 columns(const Byte* p) {
+    const Bytes32 a = joined(load16(p), load16(p + 32)), b = joined(load16(p + 16), load16(p + 48));
+    return halfway(evens(a, b), odds(a, b));
+  }
+  static void block(const Byte* first, const Byte* second, Byte* dst) {
+    store32(dst, bytesOf(halfway(columns(first), columns(second))));
+  }
+};
+
+// Between four neighbours, both stages round S = 9 a + 3 b + 3 c + d to (S + 8) >> 4. A block takes eight
+// samples, each with its right neighbour, and makes two results of each in each of two rows.
+template <int channels>
+struct Doubles {
+  static constexpr size_t kGaps = channels == 1 ? 8 : 2;  // between columns
+  static constexpr size_t kStored = 16, kUsed = 2 * kGaps * channels;
+
+  struct TwoRows {
+    S16 nearFirst, nearSecond;
+  };
+
+  // Sums of both rows with a bias; where the weights are 16 times as large, they fill all 16 bits.
+  static TwoRows sums(Bytes16 first, Bytes16 second, S8 weights, int16_t bias) {
+    const S16 p = sumOfProducts({first}, weights), q = sumOfProducts({second}, weights);
+    const S16 sum = p + q + broadcast(bias);
+    return {sum + (p + p), sum + (q + q)};
+  }
+  // The results next to the left samples are the low bytes, those next to the right ones the high bytes.
+  static Bytes16 inOrder(S16 left, S16 right) {
+    const Bytes16 words = either((U16{left.v} >> Shift(4)).v, both(right.v, broadcast<uint16_t>(0xFF00).v));
+    if constexpr (channels == 1) return words;
+    constexpr Control kPixels = channels == 3
+                                    ? Control{0, 2, 4, 1, 3, 5, 6, 8, 10, 7, 9, 11, kZero, kZero, kZero, kZero}
+                                    : Control{0, 2, 4, 6, 1, 3, 5, 7, 8, 10, 12, 14, 9, 11, 13, 15};
+    return shuffle(words, vectorOf(kPixels));
+  }
+  static Bytes16 pairs(const Byte* p) { return wordsOf(loadFew<8>(p), loadFew<8>(p + channels)); }
+
+  static void block(const Byte* first, const Byte* second, Byte* nearFirst, Byte* nearSecond) {
+    const Bytes16 a = pairs(first), b = pairs(second);
+    const TwoRows left = sums(a, b, {broadcast<int16_t>(0x0103).v}, 8);
+    const TwoRows right = sums(a, b, {broadcast<int16_t>(0x3010).v}, 8 * 16);
+    store16(nearFirst, inOrder(left.nearFirst, right.nearFirst));
+    store16(nearSecond, inOrder(left.nearSecond, right.nearSecond));
+  }
+};
+
+}  // namespace
+
+template <typename T, int channels>
+void halveRows(const uint8_t* first, const uint8_t* second, uint8_t* dst, size_t count) {
+  using Block = Halves<T, channels>;
+  constexpr size_t kStored = Block::kStored * sizeof(T), kUsed = Block::kUsed * sizeof(T);
+  const size_t bytes = count * channels * sizeof(T);
+  size_t i = 0;
+  for (; i + kStored <= bytes; i += kUsed) Block::block(first + 2 * i, second + 2 * i, dst + i);
+  for (; i < bytes; i += kUsed) {
+    const size_t rest = std::min(bytes - i, kUsed);
+    Byte rows[2][2 * kStored] = {}, result[kStored];
+    std::memcpy(rows[0], first + 2 * i, 2 * rest);
+    std::memcpy(rows[1], second + 2 * i, 2 * rest);
+    Block::block(rows[0], rows[1], result);
+    std::memcpy(dst + i, result, rest);
+  }
+}
+
+template <int channels>
+void doubleRows(const uint8_t* first, const uint8_t* second, uint8_t* nearFirst, uint8_t* nearSecond,
+                size_t phase, size_t count) {
+  using Block = Doubles<channels>;
+  // Some pixels of a block, from pixel `left` of its first gap on.
+  const auto part = [](const Byte* a, const Byte* b, Byte* nearA, Byte* nearB, size_t left, size_t pixels) {
+    Byte rows[2][16] = {}, results[2][16];
+    const size_t gaps = (left + pixels + 1) / 2;
+    std::memcpy(rows[0], a, (gaps + 1) * channels);
+    std::memcpy(rows[1], b, (gaps + 1) * channels);
+    Block::block(rows[0], rows[1], results[0], results[1]);
+    std::memcpy(nearA, results[0] + left * channels, pixels * channels);
+    std::memcpy(nearB, results[1] + left * channels, pixels * channels);
+  };
+  const size_t bytes = count * channels;
+  size_t from = 0, i = 0;
+  if (phase != 0 && count > 0) {
+    part(first, second, nearFirst, nearSecond, 1, 1);
+    from = i = channels;
+  }
+  for (; i + Block::kStored <= bytes; i += Block::kUsed, from += Block::kUsed / 2)
+    Block::block(first + from, second + from, nearFirst + i, nearSecond + i);
+  for (; i < bytes; i += Block::kUsed, from += Block::kUsed / 2)
+    part(first + from, second + from, nearFirst + i, nearSecond + i, 0,
+         std::min(bytes - i, Block::kUsed) / channels);
+}
+
+template void halveRows<uint8_t, 1>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
+template void halveRows<uint8_t, 3>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
+template void halveRows<uint8_t, 4>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
+template void halveRows<uint16_t, 1>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
+template void halveRows<int16_t, 1>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
+template void halveRows<float, 1>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
+template void doubleRows<1>(const uint8_t*, const uint8_t*, uint8_t*, uint8_t*, size_t, size_t);
+template void doubleRows<3>(const uint8_t*, const uint8_t*, uint8_t*, uint8_t*, size_t, size_t);
+template void doubleRows<4>(const uint8_t*, const uint8_t*, uint8_t*, uint8_t*, size_t, size_t);
+
+}  // namespace lumi
