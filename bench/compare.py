@@ -17,9 +17,11 @@ HELD = {
     "OPENCV_CPU_DISABLE": "FP16,FMA3,AVX2,AVX512-SKX",
     "GLIBC_TUNABLES": "glibc.cpu.hwcaps=-AVX2,-AVX512F,-AVX512VL,-AVX512BW,-AVX512CD,-AVX512DQ",
 }
-# Rows of the compact table.
+# Rows of the compact table, at full HD unless a size is given.
 SELECTED = ("fill 8u C1", "fill 8u C3", "fill masked 8u C1", "copy 8u C1", "copy 32f C1", "copy masked 8u C1",
-            "copy masked 8u C3", "split 8u C3P3", "merge 8u P3C3", "channel 8u C3C1", "colour 8u AC4C3")
+            "copy masked 8u C3", "split 8u C3P3", "merge 8u P3C3", "channel 8u C3C1", "colour 8u AC4C3", "filter 8u C1 5x5",
+            "filter 32f C1 5x5", "resize nearest 8u C1 1280x720", "resize linear 8u C1 1280x720",
+            "resize linear 8u C1 3840x2160", "resize linear 32f C1 1280x720")
 # A peer built as well for 32 bits as for 64 would lose about this much to the fewer registers.
 WORD_COST = 1.1
 
@@ -76,19 +78,19 @@ def add_bar(rows32, rows64):
             row["bar"] = {"ns": min(known), "ratio": min(known) / row["ours"]}
 
 
-def cells(row):
+def cells(row, has_bar):
     def triple(result):
         return [result["peer"], f'{result["ns"]:.4g}', f'{result["ratio"]:.2f}'] if result else ["-"] * 3
-    bar = [f'{row["bar"]["ratio"]:.2f}'] if "bar" in row else []
+    bar = [f'{row["bar"]["ratio"]:.2f}' if "bar" in row else "-"] if has_bar else []
     return ([row["name"], row["size"], f'{row["ours"]:.4g}', f'{row["gbps"]:.1f}'] + triple(row["held"]) + bar +
             triple(row["native"]) + [f'{100 * row["share"]:.0f}%'])
 
 
 def table(rows):
-    bar = ["bar"] if any("bar" in row for row in rows) else []
-    head = (["operation", "size", "ns/px", "GB/s", "held peer", "ns/px", "ratio"] + bar +
+    has_bar = any("bar" in row for row in rows)
+    head = (["operation", "size", "ns/px", "GB/s", "held peer", "ns/px", "ratio"] + ["bar"] * has_bar +
             ["native peer", "ns/px", "ratio", "limit"])
-    lines = [head] + [cells(row) for row in rows]
+    lines = [head] + [cells(row, has_bar) for row in rows]
     widths = [max(len(line[i]) for line in lines) for i in range(len(head))]
     texts = (0, 1, 4, head.index("native peer"))
     return "\n".join("  ".join(cell.ljust(width) if i in texts else cell.rjust(width)
@@ -96,15 +98,19 @@ def table(rows):
 
 
 def markdown(words):
-    """A compact table: full-HD rows, ns a pixel and the ratios to the best peers."""
-    lines = ["| 1920x1080 | word | ours, ns/px | GB/s | held peers | native peers |", "|---|---|---|---|---|---|"]
+    """A compact table: selected rows, ns a pixel and the ratios to the best peers."""
+    def title(row):
+        return row["name"] if row["size"] == "1920x1080" else f'{row["name"]} {row["size"]}'
+
+    def ratio(result):
+        return f'{result["ratio"]:.2f} ({result["peer"]})' if result else "-"
+    lines = ["| 1920x1080 unless said | word | ours, ns/px | GB/s | held peers | native peers |", "|---|---|---|---|---|---|"]
     for name in SELECTED:
         for word, rows in words.items():
             for row in rows:
-                if row["name"] == name and row["size"] == "1920x1080" and row["held"]:
+                if title(row) == name:
                     lines.append(f'| {name} | {word} | {row["ours"]:.3g} | {row["gbps"]:.0f} | '
-                                 f'{row["held"]["ratio"]:.2f} ({row["held"]["peer"]}) | '
-                                 f'{row["native"]["ratio"]:.2f} ({row["native"]["peer"]}) |')
+                                 f'{ratio(row["held"])} | {ratio(row["native"])} |')
     return "\n".join(lines)
 
 
@@ -118,7 +124,8 @@ def plot(words, path):
     for panel, (word, rows) in zip(panels[0], words.items()):
         for kind, marker, colour in (("native", "o", "tab:orange"), ("held", "D", "tab:blue")):
             points = [(row[kind]["ratio"], y) for y, row in enumerate(rows) if row[kind]]
-            panel.scatter(*zip(*points), s=14, marker=marker, color=colour, label=f"best {kind} peer", zorder=3)
+            ratios, places = [ratio for ratio, _ in points], [place for _, place in points]
+            panel.scatter(ratios, places, s=14, marker=marker, color=colour, label=f"best {kind} peer", zorder=3)
         panel.axvline(1, color="black", linewidth=0.8)
         panel.set_xscale("log")
         panel.set_yticks(range(len(rows)), [f'{row["name"]}  {row["size"]}' for row in rows], fontsize=6)

@@ -76,6 +76,7 @@ class Scene {
  public:
   Scene(LumiSize roi, Placement placement);
 
+  LumiSize roi() const { return roi_; }
   template <typename T>
   Image<T> input(int channels) {
     return typed<T>(allocate(depthOf<T>(), channels, false));

@@ -10,6 +10,7 @@
 #include "bench/peers/opencv.hpp"
 #include "bench/peers/pixman.hpp"
 #include "bench/peers/yuv.hpp"
+#include "bench/peers/zimg.hpp"
 
 namespace {
 
@@ -39,7 +40,7 @@ const char* boolean(bool value) { return value ? "true" : "false"; }
 
 std::vector<Library> libraries() {
   std::vector<Library> all;
-  for (const auto library : {opencv::library, yuv::library, pixman::library, libc::library}) {
+  for (const auto library : {opencv::library, yuv::library, pixman::library, zimg::library, libc::library}) {
     if (library != nullptr) all.push_back(library());
   }
   return all;
@@ -79,7 +80,9 @@ bool isHeld() {
 
 int run(const Options& options) {
   if (opencv::prepare != nullptr) opencv::prepare();
-  if (options.held && yuv::hold != nullptr) yuv::hold();
+  for (const auto hold : {yuv::hold, zimg::hold}) {
+    if (options.held && hold != nullptr) hold();
+  }
   if (options.held && !isHeld()) return 2;
   std::printf("{\"word\": %d, \"held\": %s, \"libraries\": [", static_cast<int>(sizeof(void*)) * 8,
               boolean(options.held));

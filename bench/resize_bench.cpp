@@ -4,7 +4,9 @@
 
 #include "bench/harness.hpp"
 #include "bench/peers/opencv.hpp"
+#include "bench/peers/pixman.hpp"
 #include "bench/peers/yuv.hpp"
+#include "bench/peers/zimg.hpp"
 
 namespace bench {
 namespace {
@@ -98,8 +100,20 @@ template <typename T>
 using Linear = LumStatus (*)(const T*, int, T*, int, LumiPoint, LumiSize, LumiBorderType, const T*,
                              const LumiResizeSpec*, Lum8u*);
 
-// The row's own size is the destination's.
-constexpr LumiSize kSource{1920, 1080};
+// The row's own size is the destination's. The first two stay within the caches.
+struct Sizes {
+  LumiSize src, dst;
+};
+constexpr Sizes kSizes[] = {{{16, 16}, {24, 24}}, {{384, 96}, {256, 64}}, {kHd, {192, 108}},
+                            {kHd, {960, 540}},    {kHd, {1280, 720}},     {kHd, {3840, 2160}}};
+
+LumiSize sourceOf(LumiSize dst) {
+  return std::find_if(std::begin(kSizes), std::end(kSizes),
+                      [=](const Sizes& sizes) {
+                        return sizes.dst.width == dst.width && sizes.dst.height == dst.height;
+                      })
+      ->src;
+}
 
 template <typename Resize>
 void addPeer(Scene& s, Peer (*adapter)(View, View), const char* why, Resize src, Resize dst) {
@@ -112,7 +126,7 @@ void addPeer(Scene& s, Peer (*adapter)(View, View), const char* why, Resize src,
 template <int C, typename T>
 Suite::Build nearest(Nearest<T> lumi) {
   return [=](Scene& s) {
-    const auto src = s.inputOf<T>(C, kSource);
+    const auto src = s.inputOf<T>(C, sourceOf(s.roi()));
     const auto dst = s.output<T>(C);
     s.ours([=, plan = planOf<T, false>(src.roi, dst.roi, C)] {
       lumi(src.data(), src.step, dst.data(), dst.step, {0, 0}, dst.roi, plan->spec(), plan->buffer.data());
@@ -120,6 +134,8 @@ Suite::Build nearest(Nearest<T> lumi) {
     constexpr const char* kWhy = "takes other pixels where two are equally near";
     addPeer(s, opencv::resizeNearest, kWhy, src, dst);
     addPeer(s, yuv::resizeNearest, kWhy, src, dst);
+    addPeer(s, pixman::resizeNearest, kWhy, src, dst);
+    addPeer(s, zimg::resizeNearest, kWhy, src, dst);
     s.peer(loopNearest<T, C>(src, dst, nearestTable(src.roi.width, dst.roi.width),
                              nearestTable(src.roi.height, dst.roi.height)));
   };
@@ -128,20 +144,26 @@ Suite::Build nearest(Nearest<T> lumi) {
 template <int C, typename T>
 Suite::Build linear(Linear<T> lumi) {
   return [=](Scene& s) {
-    const auto src = s.inputOf<T>(C, kSource);
+    const auto src = s.inputOf<T>(C, sourceOf(s.roi()));
     const auto dst = s.output<T>(C);
     s.ours([=, plan = planOf<T, true>(src.roi, dst.roi, C)] {
       lumi(src.data(), src.step, dst.data(), dst.step, {0, 0}, dst.roi, lumiBorderReplicate, nullptr,
            plan->spec(), plan->buffer.data());
     });
-    addPeer(s, opencv::resizeLinear, "rounds in other steps", src, dst);
-    addPeer(s, yuv::resizeLinear, "has weights of fewer bits", src, dst);
+    constexpr const char* kSteps = "rounds in other steps";
+    constexpr const char* kFewerBits = "has weights of fewer bits";
+    const bool isSmaller = dst.roi.width < src.roi.width || dst.roi.height < src.roi.height;
+    addPeer(s, opencv::resizeLinear, kSteps, src, dst);
+    addPeer(s, yuv::resizeLinear, isSmaller ? kFewerBits : "lays the corner pixels on each other", src, dst);
+    addPeer(s, pixman::resizeLinear, kFewerBits, src, dst);
+    addPeer(s, zimg::resizeLinear, isSmaller ? "weighs more pixels where it shrinks" : kSteps, src, dst);
     s.peer(loopLinear<T, C>(src, dst));
   };
 }
 
 const Family family("resize", [](Suite& suite) {
-  const std::vector<LumiSize> sizes{{192, 108}, {960, 540}, {1280, 720}, {3840, 2160}};
+  std::vector<LumiSize> sizes;
+  for (const Sizes& each : kSizes) sizes.push_back(each.dst);
   suite.row("resize nearest 8u C1", sizes, nearest<1>(lumiResizeNearest_8u_C1R));
   suite.row("resize nearest 8u C3", sizes, nearest<3>(lumiResizeNearest_8u_C3R));
   suite.row("resize nearest 8u C4", sizes, nearest<4>(lumiResizeNearest_8u_C4R));

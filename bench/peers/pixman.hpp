@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// pixman: fills.
+// pixman: fills, and four channels of 8 bits resized.
 #pragma once
 
 #include "bench/harness.hpp"
@@ -9,5 +9,9 @@ namespace bench::pixman {
 [[gnu::weak]] Library library();
 
 [[gnu::weak]] Peer fill(View dst, Value value);
+
+// The nearest pixel is repeated outside.
+[[gnu::weak]] Peer resizeNearest(View src, View dst);
+[[gnu::weak]] Peer resizeLinear(View src, View dst);
 
 }  // namespace bench::pixman
