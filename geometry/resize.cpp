@@ -10,6 +10,7 @@
 #include "frame/layout.hpp"
 #include "frame/rows.hpp"
 #include "geometry/resize_spec.hpp"
+#include "kernels/copy.hpp"
 #include "kernels/resize_by_two.hpp"
 #include "kernels/resize_linear.hpp"
 #include "kernels/resize_nearest.hpp"
@@ -71,11 +72,14 @@ LumStatus resizeNearest(const T* src, int srcStep, T* dst, int dstStep, LumiPoin
   const auto to = rows(dst, dstStep);
   const int32_t* const index = plan->vertical.index + dstOffset.y;
   const int32_t origin = sourceStart(plan->vertical, dstOffset.y);
-  // Rows that overlap one another are not copied: the earlier one is no longer whole.
+  // Rows that overlap one another are not copied, for the earlier one is no longer whole; nor long ones that
+  // are picked as fast, for their stores are still under way.
+  constexpr size_t kStoresUnderWay = 4096;
   const bool apart = static_cast<size_t>(std::abs(int64_t{dstStep})) >= rowBytes;
+  const bool copies = apart && !(columns.isDoubled() && rowBytes > kStoresUnderWay);
   for (int y = 0; y < tile.height; ++y) {
-    if (apart && y > 0 && index[y] == index[y - 1])
-      std::memcpy(to.row(y), to.row(y - 1), rowBytes);
+    if (copies && y > 0 && index[y] == index[y - 1])
+      copyRow(to.row(y - 1), to.row(y), rowBytes);
     else
       columns.pick(from.row(index[y] - origin), to.row(y));
   }
@@ -108,7 +112,7 @@ class LinearTile {
     if constexpr (kHalvesRows<T, channels>) {
       if (hasRatio(2, 1)) return runHalved();
     }
-    if constexpr (kDoublesRows<T>) {
+    if constexpr (kDoublesRows<T, channels>) {
       if (hasRatio(1, 2)) return runDoubled(buffer);
     }
     runMiddle(buffer);
@@ -197,8 +201,8 @@ class LinearTile {
       } else {
         lower = pixel(y, middleX_.first);
       }
-      doubleRows<channels>(sourcePixel(row, column), sourcePixel(row + 1, column), upper, lower, phase,
-                           static_cast<size_t>(middleX_.count()));
+      doubleRows<T, channels>(sourcePixel(row, column), sourcePixel(row + 1, column), upper, lower, phase,
+                              static_cast<size_t>(middleX_.count()));
     }
   }
 

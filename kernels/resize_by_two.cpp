@@ -11,13 +11,11 @@ namespace {
 
 using namespace simd;
 
-// A pixel and its right neighbour, of 16 bytes, as pairs of samples.
+// Bytes, or pixels of three, and their right neighbours as pairs of samples.
 template <int channels>
 Bytes16 neighbours(Bytes16 pixels) {
   if constexpr (channels == 1) return pixels;
-  constexpr Control kPairs = channels == 3
-                                 ? Control{0, 3, 1, 4, 2, 5, 6, 9, 7, 10, 8, 11, kZero, kZero, kZero, kZero}
-                                 : Control{0, 4, 1, 5, 2, 6, 3, 7, 8, 12, 9, 13, 10, 14, 11, 15};
+  constexpr Control kPairs{0, 3, 1, 4, 2, 5, 6, 9, 7, 10, 8, 11, kZero, kZero, kZero, kZero};
   return shuffle(pixels, vectorOf(kPairs));
 }
 
@@ -25,7 +23,7 @@ Bytes16 neighbours(Bytes16 pixels) {
 template <typename T, int channels>
 struct Halves;
 
-// (a + b + c + d + 2) >> 2 is what both stages round to.
+// Both stages round to (a + b + c + d + 2) >> 2.
 template <int channels>
 struct Halves<uint8_t, channels> {
   static constexpr size_t kStored = channels == 3 ? 8 : 16, kUsed = channels == 3 ? 6 : 16;
@@ -34,7 +32,7 @@ struct Halves<uint8_t, channels> {
     const S8 ones = broadcast<int8_t>(1);
     const S16 sum = sumOfProducts({neighbours<channels>(load16(first))}, ones) +
                     sumOfProducts({neighbours<channels>(load16(second))}, ones);
-    return shiftRight<2>(sum + broadcast<int16_t>(2));
+    return productRounded(sum, broadcast<int16_t>(1 << 13));
   }
   static void block(const Byte* first, const Byte* second, Byte* dst) {
     const S16 low = mean(first, second);
@@ -42,6 +40,24 @@ struct Halves<uint8_t, channels> {
       store8(dst, packed<uint8_t>(low, low).v);
     else
       store16(dst, packed<uint8_t>(low, mean(first + 16, second + 16)).v);
+  }
+};
+
+// In bytes: the mean of two means, each rounded up, is one too large where the means differ in their last bit
+// and one of them was rounded.
+template <>
+struct Halves<uint8_t, 4> {
+  static constexpr size_t kStored = 16, kUsed = 16;
+
+  static void block(const Byte* first, const Byte* second, Byte* dst) {
+    const Bytes16 a = load16Whole(first), b = load16Whole(first + 16);
+    const Bytes16 c = load16Whole(second), d = load16Whole(second + 16);
+    const U8 upperLeft{evenPixels<4>(a, b)}, upperRight{oddDwords(a, b)};
+    const U8 lowerLeft{evenPixels<4>(c, d)}, lowerRight{oddDwords(c, d)};
+    const U8 upper = averageUp(upperLeft, upperRight), lower = averageUp(lowerLeft, lowerRight);
+    const U8 roundedUp = (upperLeft ^ upperRight) | (lowerLeft ^ lowerRight);
+    const U8 excess = roundedUp & (upper ^ lower) & broadcast<uint8_t>(1);
+    store16(dst, (averageUp(upper, lower) - excess).v);
   }
 };
 
@@ -79,12 +95,15 @@ struct Halves<float, 1> {
   }
 };
 
-// Between four neighbours, both stages round S = 9 a + 3 b + 3 c + d to (S + 8) >> 4. A block takes eight
-// samples, each with its right neighbour, and makes two results of each in each of two rows.
+// Blocks take kGaps pixels, each with its right neighbour, and make two results of each in each of two rows.
+// They store kStored bytes.
+template <typename T, int channels>
+struct Doubles;
+
+// Between four neighbours, both stages round S = 9 a + 3 b + 3 c + d to (S + 8) >> 4.
 template <int channels>
-struct Doubles {
-  static constexpr size_t kGaps = channels == 1 ? 8 : 2;  // between columns
-  static constexpr size_t kStored = 16, kUsed = 2 * kGaps * channels;
+struct Doubles<uint8_t, channels> {
+  static constexpr size_t kGaps = channels == 1 ? 8 : 2, kStored = 16;
 
   struct TwoRows {
     S16 nearFirst, nearSecond;
@@ -100,9 +119,9 @@ struct Doubles {
   static Bytes16 inOrder(S16 left, S16 right) {
     const Bytes16 words = either((U16{left.v} >> Shift(4)).v, both(right.v, broadcast<uint16_t>(0xFF00).v));
     if constexpr (channels == 1) return words;
-    constexpr Control kPixels = channels == 3
-                                    ? Control{0, 2, 4, 1, 3, 5, 6, 8, 10, 7, 9, 11, kZero, kZero, kZero, kZero}
-                                    : Control{0, 2, 4, 6, 1, 3, 5, 7, 8, 10, 12, 14, 9, 11, 13, 15};
+    constexpr Control kPixels =
+        channels == 3 ? Control{0, 2, 4, 1, 3, 5, 6, 8, 10, 7, 9, 11, kZero, kZero, kZero, kZero}
+                      : Control{0, 2, 4, 6, 1, 3, 5, 7, 8, 10, 12, 14, 9, 11, 13, 15};
     return shuffle(words, vectorOf(kPixels));
   }
   static Bytes16 pairs(const Byte* p) { return wordsOf(loadFew<8>(p), loadFew<8>(p + channels)); }
@@ -113,6 +132,31 @@ struct Doubles {
     const TwoRows right = sums(a, b, {broadcast<int16_t>(0x3010).v}, 8 * 16);
     store16(nearFirst, inOrder(left.nearFirst, right.nearFirst));
     store16(nearSecond, inOrder(left.nearSecond, right.nearSecond));
+  }
+};
+
+template <>
+struct Doubles<float, 1> {
+  static constexpr size_t kGaps = 8, kStored = 64;
+
+  struct Quarters {
+    Floats8 nearFirst, nearSecond;
+  };
+  static Quarters between(Floats8 a, Floats8 b) {
+    const Floats8 difference = b - a;
+    return {a + difference * broadcastWide(0.25F), a + difference * broadcastWide(0.75F)};
+  }
+  static void interleave(Byte* dst, Floats8 left, Floats8 right) {
+    const Bytes32 low = unpackedLow(left, right), high = unpackedHigh(left, right);
+    store32(dst, halvesOf<0, 0>(low, high));
+    store32(dst + 32, halvesOf<1, 1>(low, high));
+  }
+  static void block(const Byte* first, const Byte* second, Byte* nearFirst, Byte* nearSecond) {
+    const Quarters p = between(loadFloats8(first), loadFloats8(first + 4));
+    const Quarters q = between(loadFloats8(second), loadFloats8(second + 4));
+    const Quarters left = between(p.nearFirst, q.nearFirst), right = between(p.nearSecond, q.nearSecond);
+    interleave(nearFirst, left.nearFirst, right.nearFirst);
+    interleave(nearSecond, left.nearSecond, right.nearSecond);
   }
 };
 
@@ -135,31 +179,31 @@ void halveRows(const uint8_t* first, const uint8_t* second, uint8_t* dst, size_t
   }
 }
 
-template <int channels>
+template <typename T, int channels>
 void doubleRows(const uint8_t* first, const uint8_t* second, uint8_t* nearFirst, uint8_t* nearSecond,
                 size_t phase, size_t count) {
-  using Block = Doubles<channels>;
+  using Block = Doubles<T, channels>;
+  constexpr size_t kPixel = channels * sizeof(T), kStored = Block::kStored, kUsed = 2 * Block::kGaps * kPixel;
   // Some pixels of a block, from pixel `left` of its first gap on.
   const auto part = [](const Byte* a, const Byte* b, Byte* nearA, Byte* nearB, size_t left, size_t pixels) {
-    Byte rows[2][16] = {}, results[2][16];
+    Byte rows[2][kStored] = {}, results[2][kStored];
     const size_t gaps = (left + pixels + 1) / 2;
-    std::memcpy(rows[0], a, (gaps + 1) * channels);
-    std::memcpy(rows[1], b, (gaps + 1) * channels);
+    std::memcpy(rows[0], a, (gaps + 1) * kPixel);
+    std::memcpy(rows[1], b, (gaps + 1) * kPixel);
     Block::block(rows[0], rows[1], results[0], results[1]);
-    std::memcpy(nearA, results[0] + left * channels, pixels * channels);
-    std::memcpy(nearB, results[1] + left * channels, pixels * channels);
+    std::memcpy(nearA, results[0] + left * kPixel, pixels * kPixel);
+    std::memcpy(nearB, results[1] + left * kPixel, pixels * kPixel);
   };
-  const size_t bytes = count * channels;
+  const size_t bytes = count * kPixel;
   size_t from = 0, i = 0;
   if (phase != 0 && count > 0) {
     part(first, second, nearFirst, nearSecond, 1, 1);
-    from = i = channels;
+    from = i = kPixel;
   }
-  for (; i + Block::kStored <= bytes; i += Block::kUsed, from += Block::kUsed / 2)
+  for (; i + kStored <= bytes; i += kUsed, from += kUsed / 2)
     Block::block(first + from, second + from, nearFirst + i, nearSecond + i);
-  for (; i < bytes; i += Block::kUsed, from += Block::kUsed / 2)
-    part(first + from, second + from, nearFirst + i, nearSecond + i, 0,
-         std::min(bytes - i, Block::kUsed) / channels);
+  for (; i < bytes; i += kUsed, from += kUsed / 2)
+    part(first + from, second + from, nearFirst + i, nearSecond + i, 0, std::min(bytes - i, kUsed) / kPixel);
 }
 
 template void halveRows<uint8_t, 1>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
@@ -168,8 +212,9 @@ template void halveRows<uint8_t, 4>(const uint8_t*, const uint8_t*, uint8_t*, si
 template void halveRows<uint16_t, 1>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
 template void halveRows<int16_t, 1>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
 template void halveRows<float, 1>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
-template void doubleRows<1>(const uint8_t*, const uint8_t*, uint8_t*, uint8_t*, size_t, size_t);
-template void doubleRows<3>(const uint8_t*, const uint8_t*, uint8_t*, uint8_t*, size_t, size_t);
-template void doubleRows<4>(const uint8_t*, const uint8_t*, uint8_t*, uint8_t*, size_t, size_t);
+template void doubleRows<uint8_t, 1>(const uint8_t*, const uint8_t*, uint8_t*, uint8_t*, size_t, size_t);
+template void doubleRows<uint8_t, 3>(const uint8_t*, const uint8_t*, uint8_t*, uint8_t*, size_t, size_t);
+template void doubleRows<uint8_t, 4>(const uint8_t*, const uint8_t*, uint8_t*, uint8_t*, size_t, size_t);
+template void doubleRows<float, 1>(const uint8_t*, const uint8_t*, uint8_t*, uint8_t*, size_t, size_t);
 
 }  // namespace lumi

@@ -54,7 +54,8 @@ inline constexpr size_t kRowSlack = sizeof(T) == 1 ? 15 : 0;
 template <typename T, int channels>
 class ColumnBlender {
  public:
-  ColumnBlender(const TileColumns<T>& columns, uint8_t*) : columns_(columns) {}
+  // In scratch, at any address, are up to 4 bytes a column and 28 more.
+  ColumnBlender(const TileColumns<T>& columns, uint8_t* scratch);
 
   void blend(const uint8_t* src, BlendElement<T>* row) const;
 
@@ -65,6 +66,8 @@ class ColumnBlender {
 
  private:
   TileColumns<T> columns_;
+  const uint8_t* controls_;
+  int32_t span_;  // of the samples that four columns are picked from; 0 if each is loaded by itself
 };
 
 template <int channels>

@@ -48,8 +48,9 @@ struct Gather {
     const auto at = [=](int i) {
       return base + static_cast<ptrdiff_t>(index[i]) * static_cast<ptrdiff_t>(sizeof(T));
     };
-    const Bytes16 low = gatherDwords(at(0), at(1), at(2), at(3)),
-                  high = gatherDwords(at(4), at(5), at(6), at(7));
+    return apart(gatherDwords(at(0), at(1), at(2), at(3)), gatherDwords(at(4), at(5), at(6), at(7)));
+  }
+  static Pair<Vector> apart(Bytes16 low, Bytes16 high) {
     return {floatsOf(joined(lowWords<T>(low), lowWords<T>(high))),
             floatsOf(joined(highWords<T>(low), highWords<T>(high)))};
   }
@@ -83,6 +84,37 @@ struct Gather<double> {
   static Doubles4 weight(double w) { return broadcastWide(w); }
 };
 
+// Where four columns and their right neighbours lie in `span` samples in a row, they are picked from these by
+// a control of four bytes for each column, made of its distance from the first of them.
+template <typename T, int32_t span>
+struct Window {
+  static constexpr int32_t kSpan = span;
+
+  static uint32_t control(int32_t at) { return 0x03020100U + 0x02020202U * static_cast<uint32_t>(at); }
+  static Floats8 blend(const Byte* low, const Byte* high, const Byte* controls, Floats8 weights) {
+    const auto pair = Gather<T>::apart(shuffle(load16(low), load16(controls)),
+                                       shuffle(load16(high), load16(controls + 16)));
+    return blended(pair.first, pair.second, weights);
+  }
+};
+
+// Of floats the control's low bits are the place in a vector, and its sign tells the first one of two.
+template <int32_t span>
+struct Window<float, span> {
+  static constexpr int32_t kSpan = span;
+
+  static uint32_t control(int32_t at) { return static_cast<uint32_t>(at - 4); }
+  static Floats8 blend(const Byte* low, const Byte* high, const Byte* controls, Floats8 weights) {
+    const Bytes16 a = load16Whole(controls), b = load16Whole(controls + 16);
+    const Bytes16 one = broadcast(1).v;
+    const Bytes32 at = joined(a, b), next = joined((S32{a} + S32{one}).v, (S32{b} + S32{one}).v);
+    const Bytes32 first = joined(load16(low), load16(high));
+    if constexpr (span == 4) return blended(floatsAt(first, at), floatsAt(first, next), weights);
+    const Bytes32 second = joined(load16(low + 16), load16(high + 16));
+    return blended(floatsAt(first, second, at), floatsAt(first, second, next), weights);
+  }
+};
+
 template <typename T, int channels>
 const Byte* pixelOf(const Byte* src, const TileColumns<T>& columns, size_t x) {
   return src + static_cast<ptrdiff_t>(columns.index[x] - columns.origin) *
@@ -114,7 +146,71 @@ Bytes16 finishedBytes(Floats8 x, T) {
   return packed<T>(lowHalf(rounds), highHalf(rounds)).v;
 }
 
+// Windows begin at a block's first column, or where a row's last window can begin.
+template <typename W, typename T>
+int32_t windowStart(const TileColumns<T>& columns, size_t x) {
+  return std::min(columns.index[x], columns.index[columns.count - 1] + 2 - W::kSpan);
+}
+template <typename T>
+size_t windowBlock(const TileColumns<T>& columns, size_t x) {
+  return std::min(x, columns.count - Gather<T>::kLanes);
+}
+
+template <typename W, typename T>
+bool suitsWindows(const TileColumns<T>& columns) {
+  if (columns.count < Gather<T>::kLanes || windowStart<W>(columns, 0) < columns.index[0]) return false;
+  for (size_t x = 0; x < columns.count; x += 4) {
+    const size_t first = std::min(x, columns.count - 4);
+    if (columns.index[first + 3] + 2 - windowStart<W>(columns, first) > W::kSpan) return false;
+  }
+  return true;
+}
+
+template <typename W, typename T>
+void makeControls(const TileColumns<T>& columns, uint8_t* controls) {
+  for (size_t x = 0; x < columns.count; x += Gather<T>::kLanes)
+    for (size_t i = 0; i < Gather<T>::kLanes; ++i, controls += 4) {
+      const size_t block = windowBlock(columns, x);
+      const uint32_t control =
+          W::control(columns.index[block + i] - windowStart<W>(columns, block + i / 4 * 4));
+      move<4>(controls, reinterpret_cast<const Byte*>(&control));
+    }
+}
+
+template <typename W, typename T>
+void blendWindows(const Byte* base, const TileColumns<T>& columns, const uint8_t* controls, float* row) {
+  constexpr size_t kLanes = Gather<T>::kLanes;
+  const int32_t* const index = columns.index;
+  const float* const weights = columns.weights;
+  const size_t count = columns.count;
+  const int32_t lastStart = index[count - 1] + 2 - W::kSpan;
+  const auto window = [=](size_t x) {
+    return base + static_cast<ptrdiff_t>(std::min(index[x], lastStart)) * static_cast<ptrdiff_t>(sizeof(T));
+  };
+  const auto block = [=](size_t x, const Byte* control) {
+    store(row + x, W::blend(window(x), window(x + 4), control, load(weights + x)));
+  };
+  size_t x = 0;
+  for (; x + kLanes <= count; x += kLanes) block(x, controls + 4 * x);
+  if (x < count) block(count - kLanes, controls + 4 * x);
+}
+
 }  // namespace
+
+template <typename T, int channels>
+ColumnBlender<T, channels>::ColumnBlender(const TileColumns<T>& columns, uint8_t* scratch)
+    : columns_(columns), controls_(scratch), span_(0) {
+  if constexpr (channels == 1 && sizeof(T) <= 4) {
+    const auto choose = [&](auto window) {
+      using W = decltype(window);
+      if (span_ != 0 || !suitsWindows<W>(columns)) return;
+      span_ = W::kSpan;
+      makeControls<W>(columns, scratch);
+    };
+    if constexpr (sizeof(T) == 4) choose(Window<T, 4>());
+    choose(Window<T, 8>());
+  }
+}
 
 template <typename T, int channels>
 void ColumnBlender<T, channels>::blend(const uint8_t* src, BlendElement<T>* row) const {
@@ -124,6 +220,10 @@ void ColumnBlender<T, channels>::blend(const uint8_t* src, BlendElement<T>* row)
   if constexpr (channels == 1) {
     const Byte* const base =
         src - static_cast<ptrdiff_t>(columns_.origin) * static_cast<ptrdiff_t>(sizeof(T));
+    if constexpr (sizeof(T) == 4)
+      if (span_ == 4) return blendWindows<Window<T, 4>>(base, columns_, controls_, row);
+    if constexpr (sizeof(T) <= 4)
+      if (span_ == 8) return blendWindows<Window<T, 8>>(base, columns_, controls_, row);
     for (; x + G::kLanes <= count; x += G::kLanes) {
       const auto pair = G::pairs(base, columns_.index + x);
       store(row + x, blended(pair.first, pair.second, load(columns_.weights + x)));

@@ -47,6 +47,13 @@ bool advancesBy(int32_t least, int32_t most, const int32_t* index, size_t column
   return true;
 }
 
+// Whether source columns come two and two.
+bool isTwice(const int32_t* index, size_t columns) {
+  for (size_t x = 0; x + 1 < columns; x += 2)
+    if (index[x + 1] != index[x] || (x > 0 && index[x] == index[x - 1])) return false;
+  return true;
+}
+
 Windows windowsOf(const int32_t* index, size_t pixelBytes, int32_t origin, int32_t end) {
   const auto pixel = static_cast<int32_t>(pixelBytes);
   const auto at = [=](int32_t column) { return (column - origin) * pixel; };
@@ -109,6 +116,18 @@ size_t pickEvens(const Byte* src, Byte* dst, size_t columns) {
   return x;
 }
 
+// Every pixel twice.
+template <size_t pixel>
+size_t pickTwice(const Byte* src, Byte* dst, size_t columns) {
+  constexpr size_t kEach = 2 * kBlock / pixel;
+  size_t x = 0;
+  for (; x + kEach <= columns; x += kEach, src += kBlock) {
+    const Bytes16 v = load16Whole(src);
+    store32(dst + x * pixel, joined(unpackLowPixels<pixel>(v, v), unpackHighPixels<pixel>(v, v)));
+  }
+  return x;
+}
+
 template <size_t pixel>
 void pickOneByOne(const Byte* src, Byte* dst, const int32_t* index, size_t columns, bool isClose) {
   const auto at = [&](size_t x) {
@@ -137,8 +156,9 @@ PickedColumns::PickedColumns(const int32_t* index, int32_t origin, size_t column
       windows_(nullptr),
       isNarrow_(true),
       isClose_(advancesBy(0, 1, index, columns)),
-      isHalved_(pixelBytes <= 4 && pixelBytes != 3 && advancesBy(2, 2, index, columns)) {
-  if (isHalved_ || !suitsWindows(index, columns, pixelBytes)) return;
+      isHalved_(hasVectors() && advancesBy(2, 2, index, columns)),
+      isDoubled_(hasVectors() && isClose_ && isTwice(index, columns)) {
+  if (isHalved_ || isDoubled_ || !suitsWindows(index, columns, pixelBytes)) return;
   windows_ = scratch;
   const size_t each = kBlock / pixelBytes;
   for (size_t block = 0; block * each < columns; ++block) {
@@ -149,11 +169,12 @@ PickedColumns::PickedColumns(const int32_t* index, int32_t origin, size_t column
   }
 }
 
-void PickedColumns::pickHalved(const uint8_t* base, uint8_t* dst) const {
+void PickedColumns::pickByTwo(const uint8_t* base, uint8_t* dst) const {
   const auto pick = [&](auto bytes) {
     constexpr size_t kPixel = decltype(bytes)::value;
     const Byte* const first = base + static_cast<ptrdiff_t>(index_[0]) * static_cast<ptrdiff_t>(kPixel);
-    const size_t done = pickEvens<kPixel>(first, dst, columns_);
+    const size_t done =
+        isHalved_ ? pickEvens<kPixel>(first, dst, columns_) : pickTwice<kPixel>(first, dst, columns_);
     pickOneByOne<kPixel>(base, dst + done * kPixel, index_ + done, columns_ - done, false);
   };
   if (pixelBytes_ == 1)
@@ -170,7 +191,7 @@ void PickedColumns::pick(const uint8_t* src, uint8_t* dst) const {
                      : pickByWindows<blockOf>(src, dst, windows_, columns_, pixelBytes_);
   }
   const Byte* const base = src - static_cast<ptrdiff_t>(origin_) * static_cast<ptrdiff_t>(pixelBytes_);
-  if (isHalved_) return pickHalved(base, dst);
+  if (isHalved_ || isDoubled_) return pickByTwo(base, dst);
   switch (pixelBytes_) {
     case 1:
       return pickOneByOne<1>(base, dst, index_, columns_, isClose_);

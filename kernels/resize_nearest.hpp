@@ -16,8 +16,13 @@ class PickedColumns {
   // src is the row's pixel at `origin`; read is from the first column picked to the last one.
   void pick(const uint8_t* src, uint8_t* dst) const;
 
+  // Then picking takes no longer than copying.
+  bool isDoubled() const { return isDoubled_; }
+
  private:
-  void pickHalved(const uint8_t* base, uint8_t* dst) const;
+  // Of the sizes that the paths of two have vectors for.
+  bool hasVectors() const { return pixelBytes_ <= 4 && pixelBytes_ != 3; }
+  void pickByTwo(const uint8_t* base, uint8_t* dst) const;
 
   const int32_t* index_;
   int32_t origin_;
@@ -26,6 +31,7 @@ class PickedColumns {
   bool isNarrow_;     // each block needs one vector of the source
   bool isClose_;      // from one column to the next is one source column at most
   bool isHalved_;     // it is always two
+  bool isDoubled_;    // it is none and one in turn
 };
 
 }  // namespace lumi

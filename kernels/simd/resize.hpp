@@ -47,6 +47,25 @@ Bytes16 evenPixels(Bytes16 a, Bytes16 b) {
     return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(a), _mm_castsi128_ps(b), 0x88));
   }
 }
+// The second, fourth and so on.
+inline Bytes16 oddDwords(Bytes16 a, Bytes16 b) {
+  return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(a), _mm_castsi128_ps(b), 0xDD));
+}
+// Pixels of the first or the last eight bytes of a and b, in turn.
+template <size_t bytes>
+Bytes16 unpackLowPixels(Bytes16 a, Bytes16 b) {
+  static_assert(bytes == 1 || bytes == 2 || bytes == 4);
+  if constexpr (bytes == 1) return _mm_unpacklo_epi8(a, b);
+  if constexpr (bytes == 2) return _mm_unpacklo_epi16(a, b);
+  return _mm_unpacklo_epi32(a, b);
+}
+template <size_t bytes>
+Bytes16 unpackHighPixels(Bytes16 a, Bytes16 b) {
+  static_assert(bytes == 1 || bytes == 2 || bytes == 4);
+  if constexpr (bytes == 1) return _mm_unpackhi_epi8(a, b);
+  if constexpr (bytes == 2) return _mm_unpackhi_epi16(a, b);
+  return _mm_unpackhi_epi32(a, b);
+}
 inline void store8(Byte* p, Bytes16 v) { _mm_storel_epi64(reinterpret_cast<__m128i*>(p), v); }
 
 // Word i from p.
@@ -77,11 +96,24 @@ inline Doubles4 broadcastWide(double x) { return {_mm256_set1_pd(x)}; }
 // The even and the odd elements of two vectors, half by half.
 inline Floats8 evens(Bytes32 a, Bytes32 b) { return {_mm256_shuffle_ps(asFloats(a), asFloats(b), 0x88)}; }
 inline Floats8 odds(Bytes32 a, Bytes32 b) { return {_mm256_shuffle_ps(asFloats(a), asFloats(b), 0xDD)}; }
+// Of the first or the last two floats of each half, those of a and b in turn.
+inline Bytes32 unpackedLow(Floats8 a, Floats8 b) { return asBytes(_mm256_unpacklo_ps(a.v, b.v)); }
+inline Bytes32 unpackedHigh(Floats8 a, Floats8 b) { return asBytes(_mm256_unpackhi_ps(a.v, b.v)); }
 inline Doubles4 evenDoubles(Bytes32 a, Bytes32 b) {
   return {_mm256_unpacklo_pd(_mm256_castsi256_pd(a), _mm256_castsi256_pd(b))};
 }
 inline Doubles4 oddDoubles(Bytes32 a, Bytes32 b) {
   return {_mm256_unpackhi_pd(_mm256_castsi256_pd(a), _mm256_castsi256_pd(b))};
+}
+
+// Each float at a place of its half of one vector, or of two: then of the first where the sign is set.
+inline Floats8 floatsAt(Bytes32 v, Bytes32 places) { return {_mm256_permutevar_ps(asFloats(v), places)}; }
+inline Floats8 floatsAt(Bytes32 first, Bytes32 second, Bytes32 places) {
+  const Floats8 negative = floatsAt(first, places), other = floatsAt(second, places);
+  Floats8 chosen;
+  // Of the intrinsic, compilers without wide integers make a branch for each float.
+  asm("vblendvps %3, %2, %1, %0" : "=x"(chosen.v) : "x"(other.v), "x"(negative.v), "x"(asFloats(places)));
+  return chosen;
 }
 
 // The low or the high word of each dword, as a dword.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The processor's string instructions: the only inline assembly of the kernels, for there is no intrinsic.
+// The processor's string instructions, as inline assembly, for there is no intrinsic.
 // They work by dwords, which every processor of the level moves in whole cache lines.
 #pragma once
 
