@@ -221,8 +221,13 @@ class LinearTile {
         std::swap(upper, lower);
         std::swap(upperRow, lowerRow);
       }
-      if (upperRow != row) blender.blend(sourceRow(row), upper);
-      if (lowerRow != int64_t{row} + 1) blender.blend(sourceRow(row + 1), lower);
+      const bool isUpperNew = upperRow != row, isLowerNew = lowerRow != int64_t{row} + 1;
+      if (isUpperNew && isLowerNew)
+        blender.blendTwo(sourceRow(row), upper, sourceRow(row + 1), lower);
+      else if (isUpperNew)
+        blender.blend(sourceRow(row), upper);
+      else if (isLowerNew)
+        blender.blend(sourceRow(row + 1), lower);
       upperRow = row;
       lowerRow = int64_t{row} + 1;
       blendRows<T>(upper, lower, rowWeight(y), pixel(y, middleX_.first), samples);

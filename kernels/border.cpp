@@ -61,14 +61,6 @@ void repeatWhole(Bytes16 pixel, Byte* dst, size_t bytes) {
 // not fetch the lines that it overwrites.
 constexpr size_t kFarStringMove = 5000;
 
-void moveByString(const Byte* src, Byte* dst, size_t bytes) {
-  const Bytes32 first = load32(src), last = load32(src + bytes - kVector);
-  const size_t head = reachPastBoundary(dst, kVector);
-  moveDwords(dst + head, src + head, (bytes - head) / 4);
-  store32(dst, first);
-  store32(dst + bytes - kVector, last);
-}
-
 struct Mask {
   alignas(kVector) Byte bytes[kVector];  // 0xFF where a byte is stored
 };
@@ -117,7 +109,7 @@ void moveRun(const uint8_t* src, uint8_t* dst, size_t pixels, [[maybe_unused]] b
     const size_t bytes = pixels * sampleBytes * stored;
     const auto distance = static_cast<size_t>(src < dst ? dst - src : src - dst);
     if (distance >= bytes)
-      return far && bytes >= kFarStringMove ? moveByString(src, dst, bytes) : copyRow(src, dst, bytes);
+      return far && bytes >= kFarStringMove ? copyByString(src, dst, bytes) : copyRow(src, dst, bytes);
     for (size_t i = 0; i < bytes; i += sampleBytes) move<sampleBytes>(dst + i, src + i);
   }
 }

@@ -128,14 +128,6 @@ bool storesAliasLaterLoads(const Byte* src, const Byte* dst) {
 // against 17 to 24 GB/s). That is why no copy asks for the cache size.
 constexpr size_t kStringMove = 0x7000;
 
-void copyByString(const Byte* src, Byte* dst, size_t bytes) {
-  const Bytes32 first = load32(src), last = load32(src + bytes - kVector);
-  const size_t head = reachPastBoundary(dst, kVector);
-  moveDwords(dst + head, src + head, (bytes - head) / 4);
-  store32(dst, first);
-  store32(dst + bytes - kVector, last);
-}
-
 }  // namespace
 
 void copyRow(const uint8_t* src, uint8_t* dst, size_t bytes) {

@@ -110,7 +110,7 @@ void storeSums(Byte* dst, const Sums<vectors>& sums, const T*, const Divide& div
     if constexpr (sizeof(T) == 2)
       store16(dst + 8 * i, words.v);
     else
-      storeLow8(dst + 4 * i, packed<uint8_t>(words, words).v);
+      storeFirst8(dst + 4 * i, packed<uint8_t>(words, words).v);
   }
 }
 
@@ -195,7 +195,7 @@ void filterWordSums(const FilterTaps& taps, FilterSource src, Byte* dst, size_t 
     if constexpr (vectors == 2)
       store16(dst + i, packed<uint8_t>(first, divide(sums.at[1])).v);
     else
-      storeLow8(dst + i, packed<uint8_t>(first, first).v);
+      storeFirst8(dst + i, packed<uint8_t>(first, first).v);
   });
 }
 

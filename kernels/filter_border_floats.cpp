@@ -102,7 +102,7 @@ void storeAs(Byte* dst, Floats8 sums) {
   const Ints8 whole = rounded(limitedFromAbove(sums, broadcastFloat<Floats8>(highest)));
   if constexpr (sizeof(T) == 1) {
     const S16 words = packed<int16_t>(lowHalf(whole), highHalf(whole));
-    storeLow8(dst, packed<uint8_t>(words, words).v);
+    storeFirst8(dst, packed<uint8_t>(words, words).v);
   } else {
     store16(dst, packed<T>(lowHalf(whole), highHalf(whole)).v);
   }

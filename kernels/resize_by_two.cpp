@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "kernels/simd/resize.hpp"
-#include "kernels/simd/scale.hpp"
 
 namespace lumi {
 namespace {
@@ -26,20 +25,18 @@ struct Halves;
 // Both stages round to (a + b + c + d + 2) >> 2.
 template <int channels>
 struct Halves<uint8_t, channels> {
-  static constexpr size_t kStored = channels == 3 ? 8 : 16, kUsed = channels == 3 ? 6 : 16;
+  static constexpr size_t kStored = 16, kUsed = channels == 3 ? 12 : 16;
 
   static S16 mean(const Byte* first, const Byte* second) {
     const S8 ones = broadcast<int8_t>(1);
-    const S16 sum = sumOfProducts({neighbours<channels>(load16(first))}, ones) +
-                    sumOfProducts({neighbours<channels>(load16(second))}, ones);
+    const S16 sum = pairSums(U8{neighbours<channels>(load16(first))}, ones) +
+                    pairSums(U8{neighbours<channels>(load16(second))}, ones);
     return productRounded(sum, broadcast<int16_t>(1 << 13));
   }
   static void block(const Byte* first, const Byte* second, Byte* dst) {
-    const S16 low = mean(first, second);
-    if constexpr (channels == 3)
-      store8(dst, packed<uint8_t>(low, low).v);
-    else
-      store16(dst, packed<uint8_t>(low, mean(first + 16, second + 16)).v);
+    const Bytes16 v = packed<uint8_t>(mean(first, second), mean(first + kUsed, second + kUsed)).v;
+    constexpr Control kSixes{0, 1, 2, 3, 4, 5, 8, 9, 10, 11, 12, 13, kZero, kZero, kZero, kZero};
+    store16(dst, channels == 3 ? shuffle(v, vectorOf(kSixes)) : v);
   }
 };
 
@@ -110,8 +107,8 @@ struct Doubles<uint8_t, channels> {
   };
 
   // Sums of both rows with a bias; where the weights are 16 times as large, they fill all 16 bits.
-  static TwoRows sums(Bytes16 first, Bytes16 second, S8 weights, int16_t bias) {
-    const S16 p = sumOfProducts({first}, weights), q = sumOfProducts({second}, weights);
+  static TwoRows sums(U8 first, U8 second, S8 weights, int16_t bias) {
+    const S16 p = pairSums(first, weights), q = pairSums(second, weights);
     const S16 sum = p + q + broadcast(bias);
     return {sum + (p + p), sum + (q + q)};
   }
@@ -124,10 +121,10 @@ struct Doubles<uint8_t, channels> {
                       : Control{0, 2, 4, 6, 1, 3, 5, 7, 8, 10, 12, 14, 9, 11, 13, 15};
     return shuffle(words, vectorOf(kPixels));
   }
-  static Bytes16 pairs(const Byte* p) { return wordsOf(loadFew<8>(p), loadFew<8>(p + channels)); }
+  static U8 pairs(const Byte* p) { return interleavedLow(U8{loadFew<8>(p)}, U8{loadFew<8>(p + channels)}); }
 
   static void block(const Byte* first, const Byte* second, Byte* nearFirst, Byte* nearSecond) {
-    const Bytes16 a = pairs(first), b = pairs(second);
+    const U8 a = pairs(first), b = pairs(second);
     const TwoRows left = sums(a, b, {broadcast<int16_t>(0x0103).v}, 8);
     const TwoRows right = sums(a, b, {broadcast<int16_t>(0x3010).v}, 8 * 16);
     store16(nearFirst, inOrder(left.nearFirst, right.nearFirst));

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 
+#include "kernels/simd/pixels.hpp"
 #include "kernels/simd/resize.hpp"
 
 namespace lumi {
@@ -38,6 +39,16 @@ template <int channels>
 struct GatherBlock {
   int16_t weights[kLanes];
   int32_t offsets[kColumns<channels>];
+};
+
+// One or two rows, which share their columns' blocks.
+template <int n>
+using Sources = const Byte* const (&)[n];
+template <int n>
+struct Elements {
+  int16_t* const (&rows)[n];
+
+  void store(size_t k, size_t at, S16 v) const { store16(reinterpret_cast<Byte*>(rows[k] + at), v.v); }
 };
 
 template <typename Block>
@@ -97,16 +108,18 @@ void makeGathers(const TileColumns<uint8_t>& columns, uint8_t* scratch) {
 // Pairs of a sample and its right neighbour to elements.
 S16 blendPairs(Bytes16 pairs, const uint8_t* weights) {
   const S8 difference{broadcast<int16_t>(static_cast<int16_t>(0xC040)).v};  // 64, -64
-  const S16 first = sumOfProducts({pairs}, {broadcast<int16_t>(64).v});
-  return first + productRounded(sumOfProducts({pairs}, difference), {load16(weights)});
+  const S16 first = pairSums(U8{pairs}, S8{broadcast<int16_t>(64).v});
+  return first + productRounded(pairSums(U8{pairs}, difference), {load16(weights)});
 }
 
-void blendWindows(const Byte* src, int16_t* row, const uint8_t* blocks, size_t count) {
+template <int n>
+void blendWindows(Sources<n> src, Elements<n> rows, const uint8_t* blocks, size_t count) {
   for (size_t i = 0; i < count; ++i, blocks += sizeof(WindowBlock)) {
     int32_t offset = 0;
     move<4>(reinterpret_cast<Byte*>(&offset), blocks + offsetof(WindowBlock, offset));
-    const Bytes16 pairs = shuffle(load16(src + offset), load16(blocks + offsetof(WindowBlock, control)));
-    store16(reinterpret_cast<Byte*>(row + i * kLanes), blendPairs(pairs, blocks).v);
+    const Bytes16 control = load16(blocks + offsetof(WindowBlock, control));
+    for (size_t k = 0; k < n; ++k)
+      rows.store(k, i * kLanes, blendPairs(shuffle(load16(src[k] + offset), control), blocks));
   }
 }
 
@@ -130,30 +143,33 @@ Bytes16 gathered(const Byte* src, const int32_t* offsets) {
   }
 }
 
-template <int channels>
-void blendGathers(const Byte* src, int16_t* row, const uint8_t* blocks, size_t first, size_t end) {
+template <int channels, int n>
+void blendGathers(Sources<n> src, Elements<n> rows, const uint8_t* blocks, size_t first, size_t end) {
   using Block = GatherBlock<channels>;
   for (size_t i = first; i < end; ++i) {
     const uint8_t* const block = blocks + i * sizeof(Block);
     int32_t offsets[kColumns<channels>];
     move<sizeof offsets>(reinterpret_cast<Byte*>(offsets), block + offsetof(Block, offsets));
-    store16(reinterpret_cast<Byte*>(row + i * kUsed<channels>),
-            blendPairs(gathered<channels>(src, offsets), block).v);
+    for (size_t k = 0; k < n; ++k)
+      rows.store(k, i * kUsed<channels>, blendPairs(gathered<channels>(src[k], offsets), block));
   }
 }
 
 // The last 3-channel pixels end less than eight bytes after their start: each is copied apart.
-void blendLast(const Byte* src, int16_t* row, const uint8_t* blocks, size_t first, size_t end) {
+template <int n>
+void blendLast(Sources<n> src, Elements<n> rows, const uint8_t* blocks, size_t first, size_t end) {
   using Block = GatherBlock<3>;
   for (size_t i = first; i < end; ++i) {
     const uint8_t* const block = blocks + i * sizeof(Block);
     int32_t offsets[2];
     move<sizeof offsets>(reinterpret_cast<Byte*>(offsets), block + offsetof(Block, offsets));
-    Byte pixels[16] = {};
-    move<6>(pixels, src + offsets[0]);
-    move<6>(pixels + 8, src + offsets[1]);
-    constexpr int32_t kCopied[2] = {0, 8};
-    store16(reinterpret_cast<Byte*>(row + i * kUsed<3>), blendPairs(gathered<3>(pixels, kCopied), block).v);
+    for (size_t k = 0; k < n; ++k) {
+      Byte pixels[16] = {};
+      move<6>(pixels, src[k] + offsets[0]);
+      move<6>(pixels + 8, src[k] + offsets[1]);
+      constexpr int32_t kCopied[2] = {0, 8};
+      rows.store(k, i * kUsed<3>, blendPairs(gathered<3>(pixels, kCopied), block));
+    }
   }
 }
 
@@ -167,10 +183,32 @@ Bytes16 blendQ6(const int16_t* nearer, const int16_t* farther, S16 weight) {
   return packed<uint8_t>(half(0), half(kLanes)).v;
 }
 
-// t has 14 fraction bits. An odd integer part rounds up from a unit below its half.
-uint8_t roundedQ14(int t) { return static_cast<uint8_t>((t + ((t >> 14) & 1) + 8192) >> 14); }
+// Both stages at once. The sums have 14 fraction bits; an odd integer part rounds up from a unit below its
+// half.
+int roundedQ14(int sum) { return (sum + (sum >> 14 & 1) + (1 << 13)) >> 14; }
+S32 roundedQ14(S32 sum) {
+  return shiftRight<14>(sum + (shiftRight<14>(sum) & broadcast(1)) + broadcast(1 << 13));
+}
 
-uint8_t blendQ14(int a, int b, int c) { return roundedQ14(a * kQ14 + (b - a) * c); }
+// Of four pairs of samples.
+uint32_t blendQ14(Bytes16 pairs, Bytes16 weights) {
+  const S32 sum = pairSums(S16{widened<uint16_t>(U8{pairs}).v}, S16{weights});
+  const S16 words = packed<int16_t>(roundedQ14(sum), broadcast(0));
+  return firstDword(packed<uint8_t>(words, words).v);
+}
+
+// Of two pixels; c is the second one's weight.
+template <int channels>
+uint32_t blendPixels(const Byte* first, const Byte* second, int c) {
+  if constexpr (channels == 1) return static_cast<uint32_t>(roundedQ14(*first * (kQ14 - c) + *second * c));
+  const U8 a{dwordsOf(loadDword<channels>(first), 0, 0)}, b{dwordsOf(loadDword<channels>(second), 0, 0)};
+  return blendQ14(interleavedLow(a, b).v, broadcast(kQ14 - c + (c << 16)).v);
+}
+
+template <int channels>
+void storePixel(Byte* dst, uint32_t pixel) {
+  move<channels>(dst, reinterpret_cast<const Byte*>(&pixel));
+}
 
 }  // namespace
 
@@ -194,34 +232,57 @@ ColumnBlender<uint8_t, channels>::ColumnBlender(const TileColumns<uint8_t>& colu
 }
 
 template <int channels>
-void ColumnBlender<uint8_t, channels>::blend(const uint8_t* src, int16_t* row) const {
+template <int n>
+void ColumnBlender<uint8_t, channels>::blendRows(const uint8_t* const (&src)[n],
+                                                 int16_t* const (&rows)[n]) const {
   if constexpr (channels == 1) {
     if (wholeLoads_ != 0)
-      blendWindows(src, row, blocks_, blockCount_);
+      blendWindows<n>(src, {rows}, blocks_, blockCount_);
     else
-      blendGathers<1>(src, row, blocks_, 0, blockCount_);
+      blendGathers<1, n>(src, {rows}, blocks_, 0, blockCount_);
   } else {
-    blendGathers<channels>(src, row, blocks_, 0, wholeLoads_);
-    if constexpr (channels == 3) blendLast(src, row, blocks_, wholeLoads_, blockCount_);
+    blendGathers<channels, n>(src, {rows}, blocks_, 0, wholeLoads_);
+    if constexpr (channels == 3) blendLast<n>(src, {rows}, blocks_, wholeLoads_, blockCount_);
   }
+}
+
+template <int channels>
+void ColumnBlender<uint8_t, channels>::blend(const uint8_t* src, int16_t* row) const {
+  blendRows<1>({src}, {row});
+}
+template <int channels>
+void ColumnBlender<uint8_t, channels>::blendTwo(const uint8_t* first, int16_t* upper, const uint8_t* second,
+                                                int16_t* lower) const {
+  blendRows<2>({first, second}, {upper, lower});
 }
 
 template <int channels>
 void ColumnBlender<uint8_t, channels>::blendOnce(const uint8_t* src, const TileColumns<uint8_t>& columns,
                                                  uint8_t* dst) {
-  for (size_t x = 0; x < columns.count; ++x) {
-    const uint8_t* const pixel = src + offsetOf<channels>(columns, x);
-    for (int k = 0; k < channels; ++k)
-      *dst++ = blendQ14(pixel[k], pixel[k + channels], columns.weights[2 * x + 1]);
+  size_t x = 0;
+  if constexpr (channels == 1) {
+    for (; x + 4 <= columns.count; x += 4) {
+      Bytes16 pairs = dwordsOf(0, 0, 0);
+      pairs = insertWord<0>(pairs, src + offsetOf<1>(columns, x));
+      pairs = insertWord<1>(pairs, src + offsetOf<1>(columns, x + 1));
+      pairs = insertWord<2>(pairs, src + offsetOf<1>(columns, x + 2));
+      pairs = insertWord<3>(pairs, src + offsetOf<1>(columns, x + 3));
+      const auto* const weights = reinterpret_cast<const Byte*>(columns.weights + 2 * x);
+      storePixel<4>(dst + x, blendQ14(pairs, load16(weights)));
+    }
+  }
+  for (; x < columns.count; ++x) {
+    const Byte* const pixel = src + offsetOf<channels>(columns, x);
+    storePixel<channels>(dst + x * channels,
+                         blendPixels<channels>(pixel, pixel + channels, columns.weights[2 * x + 1]));
   }
 }
 
 template <int channels>
 void ColumnBlender<uint8_t, channels>::repeatBlend(const uint8_t* first, const uint8_t* second, uint16_t c,
                                                    uint8_t* dst, size_t count) {
-  uint8_t pixel[channels];
-  for (int k = 0; k < channels; ++k) pixel[k] = blendQ14(first[k], second[k], c);
-  for (size_t i = 0; i < count; ++i, dst += channels) move<channels>(dst, pixel);
+  const uint32_t pixel = blendPixels<channels>(first, second, c);
+  for (size_t i = 0; i < count; ++i, dst += channels) storePixel<channels>(dst, pixel);
 }
 
 template class ColumnBlender<uint8_t, 1>;

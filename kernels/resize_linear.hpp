@@ -58,6 +58,11 @@ class ColumnBlender {
   ColumnBlender(const TileColumns<T>& columns, uint8_t* scratch);
 
   void blend(const uint8_t* src, BlendElement<T>* row) const;
+  void blendTwo(const uint8_t* first, BlendElement<T>* upper, const uint8_t* second,
+                BlendElement<T>* lower) const {
+    blend(first, upper);
+    blend(second, lower);
+  }
 
   // Both stages at once: columns blended and rounded, and a blend of two pixels, `count` times.
   static void blendOnce(const uint8_t* src, const TileColumns<T>& columns, uint8_t* dst);
@@ -78,12 +83,16 @@ class ColumnBlender<uint8_t, channels> {
   ColumnBlender(const TileColumns<uint8_t>& columns, uint8_t* scratch);
 
   void blend(const uint8_t* src, int16_t* row) const;
+  void blendTwo(const uint8_t* first, int16_t* upper, const uint8_t* second, int16_t* lower) const;
 
   static void blendOnce(const uint8_t* src, const TileColumns<uint8_t>& columns, uint8_t* dst);
   static void repeatBlend(const uint8_t* first, const uint8_t* second, uint16_t c, uint8_t* dst,
                           size_t count);
 
  private:
+  template <int n>
+  void blendRows(const uint8_t* const (&src)[n], int16_t* const (&rows)[n]) const;
+
   const uint8_t* blocks_;
   size_t blockCount_;
   size_t wholeLoads_;  // blocks from the first one on that are loaded in whole vectors

@@ -2,7 +2,6 @@
 #include "kernels/resize_nearest.hpp"
 
 #include <algorithm>
-#include <type_traits>
 
 #include "kernels/simd/resize.hpp"
 
@@ -117,13 +116,13 @@ size_t pickEvens(const Byte* src, Byte* dst, size_t columns) {
 }
 
 // Every pixel twice.
-template <size_t pixel>
+template <typename Pixel>
 size_t pickTwice(const Byte* src, Byte* dst, size_t columns) {
-  constexpr size_t kEach = 2 * kBlock / pixel;
+  constexpr size_t kEach = 2 * kBlock / sizeof(Pixel);
   size_t x = 0;
   for (; x + kEach <= columns; x += kEach, src += kBlock) {
-    const Bytes16 v = load16Whole(src);
-    store32(dst + x * pixel, joined(unpackLowPixels<pixel>(v, v), unpackHighPixels<pixel>(v, v)));
+    const Samples<Pixel> v{load16Whole(src)};
+    store32(dst + x * sizeof(Pixel), joined(interleavedLow(v, v).v, interleavedHigh(v, v).v));
   }
   return x;
 }
@@ -170,19 +169,19 @@ PickedColumns::PickedColumns(const int32_t* index, int32_t origin, size_t column
 }
 
 void PickedColumns::pickByTwo(const uint8_t* base, uint8_t* dst) const {
-  const auto pick = [&](auto bytes) {
-    constexpr size_t kPixel = decltype(bytes)::value;
+  const auto pick = [&](auto pixel) {
+    constexpr size_t kPixel = sizeof pixel;
     const Byte* const first = base + static_cast<ptrdiff_t>(index_[0]) * static_cast<ptrdiff_t>(kPixel);
-    const size_t done =
-        isHalved_ ? pickEvens<kPixel>(first, dst, columns_) : pickTwice<kPixel>(first, dst, columns_);
+    const size_t done = isHalved_ ? pickEvens<kPixel>(first, dst, columns_)
+                                  : pickTwice<decltype(pixel)>(first, dst, columns_);
     pickOneByOne<kPixel>(base, dst + done * kPixel, index_ + done, columns_ - done, false);
   };
   if (pixelBytes_ == 1)
-    pick(std::integral_constant<size_t, 1>());
+    pick(uint8_t());
   else if (pixelBytes_ == 2)
-    pick(std::integral_constant<size_t, 2>());
+    pick(uint16_t());
   else
-    pick(std::integral_constant<size_t, 4>());
+    pick(uint32_t());
 }
 
 void PickedColumns::pick(const uint8_t* src, uint8_t* dst) const {

@@ -25,11 +25,11 @@ struct Widen {
   }
   Bytes32 block(const Byte* p) const {
     const U8 bytes{load16(p)}, high = highBytes(bytes);
-    return joined(wordsOf(bytes.v, high.v), wordsOfHigh(bytes.v, high.v));
+    return joined(interleavedLow(bytes, high).v, interleavedHigh(bytes, high).v);
   }
   Bytes16 half(const Byte* p) const {
     const U8 bytes{loadFew<8>(p)};
-    return wordsOf(bytes.v, highBytes(bytes).v);
+    return interleavedLow(bytes, highBytes(bytes)).v;
   }
 };
 

@@ -47,6 +47,36 @@ inline void move(Byte* to, const Byte* from) {
   std::memcpy(to, from, n);
 }
 
+// The first bytes of a vector, with no byte behind them read.
+template <size_t bytes>
+Bytes16 loadFew(const Byte* p) {
+  static_assert(bytes == 4 || bytes == 8 || bytes == 16);
+  if constexpr (bytes == 16) {
+    return load16(p);
+  } else if constexpr (bytes == 8) {
+    return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
+  } else {
+    int dword = 0;
+    move<4>(reinterpret_cast<Byte*>(&dword), p);
+    return _mm_cvtsi32_si128(dword);
+  }
+}
+
+// A load for values that are used twice, which compilers would load twice.
+inline Bytes16 load16Whole(const Byte* p) {
+  Bytes16 v = load16(p);
+  asm("" : "+x"(v));
+  return v;
+}
+
+// The first or the last bytes of a vector.
+inline void storeFirst8(Byte* p, Bytes16 v) { _mm_storel_epi64(reinterpret_cast<__m128i*>(p), v); }
+inline void storeLast8(Byte* p, Bytes16 v) {
+  _mm_storeh_pd(reinterpret_cast<double*>(p), _mm_castsi128_pd(v));
+}
+inline uint32_t firstDword(Bytes16 v) { return static_cast<uint32_t>(_mm_cvtsi128_si32(v)); }
+inline uint32_t lastDword(Bytes16 v) { return static_cast<uint32_t>(_mm_extract_epi32(v, 3)); }
+
 inline bool isAligned(const void* p, size_t boundary) {
   return (reinterpret_cast<uintptr_t>(p) & (boundary - 1)) == 0;
 }

@@ -6,28 +6,6 @@
 
 namespace lumi::simd {
 
-// The first bytes of a vector, with no byte behind them read.
-template <size_t bytes>
-Bytes16 loadFew(const Byte* p) {
-  static_assert(bytes == 4 || bytes == 8 || bytes == 16);
-  if constexpr (bytes == 16) {
-    return load16(p);
-  } else if constexpr (bytes == 8) {
-    return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
-  } else {
-    int dword = 0;
-    move<4>(reinterpret_cast<Byte*>(&dword), p);
-    return _mm_cvtsi32_si128(dword);
-  }
-}
-
-// A load for values that are used twice, which compilers would load twice.
-inline Bytes16 load16Whole(const Byte* p) {
-  Bytes16 v = load16(p);
-  asm("" : "+x"(v));
-  return v;
-}
-
 // The first samples of a vector in a wider type W, one that holds them all.
 template <typename W, typename T>
 Samples<W> widened(Samples<T> x) {

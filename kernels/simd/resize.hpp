@@ -7,8 +7,6 @@
 
 namespace lumi::simd {
 
-// Each word: first byte * first weight + second byte * second weight, limited to the type.
-inline S16 sumOfProducts(U8 pairs, S8 weights) { return {_mm_maddubs_epi16(pairs.v, weights.v)}; }
 // (a * b) >> 16.
 inline S16 productHigh(S16 a, S16 b) { return {_mm_mulhi_epi16(a.v, b.v)}; }
 // (a * b + 2^14) >> 15.
@@ -51,22 +49,6 @@ Bytes16 evenPixels(Bytes16 a, Bytes16 b) {
 inline Bytes16 oddDwords(Bytes16 a, Bytes16 b) {
   return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(a), _mm_castsi128_ps(b), 0xDD));
 }
-// Pixels of the first or the last eight bytes of a and b, in turn.
-template <size_t bytes>
-Bytes16 unpackLowPixels(Bytes16 a, Bytes16 b) {
-  static_assert(bytes == 1 || bytes == 2 || bytes == 4);
-  if constexpr (bytes == 1) return _mm_unpacklo_epi8(a, b);
-  if constexpr (bytes == 2) return _mm_unpacklo_epi16(a, b);
-  return _mm_unpacklo_epi32(a, b);
-}
-template <size_t bytes>
-Bytes16 unpackHighPixels(Bytes16 a, Bytes16 b) {
-  static_assert(bytes == 1 || bytes == 2 || bytes == 4);
-  if constexpr (bytes == 1) return _mm_unpackhi_epi8(a, b);
-  if constexpr (bytes == 2) return _mm_unpackhi_epi16(a, b);
-  return _mm_unpackhi_epi32(a, b);
-}
-inline void store8(Byte* p, Bytes16 v) { _mm_storel_epi64(reinterpret_cast<__m128i*>(p), v); }
 
 // Word i from p.
 template <int i>

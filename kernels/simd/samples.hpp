@@ -92,6 +92,26 @@ inline S16 smaller(S16 a, S16 b) { return {_mm_min_epi16(a.v, b.v)}; }
 inline U32 smaller(U32 a, U32 b) { return {_mm_min_epu32(a.v, b.v)}; }
 inline S32 smaller(S32 a, S32 b) { return {_mm_min_epi32(a.v, b.v)}; }
 
+// Products of words, added up in pairs of neighbours.
+inline S32 pairSums(S16 a, S16 b) { return {_mm_madd_epi16(a.v, b.v)}; }
+
+// Products of unsigned and signed bytes, added up in pairs of neighbours, limited to words.
+inline S16 pairSums(U8 a, S8 b) { return {_mm_maddubs_epi16(a.v, b.v)}; }
+
+// The first, or the last, halves of two vectors, sample by sample in turn.
+template <typename T>
+Samples<T> interleavedLow(Samples<T> a, Samples<T> b) {
+  if constexpr (sizeof(T) == 1) return {_mm_unpacklo_epi8(a.v, b.v)};
+  if constexpr (sizeof(T) == 2) return {_mm_unpacklo_epi16(a.v, b.v)};
+  if constexpr (sizeof(T) == 4) return {_mm_unpacklo_epi32(a.v, b.v)};
+}
+template <typename T>
+Samples<T> interleavedHigh(Samples<T> a, Samples<T> b) {
+  if constexpr (sizeof(T) == 1) return {_mm_unpackhi_epi8(a.v, b.v)};
+  if constexpr (sizeof(T) == 2) return {_mm_unpackhi_epi16(a.v, b.v)};
+  if constexpr (sizeof(T) == 4) return {_mm_unpackhi_epi32(a.v, b.v)};
+}
+
 template <typename T>
 Samples<T> isAtLeast(Samples<T> a, Samples<T> b) {
   return isEqual(larger(a, b), a);

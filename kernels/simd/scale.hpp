@@ -7,10 +7,6 @@
 
 namespace lumi::simd {
 
-// Words whose low bytes are the first or the last eight bytes of `low`, and whose high ones those of `high`.
-inline Bytes16 wordsOf(Bytes16 low, Bytes16 high) { return _mm_unpacklo_epi8(low, high); }
-inline Bytes16 wordsOfHigh(Bytes16 low, Bytes16 high) { return _mm_unpackhi_epi8(low, high); }
-
 // Bytes as floats.
 inline Floats4 floatsOf4Bytes(const Byte* p) { return {_mm_cvtepi32_ps(_mm_cvtepu8_epi32(loadFew<4>(p)))}; }
 inline Floats8 floatsOf8Bytes(const Byte* p) {

@@ -3,9 +3,7 @@
 // They work by dwords, which every processor of the level moves in whole cache lines.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-#include <cstring>
+#include "kernels/simd/bytes.hpp"
 
 namespace lumi::simd {
 
@@ -24,6 +22,15 @@ inline void moveDwords(uint8_t* to, const uint8_t* from, size_t count) {
 #else
   asm volatile("rep movsl" : "+S"(from), "+D"(to), "+c"(count) : : "memory");
 #endif
+}
+
+// At least one vector; the ends go unaligned.
+inline void copyByString(const Byte* src, Byte* dst, size_t bytes) {
+  const Bytes32 first = load32(src), last = load32(src + bytes - sizeof(Bytes32));
+  const size_t head = reachPastBoundary(dst, sizeof(Bytes32));
+  moveDwords(dst + head, src + head, (bytes - head) / 4);
+  store32(dst, first);
+  store32(dst + bytes - sizeof(Bytes32), last);
 }
 
 inline void storeDwords(uint8_t* to, uint32_t value, size_t count) {
