@@ -4,21 +4,18 @@
 //   tiled_threads [width height]
 #include <lumi.h>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <stdexcept>
-#include <string>
 #include <thread>
 #include <vector>
 
-namespace {
+#include "resizer.hpp"
 
-void check(LumStatus status, const char* what) {
-  if (status != lumStatusOk) throw std::runtime_error(what + (" returned " + std::to_string(status)));
-}
+namespace {
 
 struct Picture {
   LumiSize size;
@@ -27,53 +24,19 @@ struct Picture {
 
   explicit Picture(LumiSize s)
       : size(s), step(3 * s.width), bytes(static_cast<size_t>(step) * static_cast<size_t>(s.height)) {}
-  Lum8u* at(int x, int y) { return bytes.data() + static_cast<ptrdiff_t>(y) * step + 3 * x; }
-  const Lum8u* at(int x, int y) const { return bytes.data() + static_cast<ptrdiff_t>(y) * step + 3 * x; }
-};
-
-// Linear resizing of one picture into another, tile by tile.
-class Resizer {
- public:
-  Resizer(LumiSize from, LumiSize to) {
-    int objectBytes = 0, initBytes = 0;
-    check(lumiResizeGetSize_8u(from, to, lumInterpLinear, 0, &objectBytes, &initBytes),
-          "lumiResizeGetSize_8u");
-    memory_.resize(static_cast<size_t>(objectBytes));
-    check(lumiResizeLinearInit_8u(from, to, object()), "lumiResizeLinearInit_8u");
-  }
-
-  std::vector<Lum8u> scratchFor(LumiSize tile) {
-    int bytes = 0;
-    check(lumiResizeGetBufferSize_8u(object(), tile, 3, &bytes), "lumiResizeGetBufferSize_8u");
-    return std::vector<Lum8u>(static_cast<size_t>(bytes));
-  }
-
-  // The tile of `to` that begins at `where`. Its source begins where the object says; what lies around a tile
-  // inside the picture is read, and the picture's own edge is repeated.
-  void run(const Picture& from, Picture& to, LumiPoint where, LumiSize tile, std::vector<Lum8u>& scratch) {
-    LumiPoint source = {};
-    check(lumiResizeGetSrcOffset_8u(object(), where, &source), "lumiResizeGetSrcOffset_8u");
-    const Lum8u unused[3] = {};
-    check(lumiResizeLinear_8u_C3R(from.at(source.x, source.y), from.step, to.at(where.x, where.y), to.step,
-                                  where, tile, lumiBorderReplicate, unused, object(), scratch.data()),
-          "lumiResizeLinear_8u_C3R");
-  }
-
- private:
-  LumiResizeSpec* object() { return reinterpret_cast<LumiResizeSpec*>(memory_.data()); }
-
-  std::vector<Lum8u> memory_;  // the object finds its boundary in it by itself
 };
 
 // Bands of full width keep the threads' memory apart.
 constexpr int kBand = 64;
 
-double secondsOf(Resizer& resizer, const Picture& from, Picture& to, unsigned threads) {
+double secondsOf(const Resizer& resizer, const Picture& from, Picture& to, unsigned threads) {
   std::atomic<int> next{0};
   const auto work = [&] {
     std::vector<Lum8u> scratch = resizer.scratchFor({to.size.width, std::min(kBand, to.size.height)});
     for (int y; (y = next.fetch_add(kBand)) < to.size.height;)
-      resizer.run(from, to, {0, y}, {to.size.width, std::min(kBand, to.size.height - y)}, scratch);
+      check(resizer.run(from.bytes.data(), from.step, to.bytes.data(), to.step, {0, y},
+                        {to.size.width, std::min(kBand, to.size.height - y)}, scratch),
+            resizer.runName());
   };
   const auto start = std::chrono::steady_clock::now();
   std::vector<std::thread> helpers;
@@ -83,7 +46,7 @@ double secondsOf(Resizer& resizer, const Picture& from, Picture& to, unsigned th
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-double best(Resizer& resizer, const Picture& from, Picture& to, unsigned threads) {
+double best(const Resizer& resizer, const Picture& from, Picture& to, unsigned threads) {
   double least = secondsOf(resizer, from, to, threads);
   for (int i = 0; i < 6; ++i) least = std::min(least, secondsOf(resizer, from, to, threads));
   return least;
@@ -92,7 +55,7 @@ double best(Resizer& resizer, const Picture& from, Picture& to, unsigned threads
 int run(LumiSize size) {
   Picture from(size), onOne({size.width * 3 / 2, size.height * 3 / 2}), onAll(onOne.size);
   for (size_t i = 0; i < from.bytes.size(); ++i) from.bytes[i] = static_cast<Lum8u>(i * i >> 7);
-  Resizer resizer(from.size, onOne.size);
+  const Resizer resizer(from.size, onOne.size, lumInterpLinear);
   const unsigned cores = std::max(1U, std::thread::hardware_concurrency());
   const double one = best(resizer, from, onOne, 1), all = best(resizer, from, onAll, cores);
   std::printf("%d x %d to %d x %d: %.1f ms on one thread, %.1f ms on %u: %.2f times as fast\n",

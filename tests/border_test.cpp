@@ -16,6 +16,7 @@
 #include "support/core_guard.hpp"
 #include "support/fault.hpp"
 #include "support/member.hpp"
+#include "support/named_call.hpp"
 #include "support/random.hpp"
 #include "support/settings.hpp"
 
@@ -115,9 +116,9 @@ class Guarded {
     withType(row_.types[0], [&](auto sample) { runModel<decltype(sample)>(values_.twin(values), b); });
 
     Byte* const dst = inPlace_ || c.source == Source::Redirected ? inWhole : whole.first;
-    std::vector<Slot> slots = slotsOf(c, image.first, dst, values);
+    const NamedCall call = callOf(c, image.first, dst, values);
     LumStatus status = 1;
-    const auto fault = faultOf([&] { status = row_.invoke.call(row_.invoke.function, slots.data()); });
+    const auto fault = faultOf([&] { status = call.run(); });
     ASSERT_FALSE(fault) << row_.name << " touches what it must not: " << c;
     ASSERT_EQ(status, lumStatusOk) << row_.name << ": " << c;
     for (const Arena* arena : {&src_, &dst_, &values_}) {
@@ -165,19 +166,14 @@ class Guarded {
     model::extendBorder<T>(b, member_.channels, wraps ? model::periodic : model::nearestInside);
   }
 
-  std::vector<Slot> slotsOf(const BorderCase& c, Byte* src, Byte* dst, Byte* values) const {
-    std::vector<Slot> slots(row_.arguments.size());
-    for (size_t i = 0; i < slots.size(); ++i) {
-      const std::string name = row_.arguments[i].name;
-      slots[i].pointer = name == "src" ? src : name == "value" ? values : dst;
-      if (row_.arguments[i].kind == Kind::Value) slots[i].value = values;
-      slots[i].size = name == "srcRoi" ? c.image : c.whole;
-      slots[i].number = name == "srcStep" ? c.srcStep
-                        : name == "top"   ? c.top
-                        : name == "left"  ? c.left
-                                          : c.dstStep;
-    }
-    return slots;
+  NamedCall callOf(const BorderCase& c, Byte* src, Byte* dst, Byte* values) const {
+    NamedCall call(row_);
+    if (inPlace_)
+      call.image("srcDst", dst, c.dstStep);
+    else
+      call.image("src", src, c.srcStep).image("dst", dst, c.dstStep);
+    if (isConst_) call.values("value", values);
+    return call.size("srcRoi", c.image).size("dstRoi", c.whole).number("top", c.top).number("left", c.left);
   }
 
   const ExportRow& row_;

@@ -3,17 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstring>
 #include <functional>
 #include <string>
 #include <vector>
 
-#include "lumi/filter_border.h"
+#include "filter_border_calls.hpp"
 
 namespace test {
 namespace {
 
-using Byte = unsigned char;
+using filter::Byte;
 
 // A fault of a call: what it changes in the arguments, and its status. Lists are in the order of the checks;
 // faults of one check have one status.
@@ -187,10 +186,6 @@ TEST(FilterBorderStatus, InitialisersInOrder) {
 }
 
 template <typename T>
-using Run = LumStatus (*)(const T*, int, T*, int, LumiSize, LumiBorderType, const T*,
-                          const LumiFilterBorderSpec*, Lum8u*);
-
-template <typename T>
 struct Arguments {
   static constexpr LumiSize kRoi{5, 3};
   static constexpr int kStep = kRoi.width * 4 * static_cast<int>(sizeof(T));  // of four channels
@@ -209,21 +204,19 @@ struct Arguments {
 };
 
 template <typename T>
-LumStatus call(Run<T> run, int channels, Arguments<T>& a) {
-  const LumiDataType type = sizeof(T) == 1              ? lumiData8u
-                            : sizeof(T) == 4            ? lumiData32f
-                            : std::is_same_v<T, Lum16s> ? lumiData16s
-                                                        : lumiData16u;
-  const Lum32f taps[9] = {0, 0, 0, 0, 1, 0, 0, 0, 0};
-  auto* const spec = reinterpret_cast<LumiFilterBorderSpec*>(a.spec.data());
-  EXPECT_EQ(lumiFilterBorderInit_32f(taps, {3, 3}, type, channels, 0, spec), lumStatusOk);
-  return run(a.nullSrc ? nullptr : a.src.data(), a.srcStep, a.nullDst ? nullptr : a.dst.data(), a.dstStep,
-             a.roi, a.border, a.nullValue ? nullptr : a.value, a.nullSpec ? nullptr : spec,
-             a.nullBuffer ? nullptr : a.buffer.data());
+LumStatus call(int channels, Arguments<T>& a) {
+  const filter::FilterKernel same{{3, 3}, {}, {0, 0, 0, 0, 1, 0, 0, 0, 0}, 1, 0};
+  EXPECT_EQ(filter::init(same, filter::dataType<T>(), channels, a.spec.data()), lumStatusOk);
+  model::Image src = filter::imageOf(a.src, a.srcStep), dst = filter::imageOf(a.dst, a.dstStep);
+  if (a.nullSrc) src.first = nullptr;
+  if (a.nullDst) dst.first = nullptr;
+  return filter::apply<T>(channels, src, dst, a.roi, a.border, a.nullValue ? nullptr : a.value,
+                          a.nullSpec ? nullptr : a.spec.data(), a.nullBuffer ? nullptr : a.buffer.data())
+      .run();
 }
 
 template <typename T>
-void expectRunFaults(Run<T> run, int channels) {
+void expectRunFaults(int channels) {
   using A = Arguments<T>;
   std::vector<Fault<A>> faults = {{"source", lumStatusNullPointer, [](A& a) { a.nullSrc = true; }},
                                   {"destination", lumStatusNullPointer, [](A& a) { a.nullDst = true; }},
@@ -241,35 +234,29 @@ void expectRunFaults(Run<T> run, int channels) {
     faults.push_back({"destination step", lumStatusBadStep, [=](A& a) { a.dstStep = bad; }});
   for (const int bad : {2, 3, 4})
     faults.push_back({"border", lumStatusBadBorder, [=](A& a) { a.border = bad; }});
-  expectInOrder(faults, [=](A& a) { return call(run, channels, a); });
+  expectInOrder(faults, [=](A& a) { return call(channels, a); });
   for (const int border : {0, 1, 5, 7, 8, 15, 16 | 2, 32 | 3, 64 | 4, 256 | 2}) {
     A a;
     a.border = border;
-    EXPECT_EQ(call(run, channels, a), lumStatusOk) << border;
+    EXPECT_EQ(call(channels, a), lumStatusOk) << border;
   }
   // The destination's rows may lie over one another as long as a row of one channel fits.
   A overlapping;
   overlapping.dstStep = row;
-  EXPECT_EQ(call(run, channels, overlapping), lumStatusOk);
+  EXPECT_EQ(call(channels, overlapping), lumStatusOk);
   A oneRow;
   oneRow.srcStep = 1;
   oneRow.roi.height = 1;
-  EXPECT_EQ(call(run, channels, oneRow), lumStatusOk);
+  EXPECT_EQ(call(channels, oneRow), lumStatusOk);
 }
 
 TEST(FilterBorderStatus, RunsInOrder) {
-  expectRunFaults(lumiFilterBorder_8u_C1R, 1);
-  expectRunFaults(lumiFilterBorder_8u_C3R, 3);
-  expectRunFaults(lumiFilterBorder_8u_C4R, 4);
-  expectRunFaults(lumiFilterBorder_16s_C1R, 1);
-  expectRunFaults(lumiFilterBorder_16s_C3R, 3);
-  expectRunFaults(lumiFilterBorder_16s_C4R, 4);
-  expectRunFaults(lumiFilterBorder_16u_C1R, 1);
-  expectRunFaults(lumiFilterBorder_16u_C3R, 3);
-  expectRunFaults(lumiFilterBorder_16u_C4R, 4);
-  expectRunFaults(lumiFilterBorder_32f_C1R, 1);
-  expectRunFaults(lumiFilterBorder_32f_C3R, 3);
-  expectRunFaults(lumiFilterBorder_32f_C4R, 4);
+  for (const int channels : filter::kChannels) {
+    expectRunFaults<Lum8u>(channels);
+    expectRunFaults<Lum16s>(channels);
+    expectRunFaults<Lum16u>(channels);
+    expectRunFaults<Lum32f>(channels);
+  }
 }
 
 }  // namespace

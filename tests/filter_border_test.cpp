@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Results of kernel filtering with border, against the model; what is read and written; sharing.
-#include "lumi/filter_border.h"
+#include "model/filter_border.hpp"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@
 #include <thread>
 #include <vector>
 
-#include "model/filter_border.hpp"
+#include "filter_border_calls.hpp"
 #include "support/arena.hpp"
 #include "support/core_guard.hpp"
 #include "support/member.hpp"
@@ -25,43 +25,11 @@ namespace {
 using model::FilterImage;
 using model::FilterKernel;
 
-const bool covered =
-    addCovered({"lumiFilterBorderGetSize", "lumiFilterBorderInit_16s", "lumiFilterBorderInit_32f",
-                "lumiFilterBorder_8u_C1R", "lumiFilterBorder_8u_C3R", "lumiFilterBorder_8u_C4R",
-                "lumiFilterBorder_16s_C1R", "lumiFilterBorder_16s_C3R", "lumiFilterBorder_16s_C4R",
-                "lumiFilterBorder_16u_C1R", "lumiFilterBorder_16u_C3R", "lumiFilterBorder_16u_C4R",
-                "lumiFilterBorder_32f_C1R", "lumiFilterBorder_32f_C3R", "lumiFilterBorder_32f_C4R"});
-
-template <typename T>
-using Run = LumStatus (*)(const T*, int, T*, int, LumiSize, LumiBorderType, const T*,
-                          const LumiFilterBorderSpec*, Lum8u*);
-
-template <typename T>
-struct Members;
-template <>
-struct Members<Lum8u> {
-  static constexpr LumiDataType kType = lumiData8u;
-  static constexpr Run<Lum8u> kRuns[] = {lumiFilterBorder_8u_C1R, nullptr, lumiFilterBorder_8u_C3R,
-                                         lumiFilterBorder_8u_C4R};
-};
-template <>
-struct Members<Lum16s> {
-  static constexpr LumiDataType kType = lumiData16s;
-  static constexpr Run<Lum16s> kRuns[] = {lumiFilterBorder_16s_C1R, nullptr, lumiFilterBorder_16s_C3R,
-                                          lumiFilterBorder_16s_C4R};
-};
-template <>
-struct Members<Lum16u> {
-  static constexpr LumiDataType kType = lumiData16u;
-  static constexpr Run<Lum16u> kRuns[] = {lumiFilterBorder_16u_C1R, nullptr, lumiFilterBorder_16u_C3R,
-                                          lumiFilterBorder_16u_C4R};
-};
-template <>
-struct Members<Lum32f> {
-  static constexpr LumiDataType kType = lumiData32f;
-  static constexpr Run<Lum32f> kRuns[] = {lumiFilterBorder_32f_C1R, nullptr, lumiFilterBorder_32f_C3R,
-                                          lumiFilterBorder_32f_C4R};
-};
+const bool covered = [] {
+  for (const char* type : {"8u", "16s", "16u", "32f"})
+    for (const int channels : filter::kChannels) addCovered({filter::runName(type, channels)});
+  return addCovered({"lumiFilterBorderGetSize", "lumiFilterBorderInit_16s", "lumiFilterBorderInit_32f"});
+}();
 
 struct Trial {
   FilterKernel kernel;
@@ -111,31 +79,21 @@ void fillSamples(Random& random, Byte* first, size_t count) {
   }
 }
 
-LumStatus initialise(const FilterKernel& k, LumiDataType type, int channels, Byte* spec) {
-  auto* const object = reinterpret_cast<LumiFilterBorderSpec*>(spec);
-  return k.whole.empty()
-             ? lumiFilterBorderInit_32f(k.floats.data(), k.size, type, channels, k.roundMode, object)
-             : lumiFilterBorderInit_16s(k.whole.data(), k.size, k.divisor, type, channels, k.roundMode,
-                                        object);
-}
-
 // Sizes, object and run, all in exactly the memory that is promised.
 class Bench {
  public:
   template <typename T>
   std::string run(Random& random, int channels, const Trial& t) {
     const auto fail = [&](const char* what) { return std::string(what) + ": " + describe(t, channels); };
-    const LumiDataType type = Members<T>::kType;
+    const LumiDataType type = filter::dataType<T>();
     int specBytes = 0, bufferBytes = 0;
-    if (lumiFilterBorderGetSize(t.kernel.size, t.roi, type,
-                                t.kernel.whole.empty() ? lumiData32f : lumiData16s, channels, &specBytes,
-                                &bufferBytes) != lumStatusOk)
+    if (filter::getSize(t.kernel, type, channels, t.roi, &specBytes, &bufferBytes) != lumStatusOk)
       return fail("sizes");
     const Block spec = place(spec_, static_cast<size_t>(specBytes), t.atEnd, t.specPhase);
     const Block buffer = place(buffer_, static_cast<size_t>(bufferBytes), t.atEnd, t.bufferPhase);
     random.fill(spec_.begin(), static_cast<size_t>(spec_.end() - spec_.begin()));
     spec_.copyToTwin(spec_.begin(), spec_.end());
-    if (initialise(t.kernel, type, channels, spec.first) != lumStatusOk) return fail("initialiser");
+    if (filter::init(t.kernel, type, channels, spec.first) != lumStatusOk) return fail("initialiser");
     if (!keptAround(spec_, spec)) return fail("written outside the object");
     spec_.copyToTwin(spec_.begin(), spec_.end());
 
@@ -153,10 +111,9 @@ class Bench {
     T value[4];
     std::memcpy(value, valueBytes, sizeof value);
 
-    const LumStatus status = Members<T>::kRuns[channels - 1](
-        reinterpret_cast<const T*>(image.src.first), image.src.step, reinterpret_cast<T*>(dst.first), dstStep,
-        t.roi, t.border, value, reinterpret_cast<const LumiFilterBorderSpec*>(spec.first), buffer.first);
-    if (status != lumStatusOk) return fail("status");
+    const NamedCall call = filter::apply<T>(channels, image.src, {dst.first, dstStep}, t.roi, t.border, value,
+                                            spec.first, buffer.first);
+    if (call.run() != lumStatusOk) return fail("status");
     model::filterBorder<T>(t.kernel, image, value, {dst_.twin(dst.first), dstStep});
     if (const Byte* at = dst_.firstDifference(dst_.begin(), dst_.end())) {
       std::ostringstream where;
@@ -288,7 +245,7 @@ TYPED_TEST_SUITE(FilterBorder, SampleTypes, testing::internal::DefaultNameGenera
 
 TYPED_TEST(FilterBorder, FloatKernels) {
   for (const LumiSize size : kKernels)
-    for (const int channels : {1, 3, 4})
+    for (const int channels : filter::kChannels)
       for (int i = 0; i < settings().scaled(40) && !this->HasFailure(); ++i)
         this->expectModel(channels, anyTrial(this->random_, floatKernel(this->random_, size)));
 }
@@ -296,7 +253,7 @@ TYPED_TEST(FilterBorder, FloatKernels) {
 TYPED_TEST(FilterBorder, WholeKernels) {
   if constexpr (std::is_integral_v<TypeParam>) {
     for (const LumiSize size : kKernels)
-      for (const int channels : {1, 3, 4})
+      for (const int channels : filter::kChannels)
         for (int i = 0; i < settings().scaled(80) && !this->HasFailure(); ++i) {
           const auto taps = this->random_.pick(std::vector<Taps>{Taps::Small, Taps::Small, Taps::Any,
                                                                  Taps::Unpacked, Taps::Weights, Taps::Few});
@@ -313,7 +270,7 @@ TYPED_TEST(FilterBorder, WholeKernels) {
 // Long rows: several pieces of a row, with every remainder about their ends.
 TYPED_TEST(FilterBorder, LongRows) {
   for (const int width : {255, 256, 257, 263, 264, 511, 512, 513, 521})
-    for (const int channels : {1, 3, 4}) {
+    for (const int channels : filter::kChannels) {
       Trial t{floatKernel(this->random_, {9, 2}), {width, 3}, lumiBorderReplicate};
       this->expectModel(channels, t);
       if (std::is_floating_point_v<TypeParam>) continue;
@@ -345,7 +302,7 @@ TYPED_TEST(FilterBorder, EveryBorderTypeWithEveryFlag) {
 }
 
 TYPED_TEST(FilterBorder, RunsAllocateNothing) {
-  for (const int channels : {1, 3, 4})
+  for (const int channels : filter::kChannels)
     this->expectModel(channels, {floatKernel(this->random_, {5, 5}), {40, 12}, lumiBorderConst});
   EXPECT_EQ(testcore::counts().allocations, 0);
   EXPECT_EQ(testcore::counts().cacheQueries, 0);
@@ -357,28 +314,23 @@ TYPED_TEST(FilterBorder, ThreadsShareAnObject) {
   constexpr LumiSize roi{67, 23}, size{5, 5};
   constexpr int kThreads = 4, kStep = roi.width * static_cast<int>(sizeof(T)), kRuns = 50;
   const FilterKernel kernel = floatKernel(this->random_, size);
-  int specBytes = 0, bufferBytes = 0;
-  ASSERT_EQ(lumiFilterBorderGetSize(size, roi, Members<T>::kType, lumiData32f, 1, &specBytes, &bufferBytes),
-            0);
-  std::vector<Byte> spec(static_cast<size_t>(specBytes));
-  ASSERT_EQ(initialise(kernel, Members<T>::kType, 1, spec.data()), lumStatusOk);
+  const filter::Work work(kernel, filter::dataType<T>(), 1, roi);
   std::vector<T> src(static_cast<size_t>(roi.width * roi.height)), expected(src);
   fillSamples<T>(this->random_, reinterpret_cast<Byte*>(src.data()), src.size());
   const T value = 7;
-  const FilterImage image{{reinterpret_cast<Byte*>(src.data()), kStep}, roi, 1, lumiBorderConst};
-  model::filterBorder<T>(kernel, image, &value, {reinterpret_cast<Byte*>(expected.data()), kStep});
+  const FilterImage image{filter::imageOf(src, kStep), roi, 1, lumiBorderConst};
+  model::filterBorder<T>(kernel, image, &value, filter::imageOf(expected, kStep));
   int differing[kThreads] = {};
   std::vector<std::thread> threads;
   for (int& differs : differing)
     threads.emplace_back([&] {
       std::vector<T> dst(src.size());
-      std::vector<Byte> buffer(static_cast<size_t>(bufferBytes));
+      std::vector<Byte> buffer(work.buffer.size());
+      const NamedCall call = filter::apply<T>(1, image.src, filter::imageOf(dst, kStep), roi, lumiBorderConst,
+                                              &value, work.spec.data(), buffer.data());
       for (int i = 0; i < kRuns; ++i) {
         std::fill(dst.begin(), dst.end(), T{1});
-        const LumStatus status =
-            Members<T>::kRuns[0](src.data(), kStep, dst.data(), kStep, roi, lumiBorderConst, &value,
-                                 reinterpret_cast<const LumiFilterBorderSpec*>(spec.data()), buffer.data());
-        differs += status != lumStatusOk || dst != expected;
+        differs += call.run() != lumStatusOk || dst != expected;
       }
     });
   for (std::thread& thread : threads) thread.join();
@@ -389,17 +341,14 @@ class FilterBorderWhole : public testing::Test {
  protected:
   template <typename T>
   std::vector<T> filter(const FilterKernel& k, LumiSize roi, std::vector<T> src) {
-    int specBytes = 0, bufferBytes = 0;
-    const LumiDataType type = Members<T>::kType;
-    EXPECT_EQ(lumiFilterBorderGetSize(k.size, roi, type, lumiData16s, 1, &specBytes, &bufferBytes), 0);
-    std::vector<Byte> spec(static_cast<size_t>(specBytes)), buffer(static_cast<size_t>(bufferBytes));
-    EXPECT_EQ(initialise(k, type, 1, spec.data()), lumStatusOk);
+    filter::Work work(k, filter::dataType<T>(), 1, roi);
     std::vector<T> dst(src.size());
     const int step = roi.width * static_cast<int>(sizeof(T));
     const T value = 0;
-    EXPECT_EQ(Members<T>::kRuns[0](src.data(), step, dst.data(), step, roi, lumiBorderReplicate, &value,
-                                   reinterpret_cast<const LumiFilterBorderSpec*>(spec.data()), buffer.data()),
-              lumStatusOk);
+    const NamedCall call =
+        filter::apply<T>(1, filter::imageOf(src, step), filter::imageOf(dst, step), roi, lumiBorderReplicate,
+                         &value, work.spec.data(), work.buffer.data());
+    EXPECT_EQ(call.run(), lumStatusOk);
     return dst;
   }
 };

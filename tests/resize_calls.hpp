@@ -2,16 +2,13 @@
 // The resize operations called by name, sample type and layout.
 #pragma once
 
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <list>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "support/arena.hpp"
-#include "support/invoke.hpp"
+#include "support/named_call.hpp"
 
 namespace test::resize {
 
@@ -22,49 +19,6 @@ inline const std::vector<int> kChannels = {1, 3, 4};
 inline int sampleBytes(const std::string& type) {
   return type == "8u" ? 1 : type == "32f" ? 4 : type == "64f" ? 8 : 2;
 }
-
-// A call of an export; arguments are set by their names, in any order.
-class NamedCall {
- public:
-  explicit NamedCall(const std::string& name) : row_(rowNamed(name)), slots_(row_.arguments.size()) {}
-
-  NamedCall& pointer(const std::string& name, const void* p) {
-    slot(name).pointer = const_cast<void*>(p);
-    return *this;
-  }
-  NamedCall& number(const std::string& name, int n) {
-    slot(name).number = n;
-    return *this;
-  }
-  NamedCall& size(const std::string& name, LumiSize s) {
-    slot(name).size = s;
-    return *this;
-  }
-  NamedCall& point(const std::string& name, LumiPoint p) {
-    points_.push_back(std::make_shared<LumiPoint>(p));
-    slot(name).value = points_.back().get();
-    return *this;
-  }
-  LumStatus run() const { return row_.invoke.call(row_.invoke.function, slots_.data()); }
-
- private:
-  static const ExportRow& rowNamed(const std::string& name) {
-    for (const ExportRow& row : exportRows())
-      if (row.name == name) return row;
-    std::fprintf(stderr, "no export %s\n", name.c_str());
-    std::abort();
-  }
-  Slot& slot(const std::string& name) {
-    for (size_t i = 0; i < slots_.size(); ++i)
-      if (row_.arguments[i].name == name) return slots_[i];
-    std::fprintf(stderr, "no argument %s of %s\n", name.c_str(), row_.name);
-    std::abort();
-  }
-
-  const ExportRow& row_;
-  std::vector<Slot> slots_;
-  std::vector<std::shared_ptr<LumiPoint>> points_;  // copies of a call share them
-};
 
 inline NamedCall getSize(const std::string& type, LumiSize src, LumiSize dst, int interpolation,
                          int antialiasing, Lum32s* object, Lum32s* init) {
@@ -109,6 +63,16 @@ inline NamedCall getBorderSize(const std::string& type, const void* object, Lumi
 
 inline std::string runName(const std::string& kind, const std::string& type, int channels) {
   return "lumiResize" + kind + "_" + type + "_C" + std::to_string(channels) + "R";
+}
+
+// A run that still lacks its images.
+inline NamedCall apply(const std::string& kind, const std::string& type, int channels, LumiPoint offset,
+                       LumiSize tile, const void* object, const void* scratch,
+                       int border = lumiBorderReplicate) {
+  NamedCall call(runName(kind, type, channels));
+  if (kind == "Linear") call.number("border", border);
+  call.point("dstOffset", offset).size("dstSize", tile);
+  return call.pointer("object", object).pointer("buffer", scratch);
 }
 
 // Memory for a plan: as many bytes as the library asks for and no more, at any distance to the page's end.

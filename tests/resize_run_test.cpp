@@ -82,11 +82,8 @@ class Bench {
     random.fill(watchedScratch.low, watchedScratch.bytes());
     scratch_.copyToTwin(watchedScratch.low, watchedScratch.high);
 
-    NamedCall call(runName(kind, type, tile.channels));
-    call.pointer("src", atTile.first).number("srcStep", atTile.step).pointer("dst", dst.first);
-    call.number("dstStep", dst.step).point("dstOffset", tile.offset).size("dstSize", tile.size);
-    call.pointer("object", plan).pointer("buffer", scratch);
-    if (linear) call.number("border", tile.border);
+    NamedCall call = apply(kind, type, tile.channels, tile.offset, tile.size, plan, scratch, tile.border);
+    call.image("src", atTile.first, atTile.step).image("dst", dst.first, dst.step);
     const LumStatus status = call.run();
     if (status != known) return "status " + std::to_string(status);
 
@@ -295,16 +292,12 @@ TEST(ResizeBytes, EveryPairOfSamplesAtManyWeights) {
           image[static_cast<size_t>(vertical ? i : 2 * i)] = static_cast<Byte>(i);
           image[static_cast<size_t>(vertical ? 256 + i : 2 * i + 1)] = static_cast<Byte>(other);
         }
-        NamedCall call("lumiResizeLinear_8u_C1R");
         // The tile starts in the first pixel, or in the second one where it lies beyond the middle.
         const int startX = tile.horizontal().start(offset.x), startY = tile.vertical().start(offset.y);
         const model::Image from{image.data() + startX + startY * step, step};
-        call.pointer("src", from.first).number("srcStep", step).pointer("dst", result.data());
-        call.number("dstStep", size.width)
-            .point("dstOffset", offset)
-            .size("dstSize", size)
-            .number("border", 1);
-        ASSERT_EQ(call.pointer("object", plan.at).pointer("buffer", scratch.data()).run(), lumStatusOk);
+        NamedCall call = apply("Linear", "8u", 1, offset, size, plan.at, scratch.data());
+        call.image("src", from.first, step).image("dst", result.data(), size.width);
+        ASSERT_EQ(call.run(), lumStatusOk);
         expected.assign(result.size(), 0);
         model::resize::linear<Lum8u>(tile, from, {expected.data(), size.width});
         ASSERT_EQ(result, expected) << dst << " " << vertical << " " << other;
@@ -322,13 +315,8 @@ TEST(ResizeFloats, SpecialValues) {
     for (float& sample : image) sample = random.pick(special);
     const PlanMemory plan("Linear", "32f", tile.src, tile.dst);
     std::vector<Byte> scratch(4096);
-    NamedCall call("lumiResizeLinear_32f_C1R");
-    call.pointer("src", image.data())
-        .number("srcStep", 36)
-        .pointer("dst", result.data())
-        .number("dstStep", 160);
-    call.point("dstOffset", {0, 0}).size("dstSize", tile.dst).number("border", 1);
-    ASSERT_EQ(call.pointer("object", plan.at).pointer("buffer", scratch.data()).run(), lumStatusOk);
+    NamedCall call = apply("Linear", "32f", 1, {0, 0}, tile.dst, plan.at, scratch.data());
+    ASSERT_EQ(call.image("src", image.data(), 36).image("dst", result.data(), 160).run(), lumStatusOk);
     model::resize::linear<Lum32f>(tile, {reinterpret_cast<Byte*>(image.data()), 36},
                                   {reinterpret_cast<Byte*>(expected.data()), 160});
     for (size_t k = 0; k < result.size(); ++k)
@@ -343,15 +331,9 @@ TEST(ResizeExamples, NearestTakesTheLowerOfTwo) {
   const PlanMemory plan("Nearest", "8u", {4, 1}, {2, 1});
   const Byte src[4] = {10, 11, 12, 13};
   Byte dst[3] = {0, 0, 77}, scratch[256];
-  NamedCall call("lumiResizeNearest_8u_C1R");
-  call.pointer("src", src)
-      .number("srcStep", 4)
-      .pointer("dst", dst)
-      .number("dstStep", 2)
-      .point("dstOffset", {0, 0});
   // One column more than the destination has: clipped, with a warning.
-  call.size("dstSize", {3, 1}).pointer("object", plan.at).pointer("buffer", scratch);
-  EXPECT_EQ(call.run(), lumStatusSizeAboveSpec);
+  NamedCall call = apply("Nearest", "8u", 1, {0, 0}, {3, 1}, plan.at, scratch);
+  EXPECT_EQ(call.image("src", src, 4).image("dst", dst, 2).run(), lumStatusSizeAboveSpec);
   EXPECT_EQ(dst[0], 10);
   EXPECT_EQ(dst[1], 12);
   EXPECT_EQ(dst[2], 77);
@@ -366,14 +348,8 @@ TEST(ResizeExamples, LinearTwiceAsLarge) {
   const PlanMemory plan("Linear", "8u", {2, 2}, {4, 4});
   const Byte src[4] = {0, 100, 0, 100};
   Byte dst[16] = {}, scratch[512];
-  NamedCall call("lumiResizeLinear_8u_C1R");
-  call.pointer("src", src)
-      .number("srcStep", 2)
-      .pointer("dst", dst)
-      .number("dstStep", 4)
-      .point("dstOffset", {0, 0});
-  call.size("dstSize", {4, 4}).number("border", 1).pointer("object", plan.at).pointer("buffer", scratch);
-  EXPECT_EQ(call.run(), lumStatusOk);
+  NamedCall call = apply("Linear", "8u", 1, {0, 0}, {4, 4}, plan.at, scratch);
+  EXPECT_EQ(call.image("src", src, 2).image("dst", dst, 4).run(), lumStatusOk);
   const Byte row[4] = {0, 25, 75, 100};
   for (int y = 0; y < 4; ++y) EXPECT_EQ(std::memcmp(dst + 4 * y, row, 4), 0) << y;
 }
@@ -409,12 +385,11 @@ void runTile(const std::string& kind, const std::string& type, const Tile& tile,
   Lum32s bytes = 0;
   EXPECT_EQ(getBufferSize(type, plan, tile.size, tile.channels, &bytes).run(), lumStatusOk);
   std::vector<Byte> scratch(static_cast<size_t>(bytes));
-  NamedCall call(runName(kind, type, tile.channels));
-  call.pointer("src", src + start.y * srcStep + start.x * pixel).number("srcStep", srcStep);
-  call.pointer("dst", dst + tile.offset.y * dstStep + tile.offset.x * pixel).number("dstStep", dstStep);
-  call.point("dstOffset", tile.offset).size("dstSize", tile.size);
-  if (kind == "Linear") call.number("border", tile.border);
-  EXPECT_EQ(call.pointer("object", plan).pointer("buffer", scratch.data()).run(), lumStatusOk);
+  NamedCall call =
+      apply(kind, type, tile.channels, tile.offset, tile.size, plan, scratch.data(), tile.border);
+  call.image("src", src + start.y * srcStep + start.x * pixel, srcStep);
+  call.image("dst", dst + tile.offset.y * dstStep + tile.offset.x * pixel, dstStep);
+  EXPECT_EQ(call.run(), lumStatusOk);
 }
 
 // Cuts of an axis at random places.

@@ -363,12 +363,8 @@ TEST(ResizeSpec, RunsTestInOrder) {
         const bool isLinear = kind == "Linear";
         const void* object = isLinear ? plans.linear.at : plans.other.at;
         const auto good = [&] {
-          NamedCall call(runName(kind, type, channels));
-          call.pointer("src", images.begin()).number("srcStep", 512).pointer("dst", images.begin());
-          call.number("dstStep", 512).point("dstOffset", {3, 3}).size("dstSize", {4, 4});
-          call.pointer("object", object).pointer("buffer", images.begin());
-          if (isLinear) call.number("border", 1);
-          return call;
+          NamedCall call = apply(kind, type, channels, {3, 3}, {4, 4}, object, images.begin());
+          return call.image("src", images.begin(), 512).image("dst", images.begin(), 512);
         };
         std::vector<Fault> faults;
         for (const char* name : {"src", "dst", "object", "buffer"})
@@ -410,10 +406,8 @@ TEST(ResizeSpec, AntialiasingPlansAreRefused) {
     ASSERT_EQ(antialiasing, 0);
     antialiasing = 1;
     Byte image[64] = {};
-    NamedCall call(runName("Linear", type, 1));
-    call.pointer("src", image).number("srcStep", 8).pointer("dst", image).number("dstStep", 8);
-    call.size("dstSize", {1, 1}).point("dstOffset", {0, 0}).number("border", 1);
-    EXPECT_EQ(call.pointer("object", plan.at).pointer("buffer", image).run(), lumStatusUnsupportedMode);
+    NamedCall call = apply("Linear", type, 1, {0, 0}, {1, 1}, plan.at, image);
+    EXPECT_EQ(call.image("src", image, 8).image("dst", image, 8).run(), lumStatusUnsupportedMode);
   }
 }
 

@@ -7,14 +7,9 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <stdexcept>
-#include <string>
 #include <vector>
 
-inline void check(LumStatus status, const char* name) {
-  if (status != lumStatusOk)
-    throw std::runtime_error(std::string(name) + " returned " + std::to_string(status));
-}
+#include "../check.hpp"
 
 struct Call {
   const char* name;

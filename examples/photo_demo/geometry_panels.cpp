@@ -3,60 +3,36 @@
 #include <algorithm>
 #include <vector>
 
+#include "../resizer.hpp"
 #include "panels.hpp"
 #include "shapes.hpp"
 
 namespace {
-
-// A resize of one pair of sizes: the object, and runs of it over tiles.
-class Resizer {
- public:
-  Resizer(LumiSize from, LumiSize to, LumiInterpolationType interpolation) : interpolation_(interpolation) {
-    int objectBytes = 0, initBytes = 0;
-    check(lumiResizeGetSize_8u(from, to, interpolation, 0, &objectBytes, &initBytes), "lumiResizeGetSize_8u");
-    memory_.resize(static_cast<size_t>(objectBytes));
-    if (interpolation == lumInterpLinear)
-      check(lumiResizeLinearInit_8u(from, to, object()), "lumiResizeLinearInit_8u");
-    else
-      check(lumiResizeNearestInit_8u(from, to, object()), "lumiResizeNearestInit_8u");
-  }
-
-  const char* name() const {
-    return interpolation_ == lumInterpLinear ? "lumiResizeLinear_8u_C3R" : "lumiResizeNearest_8u_C3R";
-  }
-
-  LumStatus run(const Colour& from, Colour& to, LumiPoint where, LumiSize tile) {
-    int bytes = 0;
-    LumiPoint source = {};
-    check(lumiResizeGetBufferSize_8u(object(), tile, 3, &bytes), "lumiResizeGetBufferSize_8u");
-    check(lumiResizeGetSrcOffset_8u(object(), where, &source), "lumiResizeGetSrcOffset_8u");
-    std::vector<Lum8u> scratch(static_cast<size_t>(bytes));
-    const Lum8u* const src = from.at(source.x, source.y);
-    Lum8u* const dst = to.at(where.x, where.y);
-    const Lum8u unused[3] = {};
-    if (interpolation_ == lumInterpLinear)
-      return lumiResizeLinear_8u_C3R(src, from.step(), dst, to.step(), where, tile, lumiBorderReplicate,
-                                     unused, object(), scratch.data());
-    return lumiResizeNearest_8u_C3R(src, from.step(), dst, to.step(), where, tile, object(), scratch.data());
-  }
-
- private:
-  LumiResizeSpec* object() { return reinterpret_cast<LumiResizeSpec*>(memory_.data()); }
-
-  LumiInterpolationType interpolation_;
-  std::vector<Lum8u> memory_;
-};
 
 // Sources of linear interpolation have two rows and columns at least.
 LumiInterpolationType fitting(LumiInterpolationType wanted, LumiSize from) {
   return std::min(from.width, from.height) < 2 ? LumiInterpolationType{lumInterpNearest} : wanted;
 }
 
-Colour resized(const Colour& from, LumiSize to, LumiInterpolationType interpolation, Calls& calls) {
-  Resizer resizer(from.size(), to, fitting(interpolation, from.size()));
+Colour resizedInTiles(const Colour& from, LumiSize to, LumiSize tile, LumiInterpolationType interpolation,
+                      Calls& calls) {
+  const Resizer resizer(from.size(), to, fitting(interpolation, from.size()));
+  std::vector<Lum8u> scratch = resizer.scratchFor(tile);
   Colour result(to);
-  calls.time(resizer.name(), to, [&] { return resizer.run(from, result, {0, 0}, to); });
+  calls.time(resizer.runName(), to, [&] {
+    LumStatus status = lumStatusOk;
+    for (int y = 0; y < to.height && status == lumStatusOk; y += tile.height)
+      for (int x = 0; x < to.width && status == lumStatusOk; x += tile.width)
+        status =
+            resizer.run(from.data(), from.step(), result.data(), result.step(), {x, y},
+                        {std::min(tile.width, to.width - x), std::min(tile.height, to.height - y)}, scratch);
+    return status;
+  });
   return result;
+}
+
+Colour resized(const Colour& from, LumiSize to, LumiInterpolationType interpolation, Calls& calls) {
+  return resizedInTiles(from, to, to, interpolation, calls);
 }
 
 LumiSize scaled(LumiSize size, int factor, int divisor) {
@@ -74,33 +50,24 @@ AnyImage reduced(const Colour& photo, Calls& calls) {
   return resized(photo, scaled(photo.size(), 2, 5), interpolation, calls);
 }
 
-// A small part, enlarged to the photo's size.
+// A small part of the photo, to be enlarged to its size.
+Colour detail(const Colour& photo) {
+  const LumiSize part = scaled(photo.size(), 1, 8);
+  return cut(photo, photo.size().width * 5 / 8 - part.width / 2,
+             photo.size().height * 3 / 8 - part.height / 2, part);
+}
+
 template <int interpolation>
 AnyImage enlarged(const Colour& photo, Calls& calls) {
-  const LumiSize part = scaled(photo.size(), 1, 8);
-  const Colour small = cut(photo, photo.size().width * 5 / 8 - part.width / 2,
-                           photo.size().height * 3 / 8 - part.height / 2, part);
-  return resized(small, scaled(part, 8, 1), interpolation, calls);
+  const Colour small = detail(photo);
+  return resized(small, scaled(small.size(), 8, 1), interpolation, calls);
 }
 
 // The same in four by four tiles; their seams do not show.
 AnyImage enlargedInTiles(const Colour& photo, Calls& calls) {
-  const LumiSize part = scaled(photo.size(), 1, 8);
-  const Colour small = cut(photo, photo.size().width * 5 / 8 - part.width / 2,
-                           photo.size().height * 3 / 8 - part.height / 2, part);
-  const LumiSize whole = scaled(part, 8, 1), tile = scaled(whole, 1, 4);
-  Resizer resizer(part, whole, fitting(lumInterpLinear, part));
-  Colour result(whole);
-  calls.time(resizer.name(), whole, [&] {
-    LumStatus status = lumStatusOk;
-    for (int y = 0; y < whole.height && status == lumStatusOk; y += tile.height)
-      for (int x = 0; x < whole.width && status == lumStatusOk; x += tile.width)
-        status =
-            resizer.run(small, result, {x, y},
-                        {std::min(tile.width, whole.width - x), std::min(tile.height, whole.height - y)});
-    return status;
-  });
-  return result;
+  const Colour small = detail(photo);
+  const LumiSize whole = scaled(small.size(), 8, 1);
+  return resizedInTiles(small, whole, scaled(whole, 1, 4), lumInterpLinear, calls);
 }
 
 // A kernel for bytes of three channels, as the caller writes it down.

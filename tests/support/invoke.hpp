@@ -56,6 +56,7 @@ struct Slot {
   int number = 0;
   const void* value = nullptr;  // the bytes of an argument by value; without them, its number
   LumiSize size = {};
+  LumiPoint point = {};
 };
 
 using AnyFunction = void (*)();
@@ -70,6 +71,8 @@ template <typename P>
 P argumentFrom(const Slot& slot) {
   if constexpr (std::is_same_v<P, LumiSize>) {
     return slot.size;
+  } else if constexpr (std::is_same_v<P, LumiPoint>) {
+    return slot.point;
   } else if constexpr (!std::is_pointer_v<P>) {
     P value{};
     if constexpr (std::is_arithmetic_v<P>) value = static_cast<P>(slot.number);
