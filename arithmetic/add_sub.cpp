@@ -5,6 +5,8 @@
 #include "arithmetic/scaling.hpp"
 #include "frame/check.hpp"
 #include "frame/constant.hpp"
+#include "frame/streaming.hpp"
+#include "frame/zero.hpp"
 #include "kernels/add_sub.hpp"
 #include "lumi/copy.h"
 
@@ -37,10 +39,6 @@ LumStatus complexSteps(Step... each) {
   return kComponents<T> == 1 ? lumStatusOk : steps(each...);
 }
 
-// Samples of one pixel that stay, as the kernels count them.
-template <typename T, typename Layout>
-constexpr int kAlpha = (Layout::kStored - Layout::kUsed) * kComponents<T>;
-
 template <typename Op, typename T, typename Layout>
 LumStatus combineImages(const T* src1, int src1Step, const T* src2, int src2Step, T* dst, int dstStep,
                         LumiSize roi, int scaleFactor) {
@@ -50,17 +48,12 @@ LumStatus combineImages(const T* src1, int src1Step, const T* src2, int src2Step
   using Sample = Component<T>;
   const auto scaling = scalingFor<Op, Sample>(scaleFactor);
   if (!scaling) return fillZero<T, Layout>(dst, dstStep, roi);
-  constexpr int pixelBytes = kPixelBytes<T, Layout>;
-  const Extent extent =
-      fuse(roi, isTight(src1Step, roi.width, pixelBytes), isTight(src2Step, roi.width, pixelBytes),
-           isTight(dstStep, roi.width, pixelBytes));
-  const size_t samples = extent.pixels * Layout::kStored * kComponents<T>;
-  walkRows(
-      extent.height,
-      [&](const Byte* a, const Byte* b, Byte* d) {
-        combineRows<Op, Sample, kAlpha<T, Layout>>(a, b, d, samples, *scaling);
+  walkFused(
+      roi,
+      [&](const Byte* a, const Byte* b, Byte* d, size_t pixels) {
+        combineRows<Op, Sample, kAlpha<T, Layout>>(a, b, d, pixels * kPixelSamples<T, Layout>, *scaling);
       },
-      rows(src1, src1Step), rows(src2, src2Step), rows(dst, dstStep));
+      pixelRows<Layout>(src1, src1Step), pixelRows<Layout>(src2, src2Step), pixelRows<Layout>(dst, dstStep));
   return lumStatusOk;
 }
 
@@ -118,22 +111,20 @@ LumStatus combineConstant(const T* src, int srcStep, Value value, T* dst, int ds
   if constexpr (kCopiesAtZero<T, Layout>)
     if (scaleFactor == 0 && value == 0)
       return src == dst && srcStep == dstStep ? lumStatusOk : copyOf(src, srcStep, dst, dstStep, roi);
-  constexpr int pixelBytes = kPixelBytes<T, Layout>, alpha = kAlpha<T, Layout>;
+  constexpr int alpha = kAlpha<T, Layout>;
   constexpr bool ofThree = Layout::kStored == 3;
   const PixelPattern constant = patternOf<T, Layout>(value);
   const bool streaming = kMayStream<T, Layout> && src != dst && streamsRows(srcStep, dstStep, roi.height);
-  const Extent extent =
-      fuse(roi, isTight(srcStep, roi.width, pixelBytes), isTight(dstStep, roi.width, pixelBytes));
-  const size_t samples = extent.pixels * Layout::kStored * kComponents<T>;
-  walkRows(
-      extent.height,
-      [&](const Byte* s, Byte* d) {
+  walkFused(
+      roi,
+      [&](const Byte* s, Byte* d, size_t pixels) {
+        const size_t samples = pixels * kPixelSamples<T, Layout>;
         if constexpr (kMayStream<T, Layout>)
           if (streaming && reinterpret_cast<uintptr_t>(d) % sizeof(T) == 0)
             return combineWithConstant<Op, Sample, alpha, ofThree, true>(constant, s, d, samples, *scaling);
         combineWithConstant<Op, Sample, alpha, ofThree>(constant, s, d, samples, *scaling);
       },
-      rows(src, srcStep), rows(dst, dstStep));
+      pixelRows<Layout>(src, srcStep), pixelRows<Layout>(dst, dstStep));
   return lumStatusOk;
 }
 

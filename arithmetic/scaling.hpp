@@ -1,19 +1,12 @@
 // SPDX-License-Identifier: MIT
-// What operations with a scale factor share: the choice of a path by the factor, and the result that is zero
-// throughout.
+// The path of a scale factor, for the operations that have one.
 #pragma once
 
 #include <algorithm>
 #include <limits>
 #include <optional>
 
-#include "frame/layout.hpp"
-#include "frame/rows.hpp"
-#include "frame/streaming.hpp"
-#include "kernels/chosen.hpp"
-#include "kernels/fence.hpp"
 #include "kernels/scaling.hpp"
-#include "kernels/set.hpp"
 
 namespace lumi {
 
@@ -27,28 +20,6 @@ std::optional<Scaling> scalingOf(int scaleFactor, int largest) {
   if (scaleFactor == 1) return Scaling{Scaling::Halve, 1};
   if (scaleFactor == 0) return Scaling{Scaling::Saturate, 0};
   return Scaling{Scaling::Multiply, scaleFactor < -bits ? bits : -scaleFactor};
-}
-
-// Zeroes the samples that an operation on this layout works on.
-template <typename T, typename Layout>
-LumStatus fillZero(T* dst, int dstStep, LumiSize roi) {
-  constexpr int pixelBytes = kPixelBytes<T, Layout>;
-  const Extent extent = fuse(roi, isTight(dstStep, roi.width, pixelBytes));
-  if constexpr (Layout::kUsed < Layout::kStored) {
-    constexpr Byte zero[kChosenBlock<Layout::kStored>] = {};
-    walkRows(
-        extent.height,
-        [&](Byte* d) { fillChosenRow<sizeof(T), Layout::kStored, Layout::kUsed>(zero, d, extent.pixels); },
-        rows(dst, dstStep));
-  } else {
-    constexpr PixelPattern zero{};
-    const bool streaming = streamsOperation(bytesMoved(roi, pixelBytes));
-    walkRows(
-        extent.height, [&](Byte* d) { fillRow<1>(zero, d, extent.pixels * pixelBytes, streaming); },
-        rows(dst, dstStep));
-    if (streaming) storeFence();
-  }
-  return lumStatusOk;
 }
 
 }  // namespace lumi

@@ -15,8 +15,6 @@ namespace {
 
 using namespace check;
 
-LumStatus bitOffset(int offset) { return offset < 0 ? lumStatusBadSize : lumStatusOk; }
-
 // Only the bit within the first byte counts; whole bytes do not move the pointer.
 unsigned firstBit(int offset) { return static_cast<unsigned>(offset) % 8; }
 

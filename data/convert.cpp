@@ -12,33 +12,27 @@
 #include "frame/rounding_control.hpp"
 #include "frame/rows.hpp"
 #include "frame/streaming.hpp"
+#include "frame/zero.hpp"
 #include "kernels/convert.hpp"
 #include "kernels/fence.hpp"
-#include "lumi/set.h"
 
 namespace lumi {
 namespace {
 
 using namespace check;
 
-// Samples at the end of every pixel that stay.
-template <typename Layout>
-inline constexpr int kAlpha = Layout::kStored - Layout::kUsed;
-
 // Calls kernel(source row, destination row, samples) for each row.
 template <typename S, typename D, typename Layout, typename Kernel>
 void convertRows(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi, Kernel kernel) {
-  const Extent extent = fuse(roi, isTight(srcStep, roi.width, kPixelBytes<S, Layout>),
-                             isTight(dstStep, roi.width, kPixelBytes<D, Layout>));
-  walkRows(
-      extent.height, [&](const Byte* s, Byte* d) { kernel(s, d, extent.pixels * Layout::kStored); },
-      rows(src, srcStep), rows(dst, dstStep));
+  walkFused(
+      roi, [&](const Byte* s, Byte* d, size_t pixels) { kernel(s, d, pixels * Layout::kStored); },
+      pixelRows<Layout>(src, srcStep), pixelRows<Layout>(dst, dstStep));
 }
 
 // The conversions whose stores bypass the cache where the images are large.
 template <typename S, typename D, typename Layout>
 constexpr bool mayStream() {
-  if (kAlpha<Layout> != 0) return false;
+  if (kAlpha<S, Layout> != 0) return false;
   if (std::is_same_v<S, Lum8u>) return !std::is_same_v<D, Lum8s>;
   if (std::is_same_v<S, Lum8s>) return std::is_same_v<D, Lum32s> || std::is_same_v<D, Lum32f>;
   if (std::is_same_v<S, Lum16s> || std::is_same_v<S, Lum16u>)
@@ -57,7 +51,7 @@ LumStatus convert(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi) 
       return lumStatusOk;
     }
   }
-  convertRows<S, D, Layout>(src, srcStep, dst, dstStep, roi, convertRow<S, D, kAlpha<Layout>>);
+  convertRows<S, D, Layout>(src, srcStep, dst, dstStep, roi, convertRow<S, D, kAlpha<S, Layout>>);
   return lumStatusOk;
 }
 
@@ -76,7 +70,7 @@ void convertRounding(const S* src, int srcStep, D* dst, int dstStep, LumiSize ro
   how.away = mode != lumRoundTowardZero && mode != lumRoundNearestEven;
   const unsigned before = setRounding(mode == lumRoundNearestEven ? Rounding::Nearest : Rounding::Truncate);
   convertRows<S, D, Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
-    convertFloatRow<D, kAlpha<Layout>>(s, d, samples, how);
+    convertFloatRow<D, kAlpha<S, Layout>>(s, d, samples, how);
   });
   restoreRounding(before);
 }
@@ -146,23 +140,13 @@ Rescaling rescaling(LumRoundMode mode, int s) {
   return {mode == lumRoundNearestEven ? Rescaling::RoundEven : Rescaling::RoundAway, s};
 }
 
-template <typename D>
-LumStatus fillWithZero(D* dst, int dstStep, LumiSize roi) {
-  if constexpr (sizeof(D) == 1)
-    return lumiSet_8u_C1R(0, reinterpret_cast<Lum8u*>(dst), dstStep, roi);
-  else if constexpr (sizeof(D) == 2)
-    return lumiSet_16u_C1R(0, reinterpret_cast<Lum16u*>(dst), dstStep, roi);
-  else
-    return lumiSet_32s_C1R(0, dst, dstStep, roi);
-}
-
 template <typename S, typename D, typename Layout>
 LumStatus convertScaled(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi, LumRoundMode mode,
                         int scaleFactor) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
   // With a bit more than the source has, nothing is left either.
   constexpr int zeroAbove = std::min<int>(scaleLimits<S, D>().zeroAbove, 8 * sizeof(S));
-  if (scaleFactor > zeroAbove) return fillWithZero(dst, dstStep, roi);
+  if (scaleFactor > zeroAbove) return fillZero<D, Layout>(dst, dstStep, roi);
   const Rescaling how = rescaling<S, D>(mode, scaleFactor);
   convertRows<S, D, Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
     convertScaledRow<S, D>(s, d, samples, how);

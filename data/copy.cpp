@@ -18,12 +18,9 @@ using namespace check;
 template <typename T, typename Layout>
 LumStatus copy(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
-  constexpr int pixelBytes = kPixelBytes<T, Layout>;
-  const Extent extent =
-      fuse(roi, isTight(srcStep, roi.width, pixelBytes), isTight(dstStep, roi.width, pixelBytes));
-  walkRows(
-      extent.height, [&](const Byte* s, Byte* d) { copyRow(s, d, extent.pixels * pixelBytes); },
-      rows(src, srcStep), rows(dst, dstStep));
+  walkFused(
+      roi, [](const Byte* s, Byte* d, size_t pixels) { copyRow(s, d, pixels * kPixelBytes<T, Layout>); },
+      pixelRows<Layout>(src, srcStep), pixelRows<Layout>(dst, dstStep));
   return lumStatusOk;
 }
 
@@ -31,10 +28,9 @@ template <typename T, typename Layout>
 LumStatus copyManaged(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, int flags) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
   const CacheUse use{(flags & 1) != 0, (flags & 2) != 0};
-  const Extent extent = fuse(roi, isTight(srcStep, roi.width, 1), isTight(dstStep, roi.width, 1));
-  walkRows(
-      extent.height, [&](const Byte* s, Byte* d) { copyRowManaged(s, d, extent.pixels, use); },
-      rows(src, srcStep), rows(dst, dstStep));
+  walkFused(
+      roi, [&](const Byte* s, Byte* d, size_t bytes) { copyRowManaged(s, d, bytes, use); },
+      pixelRows<Layout>(src, srcStep), pixelRows<Layout>(dst, dstStep));
   if (use.streamingStores) storeFence();
   return lumStatusOk;
 }
@@ -43,15 +39,8 @@ LumStatus copyManaged(const T* src, int srcStep, T* dst, int dstStep, LumiSize r
 template <typename T, typename Layout>
 LumStatus copyChosen(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
-  constexpr int pixelBytes = kPixelBytes<T, Layout>;
-  const Extent extent =
-      fuse(roi, isTight(srcStep, roi.width, pixelBytes), isTight(dstStep, roi.width, pixelBytes));
-  walkRows(
-      extent.height,
-      [&](const Byte* s, Byte* d) {
-        copyChosenRow<sizeof(T), Layout::kStored, Layout::kUsed>(s, d, extent.pixels);
-      },
-      rows(src, srcStep), rows(dst, dstStep));
+  walkFused(roi, copyChosenRow<sizeof(T), Layout::kStored, Layout::kUsed>, pixelRows<Layout>(src, srcStep),
+            pixelRows<Layout>(dst, dstStep));
   return lumStatusOk;
 }
 
@@ -60,14 +49,8 @@ LumStatus copyMasked(const T* src, int srcStep, T* dst, int dstStep, LumiSize ro
                      int maskStep) {
   if (LumStatus fault = firstFault(pointers(src, dst, mask), size(roi))) return fault;
   constexpr int pixelBytes = kPixelBytes<T, Layout>, usedBytes = kUsedBytes<T, Layout>;
-  const Extent extent = fuse(roi, isTight(srcStep, roi.width, pixelBytes),
-                             isTight(dstStep, roi.width, pixelBytes), isTight(maskStep, roi.width, 1));
-  walkRows(
-      extent.height,
-      [&](const Byte* s, Byte* d, const Byte* m) {
-        copyMaskedRow<pixelBytes, usedBytes>(s, d, m, extent.pixels);
-      },
-      rows(src, srcStep), rows(dst, dstStep), rows(mask, maskStep));
+  walkFused(roi, copyMaskedRow<pixelBytes, usedBytes>, pixelRows<Layout>(src, srcStep),
+            pixelRows<Layout>(dst, dstStep), pixelRows<C1>(mask, maskStep));
   return lumStatusOk;
 }
 

@@ -17,43 +17,35 @@ namespace {
 
 using namespace check;
 
-// A kernel that counts pixels; images whose rows touch one another run as one row.
-template <int srcPixelBytes, int dstPixelBytes, typename T, typename Kernel>
-LumStatus copyBetween(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, Kernel kernel) {
+template <typename From, typename To, typename T>
+LumStatus copyBetween(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi,
+                      void (&kernel)(const uint8_t*, uint8_t*, size_t)) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
-  const Extent extent =
-      fuse(roi, isTight(srcStep, roi.width, srcPixelBytes), isTight(dstStep, roi.width, dstPixelBytes));
-  walkRows(
-      extent.height, [&](const Byte* s, Byte* d) { kernel(s, d, extent.pixels); }, rows(src, srcStep),
-      rows(dst, dstStep));
+  walkFused(roi, kernel, pixelRows<From>(src, srcStep), pixelRows<To>(dst, dstStep));
   return lumStatusOk;
 }
 
 template <typename T, typename From, typename To>
 LumStatus copyColourBetween(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
-  constexpr int n = sizeof(T);
   if constexpr (std::is_same_v<To, AC4>)
-    return copyBetween<3 * n, 4 * n>(src, srcStep, dst, dstStep, roi, copyColourToAlphaRow<n>);
+    return copyBetween<From, To>(src, srcStep, dst, dstStep, roi, copyColourToAlphaRow<sizeof(T)>);
   else
-    return copyBetween<4 * n, 3 * n>(src, srcStep, dst, dstStep, roi, copyColourFromAlphaRow<n>);
+    return copyBetween<From, To>(src, srcStep, dst, dstStep, roi, copyColourFromAlphaRow<sizeof(T)>);
 }
 
 template <typename T, typename From, typename To>
 LumStatus copyPlaneToChannel(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
-  constexpr int n = sizeof(T), channels = To::kStored;
-  return copyBetween<n, n * channels>(src, srcStep, dst, dstStep, roi, planeToChannelRow<n, channels>);
+  return copyBetween<From, To>(src, srcStep, dst, dstStep, roi, planeToChannelRow<sizeof(T), To::kStored>);
 }
 
 template <typename T, typename From, typename To>
 LumStatus copyChannelToPlane(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
-  constexpr int n = sizeof(T), channels = From::kStored;
-  return copyBetween<n * channels, n>(src, srcStep, dst, dstStep, roi, channelToPlaneRow<n, channels>);
+  return copyBetween<From, To>(src, srcStep, dst, dstStep, roi, channelToPlaneRow<sizeof(T), From::kStored>);
 }
 
 template <typename T, typename From, typename To>
 LumStatus duplicatePlane(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
-  constexpr int channels = To::kStored;
-  return copyBetween<1, channels>(src, srcStep, dst, dstStep, roi, duplicateRow<channels>);
+  return copyBetween<From, To>(src, srcStep, dst, dstStep, roi, duplicateRow<To::kStored>);
 }
 
 // What a split or merge moves against what the cache holds. Samples of 32 bits follow the rule of every
@@ -89,16 +81,15 @@ LumStatus splitPlanes(const T* src, int srcStep, T* const* dst, int dstStep, Lum
   constexpr int channels = From::kStored, pixelBytes = kPixelBytes<T, From>;
   if (LumStatus fault = firstFault(pointers(src), planePointers<channels>(dst), size(roi))) return fault;
   const bool tight = isTight(srcStep, roi.width, pixelBytes) && isTight(dstStep, roi.width, sizeof(T));
-  const Extent extent = fuse(roi, tight);
   const auto planes = planeRows<channels>(dst, dstStep);
   const bool streaming = std::apply([&](auto... p) { return allAligned(dstStep, p...); }, planes.first) &&
                          streamsSplit<T>(bytesMoved(roi, 2 * pixelBytes), tight);
-  walkRows(
-      extent.height,
-      [&](const Byte* s, const auto& d) {
-        splitRow<sizeof(T), channels>(s, d.data(), extent.pixels, streaming);
+  walkFused(
+      roi,
+      [&](const Byte* s, const auto& d, size_t pixels) {
+        splitRow<sizeof(T), channels>(s, d.data(), pixels, streaming);
       },
-      rows(src, srcStep), planes);
+      pixelRows<From>(src, srcStep), planes);
   if (streaming) storeFence();
   return lumStatusOk;
 }
@@ -107,14 +98,14 @@ template <typename T, typename From, typename To>
 LumStatus mergePlanes(const T* const* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
   constexpr int channels = To::kStored, pixelBytes = kPixelBytes<T, To>;
   if (LumStatus fault = firstFault(planePointers<channels>(src), pointers(dst), size(roi))) return fault;
-  const Extent extent =
-      fuse(roi, isTight(srcStep, roi.width, sizeof(T)), isTight(dstStep, roi.width, pixelBytes));
   const bool streaming =
       allAligned(dstStep, dst) && streamsMerge<T>(bytesMoved(roi, 2 * pixelBytes), roi.width);
-  walkRows(
-      extent.height,
-      [&](const auto& s, Byte* d) { mergeRow<sizeof(T), channels>(s.data(), d, extent.pixels, streaming); },
-      planeRows<channels>(src, srcStep), rows(dst, dstStep));
+  walkFused(
+      roi,
+      [&](const auto& s, Byte* d, size_t pixels) {
+        mergeRow<sizeof(T), channels>(s.data(), d, pixels, streaming);
+      },
+      planeRows<channels>(src, srcStep), pixelRows<To>(dst, dstStep));
   if (streaming) storeFence();
   return lumStatusOk;
 }

@@ -14,11 +14,6 @@ namespace {
 
 using namespace check;
 
-// Bounds whose difference is no number are refused too.
-LumStatus range(Lum32f lower, Lum32f upper) {
-  return upper - lower > 0 ? lumStatusOk : lumStatusBadDataRange;
-}
-
 // From 4 MiB (less a byte) that a pixel of one channel would move at three or five bytes; 32s8u counts as
 // three. The cache is not asked for, and more channels do not count.
 template <typename D>
@@ -28,17 +23,14 @@ bool streamsScale(LumiSize roi) {
 }
 
 template <typename Layout>
-inline constexpr bool kHasAlpha = Layout::kUsed < Layout::kStored;
+inline constexpr bool kHasAlpha = kAlpha<Lum8u, Layout> != 0;
 
 // Calls kernel(source row, destination row, samples) for each row, or once for rows that touch.
 template <typename Layout, typename S, typename D, typename Kernel>
 void forRows(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi, Kernel kernel) {
-  const Extent extent = fuse(roi, isTight(srcStep, roi.width, kPixelBytes<S, Layout>),
-                             isTight(dstStep, roi.width, kPixelBytes<D, Layout>));
-  const size_t samples = extent.pixels * Layout::kStored;
-  walkRows(
-      extent.height, [&](const Byte* s, Byte* d) { kernel(s, d, samples); }, rows(src, srcStep),
-      rows(dst, dstStep));
+  walkFused(
+      roi, [&](const Byte* s, Byte* d, size_t pixels) { kernel(s, d, pixels * Layout::kStored); },
+      pixelRows<Layout>(src, srcStep), pixelRows<Layout>(dst, dstStep));
 }
 
 template <typename S, typename D, typename Layout>

@@ -34,11 +34,10 @@ LumStatus fill(Value value, T* dst, int dstStep, LumiSize roi) {
   if (LumStatus fault = firstFault(pointers(value, dst), size(roi))) return fault;
   constexpr int pixelBytes = kPixelBytes<T, Layout>;
   const bool streaming = streamsOperation(bytesMoved(roi, pixelBytes));
-  const Extent extent = fuse(roi, isTight(dstStep, roi.width, pixelBytes));
   const PixelPattern pattern = patternOf<T, Layout>(value);
-  walkRows(
-      extent.height, [&](Byte* d) { fillRow<pixelBytes>(pattern, d, extent.pixels * pixelBytes, streaming); },
-      rows(dst, dstStep));
+  walkFused(
+      roi, [&](Byte* d, size_t pixels) { fillRow<pixelBytes>(pattern, d, pixels * pixelBytes, streaming); },
+      pixelRows<Layout>(dst, dstStep));
   if (streaming) storeFence();
   return lumStatusOk;
 }
@@ -49,13 +48,12 @@ LumStatus fillChosen(Value value, T* dst, int dstStep, LumiSize roi) {
   if (LumStatus fault = firstFault(pointers(value, dst), size(roi))) return fault;
   constexpr int pixelBytes = kPixelBytes<T, Layout>, usedBytes = kUsedBytes<T, Layout>;
   const Block<kChosenBlock<Layout::kStored>, pixelBytes, usedBytes> block(samplesOf(value));
-  const Extent extent = fuse(roi, isTight(dstStep, roi.width, pixelBytes));
-  walkRows(
-      extent.height,
-      [&](Byte* d) {
-        fillChosenRow<sizeof(T), Layout::kStored, Layout::kUsed>(block.bytes, d, extent.pixels);
+  walkFused(
+      roi,
+      [&](Byte* d, size_t pixels) {
+        fillChosenRow<sizeof(T), Layout::kStored, Layout::kUsed>(block.bytes, d, pixels);
       },
-      rows(dst, dstStep));
+      pixelRows<Layout>(dst, dstStep));
   return lumStatusOk;
 }
 
@@ -64,11 +62,12 @@ LumStatus fillMasked(Value value, T* dst, int dstStep, LumiSize roi, const Lum8u
   if (LumStatus fault = firstFault(pointers(value, dst, mask), size(roi))) return fault;
   constexpr int pixelBytes = kPixelBytes<T, Layout>, usedBytes = kUsedBytes<T, Layout>;
   const Block<kMaskBlock * pixelBytes, pixelBytes, usedBytes> block(samplesOf(value));
-  const Extent extent = fuse(roi, isTight(dstStep, roi.width, pixelBytes), isTight(maskStep, roi.width, 1));
-  walkRows(
-      extent.height,
-      [&](Byte* d, const Byte* m) { fillMaskedRow<pixelBytes, usedBytes>(block.bytes, d, m, extent.pixels); },
-      rows(dst, dstStep), rows(mask, maskStep));
+  walkFused(
+      roi,
+      [&](Byte* d, const Byte* m, size_t pixels) {
+        fillMaskedRow<pixelBytes, usedBytes>(block.bytes, d, m, pixels);
+      },
+      pixelRows<Layout>(dst, dstStep), pixelRows<C1>(mask, maskStep));
   return lumStatusOk;
 }
 

@@ -43,6 +43,14 @@ constexpr LumStatus steps(Step... each) {
   return ((each < 1) || ...) ? lumStatusBadStep : lumStatusOk;
 }
 
+// Bounds whose difference is no number are refused too.
+constexpr LumStatus range(Lum32f lower, Lum32f upper) {
+  return upper - lower > 0 ? lumStatusOk : lumStatusBadDataRange;
+}
+
+// Of the first bit of an image of bits.
+constexpr LumStatus bitOffset(int offset) { return offset < 0 ? lumStatusBadSize : lumStatusOk; }
+
 // The first status that is not zero.
 template <typename... Status>
 constexpr LumStatus firstFault(Status... results) {

@@ -70,4 +70,12 @@ inline constexpr int kPixelBytes = static_cast<int>(sizeof(T)) * Layout::kStored
 template <typename T, typename Layout>
 inline constexpr int kUsedBytes = static_cast<int>(sizeof(T)) * Layout::kUsed;
 
+// Real samples at the end of every pixel that stay as they are.
+template <typename T, typename Layout>
+inline constexpr int kAlpha = (Layout::kStored - Layout::kUsed) * kComponents<T>;
+
+// Real samples of a pixel.
+template <typename T, typename Layout>
+inline constexpr int kPixelSamples = Layout::kStored* kComponents<T>;
+
 }  // namespace lumi

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "frame/layout.hpp"
 #include "lumi/types.h"
 
 namespace lumi {
@@ -32,11 +33,24 @@ auto rows(T* image, int step) {
   return Rows<B>{reinterpret_cast<B*>(image), step};
 }
 
+// Rows that are fused where they touch one another.
+template <typename B>
+struct PixelRows : Rows<B> {
+  int pixelBytes;
+};
+
+template <typename Layout, typename T>
+auto pixelRows(T* image, int step) {
+  using B = std::conditional_t<std::is_const_v<T>, const Byte, Byte>;
+  return PixelRows<B>{rows(image, step), kPixelBytes<T, Layout>};
+}
+
 // The planes of a planar image: a row is an array of plane rows.
 template <typename B, int planes>
 struct PlaneRows {
   std::array<B*, planes> first;
   ptrdiff_t step;
+  int pixelBytes;
 
   std::array<B*, planes> row(int y) const {
     auto at = first;
@@ -48,7 +62,7 @@ struct PlaneRows {
 template <int planes, typename T>
 auto planeRows(T* const* images, int step) {
   using B = std::conditional_t<std::is_const_v<T>, const Byte, Byte>;
-  PlaneRows<B, planes> result{{}, step};
+  PlaneRows<B, planes> result{{}, step, static_cast<int>(sizeof(T))};
   for (int i = 0; i < planes; ++i) result.first[i] = reinterpret_cast<B*>(images[i]);
   return result;
 }
@@ -59,25 +73,23 @@ inline void walkRows(int height, Kernel kernel, Image... images) {
   for (int y = 0; y < height; ++y) kernel(images.row(y)...);
 }
 
-// Rows of equal length; `pixels` is in whatever unit the family's kernel counts.
-struct Extent {
-  size_t pixels;
-  int height;
-};
-
-// Rows that touch one another in every image run as one long row.
-template <typename... Fits>
-inline Extent fuse(LumiSize roi, Fits... tight) {
-  const Extent apart{static_cast<size_t>(roi.width), roi.height};
-  size_t all = 0;
-  if (!(tight && ...) || __builtin_mul_overflow(apart.pixels, static_cast<size_t>(roi.height), &all))
-    return apart;
-  return {all, 1};
+// Whether a row of the ROI ends where the next begins.
+inline bool isTight(ptrdiff_t step, int width, int pixelBytes) {
+  return step == static_cast<int64_t>(width) * pixelBytes;
 }
 
-// Whether a row of the ROI ends where the next begins.
-inline bool isTight(int step, int width, int pixelBytes) {
-  return step == static_cast<int64_t>(width) * pixelBytes;
+// Calls kernel(row of each image..., pixels) for each row, or once where the rows touch one another in all
+// images.
+template <typename Kernel, typename... Image>
+inline void walkFused(LumiSize roi, Kernel kernel, Image... images) {
+  size_t pixels = static_cast<size_t>(roi.width), all = 0;
+  const bool fits = !__builtin_mul_overflow(pixels, static_cast<size_t>(roi.height), &all);
+  if (fits && (isTight(images.step, roi.width, images.pixelBytes) && ...)) {
+    pixels = all;
+    roi.height = 1;
+  }
+  walkRows(
+      roi.height, [&](auto... row) { kernel(row..., pixels); }, images...);
 }
 
 // Bytes that a call moves. More than 64 bits hold is no size of any cache, and is cut to the largest.

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+// Images that are zero throughout.
+#pragma once
+
+#include "frame/layout.hpp"
+#include "frame/rows.hpp"
+#include "frame/streaming.hpp"
+#include "kernels/chosen.hpp"
+#include "kernels/fence.hpp"
+#include "kernels/set.hpp"
+
+namespace lumi {
+
+// Zeroes the samples that an operation on this layout works on.
+template <typename T, typename Layout>
+LumStatus fillZero(T* dst, int dstStep, LumiSize roi) {
+  if constexpr (Layout::kUsed < Layout::kStored) {
+    constexpr Byte zero[kChosenBlock<Layout::kStored>] = {};
+    walkFused(
+        roi,
+        [&](Byte* d, size_t pixels) {
+          fillChosenRow<sizeof(T), Layout::kStored, Layout::kUsed>(zero, d, pixels);
+        },
+        pixelRows<Layout>(dst, dstStep));
+  } else {
+    constexpr int pixelBytes = kPixelBytes<T, Layout>;
+    constexpr PixelPattern zero{};
+    const bool streaming = streamsOperation(bytesMoved(roi, pixelBytes));
+    walkFused(
+        roi, [&](Byte* d, size_t pixels) { fillRow<1>(zero, d, pixels * pixelBytes, streaming); },
+        pixelRows<Layout>(dst, dstStep));
+    if (streaming) storeFence();
+  }
+  return lumStatusOk;
+}
+
+}  // namespace lumi
