@@ -6,6 +6,7 @@
 #include "kernels/chosen.hpp"
 #include "kernels/copy.hpp"
 #include "kernels/simd/pixels.hpp"
+#include "kernels/simd/short_copy.hpp"
 #include "kernels/simd/strings.hpp"
 
 namespace lumi {
@@ -98,20 +99,36 @@ inline void repeat(const Byte* pixel, Byte* dst, size_t pixels) {
     repeatWhole<pixelBytes>(once, dst, pixels * pixelBytes);
 }
 
-}  // namespace
-
-template <int sampleBytes, int stored, int used>
-void moveRun(const uint8_t* src, uint8_t* dst, size_t pixels, [[maybe_unused]] bool far) {
+template <int sampleBytes>
+[[gnu::noinline]] void moveInOrder(const Byte* src, Byte* dst, size_t bytes) {
   if (src == dst) return;
+  for (size_t i = 0; i < bytes; i += sampleBytes) move<sampleBytes>(dst + i, src + i);
+}
+
+// Short runs need no call: in small images it would take longer than what is done.
+template <int sampleBytes, int stored, int used>
+inline void moveInline(const Byte* src, Byte* dst, size_t pixels, [[maybe_unused]] bool far) {
   if constexpr (used < stored) {
-    copyChosenRow<sampleBytes, stored, used>(src, dst, pixels);
+    if (src != dst) copyChosenRow<sampleBytes, stored, used>(src, dst, pixels);
   } else {
     const size_t bytes = pixels * sampleBytes * stored;
     const auto distance = static_cast<size_t>(src < dst ? dst - src : src - dst);
-    if (distance >= bytes)
-      return far && bytes >= kFarStringMove ? copyByString(src, dst, bytes) : copyRow(src, dst, bytes);
-    for (size_t i = 0; i < bytes; i += sampleBytes) move<sampleBytes>(dst + i, src + i);
+    if (distance < bytes)
+      moveInOrder<sampleBytes>(src, dst, bytes);
+    else if (bytes <= kShortCopy)
+      copyShort(src, dst, bytes);
+    else if (far && bytes >= kFarStringMove)
+      copyByString(src, dst, bytes);
+    else
+      copyRow(src, dst, bytes);
   }
+}
+
+}  // namespace
+
+template <int sampleBytes, int stored, int used>
+void moveRun(const uint8_t* src, uint8_t* dst, size_t pixels, bool far) {
+  moveInline<sampleBytes, stored, used>(src, dst, pixels, far);
 }
 
 template <int pixelBytes, int usedBytes>
@@ -124,7 +141,7 @@ void extendRow(const uint8_t* first, const uint8_t* last, const uint8_t* src, ui
                const RowShape& shape) {
   constexpr int pixelBytes = sampleBytes * stored, usedBytes = sampleBytes * used;
   if (shape.left) repeat<pixelBytes, usedBytes>(first, dst - shape.left * pixelBytes, shape.left);
-  moveRun<sampleBytes, stored, used>(src, dst, shape.width, shape.far);
+  moveInline<sampleBytes, stored, used>(src, dst, shape.width, shape.far);
   if (shape.right) repeat<pixelBytes, usedBytes>(last, dst + shape.width * pixelBytes, shape.right);
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "kernels/copy.hpp"
 
-#include "kernels/simd/bytes.hpp"
+#include "kernels/simd/short_copy.hpp"
 #include "kernels/simd/strings.hpp"
 
 namespace lumi {
@@ -10,67 +10,6 @@ namespace {
 using namespace simd;
 
 constexpr size_t kVector = sizeof(Bytes32);
-
-// At most two units of type V: one from each end, both read before either is stored.
-template <typename V>
-void copyEnds(const Byte* src, Byte* dst, size_t bytes) {
-  V first, last;
-  std::memcpy(&first, src, sizeof(V));
-  std::memcpy(&last, src + bytes - sizeof(V), sizeof(V));
-  std::memcpy(dst, &first, sizeof(V));
-  std::memcpy(dst + bytes - sizeof(V), &last, sizeof(V));
-}
-
-// Four vectors from each place; the places may overlap, and all is read before anything is stored.
-void copyFours(const Byte* src, Byte* dst, size_t second) {
-  const Byte* s = src + second;
-  Byte* d = dst + second;
-  const Bytes32 a0 = load32(src), a1 = load32(src + kVector), a2 = load32(src + 2 * kVector),
-                a3 = load32(src + 3 * kVector);
-  const Bytes32 b0 = load32(s), b1 = load32(s + kVector), b2 = load32(s + 2 * kVector),
-                b3 = load32(s + 3 * kVector);
-  store32(dst, a0);
-  store32(dst + kVector, a1);
-  store32(dst + 2 * kVector, a2);
-  store32(dst + 3 * kVector, a3);
-  store32(d, b0);
-  store32(d + kVector, b1);
-  store32(d + 2 * kVector, b2);
-  store32(d + 3 * kVector, b3);
-}
-
-void copyTwos(const Byte* src, Byte* dst, size_t second) {
-  const Bytes32 a0 = load32(src), a1 = load32(src + kVector);
-  const Bytes32 b0 = load32(src + second), b1 = load32(src + second + kVector);
-  store32(dst, a0);
-  store32(dst + kVector, a1);
-  store32(dst + second, b0);
-  store32(dst + second + kVector, b1);
-}
-
-constexpr size_t kShort = 8 * kVector;
-
-inline void copyShort(const Byte* src, Byte* dst, size_t bytes) {
-  if (bytes >= kVector) {
-    if (bytes > 4 * kVector)
-      copyFours(src, dst, bytes - 4 * kVector);
-    else if (bytes > 2 * kVector)
-      copyTwos(src, dst, bytes - 2 * kVector);
-    else
-      copyEnds<Bytes32>(src, dst, bytes);
-  } else if (bytes >= 8) {
-    if (bytes >= 16)
-      copyEnds<Bytes16>(src, dst, bytes);
-    else
-      copyEnds<uint64_t>(src, dst, bytes);
-  } else if (bytes >= 4) {
-    copyEnds<uint32_t>(src, dst, bytes);
-  } else if (bytes >= 2) {
-    copyEnds<uint16_t>(src, dst, bytes);
-  } else if (bytes) {
-    *dst = *src;
-  }
-}
 
 // The ends go unaligned, the aligned middle four vectors at a time.
 void copyForwards(const Byte* src, Byte* dst, size_t bytes) {
@@ -131,7 +70,7 @@ constexpr size_t kStringMove = 0x7000;
 }  // namespace
 
 void copyRow(const uint8_t* src, uint8_t* dst, size_t bytes) {
-  if (bytes <= kShort)
+  if (bytes <= kShortCopy)
     copyShort(src, dst, bytes);
   else if (bytes >= kStringMove)
     copyByString(src, dst, bytes);
