@@ -53,18 +53,27 @@ bool isTwice(const int32_t* index, size_t columns) {
   return true;
 }
 
+// Four columns as distances from another.
+S32 fourFrom(const int32_t* index, int32_t first) {
+  return S32{load16(reinterpret_cast<const Byte*>(index))} - broadcast(first);
+}
+
+// The bytes of sixteen columns of one byte, or of eight of two, counted from the column `first`.
+U8 bytesFrom(const int32_t* index, size_t pixelBytes, int32_t first) {
+  const S16 low = packed<int16_t>(fourFrom(index, first), fourFrom(index + 4, first));
+  if (pixelBytes == 2) return {(low + low + (low << Shift(9)) + broadcast<int16_t>(0x0100)).v};
+  const S16 high = packed<int16_t>(fourFrom(index + 8, first), fourFrom(index + 12, first));
+  return packed<uint8_t>(low, high);
+}
+
 Windows windowsOf(const int32_t* index, size_t pixelBytes, int32_t origin, int32_t end) {
-  const auto pixel = static_cast<int32_t>(pixelBytes);
-  const auto at = [=](int32_t column) { return (column - origin) * pixel; };
-  const int32_t last = at(end) - static_cast<int32_t>(kBlock);
-  Windows w{std::min(at(index[0]), last), 0, {}};
-  w.second = std::min(w.first + static_cast<int32_t>(kBlock), last);
-  for (size_t i = 0; i < kBlock; ++i) {
-    const int32_t byte = at(index[i / pixelBytes]) + static_cast<int32_t>(i % pixelBytes);
-    const bool inFirst = byte < w.first + static_cast<int32_t>(kBlock);
-    w.control[i] =
-        static_cast<Byte>(inFirst ? byte - w.first : byte - w.second + static_cast<int32_t>(kBlock));
-  }
+  const auto pixel = static_cast<int32_t>(pixelBytes), block = static_cast<int32_t>(kBlock);
+  const int32_t first = std::min(index[0], end - block / pixel), start = (first - origin) * pixel;
+  Windows w{start, std::min(start + block, (end - origin) * pixel - block), {}};
+  const U8 bytes = bytesFrom(index, pixelBytes, first);
+  const U8 isBehind = isEqual(larger(bytes, broadcast<Byte>(kBlock)), bytes);
+  const U8 overlap = broadcast(static_cast<Byte>(start + block - w.second));
+  store16(w.control.data(), (bytes + (isBehind & overlap)).v);
   return w;
 }
 
