@@ -56,11 +56,32 @@ void put(uint8_t* scratch, size_t i, const Block& block) {
   move<sizeof block>(scratch + i * sizeof block, reinterpret_cast<const Byte*>(&block));
 }
 
+// -2 c; beyond the last column it is repeated.
+int weightOf(const TileColumns<uint8_t>& columns, size_t x) {
+  return -2 * columns.weights[2 * std::min(x, columns.count - 1) + 1];
+}
+
+// Of eight columns.
+Bytes16 weightsOf(const TileColumns<uint8_t>& columns, size_t x) {
+  const auto* const pairs = reinterpret_cast<const Byte*>(columns.weights + 2 * x);
+  const S16 c = packed<int16_t>(highWords<int16_t>(load16(pairs)), highWords<int16_t>(load16(pairs + 16)));
+  return (broadcast<int16_t>(0) - (c + c)).v;
+}
+
 template <int channels, typename Block>
-void setWeights(Block& block, const TileColumns<uint8_t>& columns, size_t first) {
-  for (size_t lane = 0; lane < kLanes; ++lane) {
-    const size_t x = std::min(first + lane / channels, columns.count - 1);
-    block.weights[lane] = static_cast<int16_t>(-2 * columns.weights[2 * x + 1]);
+void setWeights(Block& block, const TileColumns<uint8_t>& columns, size_t x) {
+  auto* const weights = reinterpret_cast<Byte*>(block.weights);
+  if constexpr (channels != 1) {
+    constexpr Control kEach = channels == 3 ? Control{0, 1, 0, 1, 0, 1, 2, 3, 2, 3, 2, 3}
+                                            : Control{0, 1, 0, 1, 0, 1, 0, 1, 2, 3, 2, 3, 2, 3, 2, 3};
+    const auto pair = static_cast<uint32_t>(weightOf(columns, x) & 0xFFFF) |
+                      static_cast<uint32_t>(weightOf(columns, x + 1)) << 16;
+    store16(weights, shuffle(dwordsOf(pair, 0, 0), vectorOf(kEach)));
+  } else if (x + kLanes <= columns.count) {
+    store16(weights, weightsOf(columns, x));
+  } else {
+    for (size_t lane = 0; lane < kLanes; ++lane)
+      block.weights[lane] = static_cast<int16_t>(weightOf(columns, x + lane));
   }
 }
 
@@ -86,11 +107,10 @@ void makeWindows(const TileColumns<uint8_t>& columns, uint8_t* scratch) {
     WindowBlock block;
     setWeights<1>(block, columns, x);
     block.offset = std::min(offsetOf<1>(columns, x), last);
-    for (size_t lane = 0; lane < kLanes; ++lane) {
-      const auto at = static_cast<Byte>(offsetOf<1>(columns, x + lane) - block.offset);
-      block.control[2 * lane] = at;
-      block.control[2 * lane + 1] = static_cast<Byte>(at + 1);
-    }
+    int16_t at[kLanes];
+    for (size_t lane = 0; lane < kLanes; ++lane)
+      at[lane] = static_cast<int16_t>(0x0101 * (offsetOf<1>(columns, x + lane) - block.offset) + 0x0100);
+    move<sizeof at>(block.control.data(), reinterpret_cast<const Byte*>(at));
     put(scratch, i, block);
   }
 }
@@ -282,7 +302,8 @@ template <int channels>
 void ColumnBlender<uint8_t, channels>::repeatBlend(const uint8_t* first, const uint8_t* second, uint16_t c,
                                                    uint8_t* dst, size_t count) {
   const uint32_t pixel = blendPixels<channels>(first, second, c);
-  for (size_t i = 0; i < count; ++i, dst += channels) storePixel<channels>(dst, pixel);
+  storePixel<channels>(dst, pixel);
+  for (size_t i = 1; i < count; ++i) storePixel<channels>(dst + i * channels, pixel);
 }
 
 template class ColumnBlender<uint8_t, 1>;
@@ -295,12 +316,15 @@ void blendRows<uint8_t>(const int16_t* first, const int16_t* second, uint16_t c,
   const bool nearsSecond = c > kQ14 / 2;
   const int16_t *const nearer = nearsSecond ? second : first, *const farther = nearsSecond ? first : second;
   const S16 weight = broadcast(static_cast<int16_t>(-4 * (nearsSecond ? kQ14 - c : c)));
-  size_t i = 0;
-  for (; i + kStep <= samples; i += kStep) store16(dst + i, blendQ6(nearer + i, farther + i, weight));
-  if (i == samples) return;
-  Byte rest[kStep];
-  store16(rest, blendQ6(nearer + i, farther + i, weight));
-  std::memcpy(dst + i, rest, samples - i);
+  const auto blockAt = [=](size_t i) { return blendQ6(nearer + i, farther + i, weight); };
+  if (samples >= kStep) {
+    for (size_t i = 0; i + kStep <= samples; i += kStep) store16(dst + i, blockAt(i));
+    store16(dst + samples - kStep, blockAt(samples - kStep));
+  } else {
+    Byte all[kStep];
+    store16(all, blockAt(0));
+    std::memcpy(dst, all, samples);
+  }
 }
 
 }  // namespace lumi
