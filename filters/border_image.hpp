@@ -16,41 +16,26 @@ struct BorderPart {
   int top, left;
 };
 
-// By number of channels.
+// The operations of a sample type, by number of channels.
 template <typename T>
 struct BorderOperations;
-template <>
-struct BorderOperations<Lum8u> {
-  static constexpr auto constant1 = lumiCopyConstBorder_8u_C1R;
-  static constexpr auto constant3 = lumiCopyConstBorder_8u_C3R, constant4 = lumiCopyConstBorder_8u_C4R;
-  static constexpr decltype(&lumiCopyReplicateBorder_8u_C1R) replicate[] = {
-      lumiCopyReplicateBorder_8u_C1R, nullptr, lumiCopyReplicateBorder_8u_C3R,
-      lumiCopyReplicateBorder_8u_C4R};
-};
-template <>
-struct BorderOperations<Lum16u> {
-  static constexpr auto constant1 = lumiCopyConstBorder_16u_C1R;
-  static constexpr auto constant3 = lumiCopyConstBorder_16u_C3R, constant4 = lumiCopyConstBorder_16u_C4R;
-  static constexpr decltype(&lumiCopyReplicateBorder_16u_C1R) replicate[] = {
-      lumiCopyReplicateBorder_16u_C1R, nullptr, lumiCopyReplicateBorder_16u_C3R,
-      lumiCopyReplicateBorder_16u_C4R};
-};
-template <>
-struct BorderOperations<Lum16s> {
-  static constexpr auto constant1 = lumiCopyConstBorder_16s_C1R;
-  static constexpr auto constant3 = lumiCopyConstBorder_16s_C3R, constant4 = lumiCopyConstBorder_16s_C4R;
-  static constexpr decltype(&lumiCopyReplicateBorder_16s_C1R) replicate[] = {
-      lumiCopyReplicateBorder_16s_C1R, nullptr, lumiCopyReplicateBorder_16s_C3R,
-      lumiCopyReplicateBorder_16s_C4R};
-};
-template <>
-struct BorderOperations<Lum32f> {
-  static constexpr auto constant1 = lumiCopyConstBorder_32f_C1R;
-  static constexpr auto constant3 = lumiCopyConstBorder_32f_C3R, constant4 = lumiCopyConstBorder_32f_C4R;
-  static constexpr decltype(&lumiCopyReplicateBorder_32f_C1R) replicate[] = {
-      lumiCopyReplicateBorder_32f_C1R, nullptr, lumiCopyReplicateBorder_32f_C3R,
-      lumiCopyReplicateBorder_32f_C4R};
-};
+
+// No template puts names together.
+#define LUMI_BORDER_OPERATIONS(type)                                                                    \
+  template <>                                                                                           \
+  struct BorderOperations<Lum##type> {                                                                  \
+    static constexpr auto constant1 = lumiCopyConstBorder_##type##_C1R;                                 \
+    static constexpr auto constant3 = lumiCopyConstBorder_##type##_C3R;                                 \
+    static constexpr auto constant4 = lumiCopyConstBorder_##type##_C4R;                                 \
+    static constexpr decltype(&lumiCopyReplicateBorder_##type##_C1R) replicate[] = {                    \
+        lumiCopyReplicateBorder_##type##_C1R, nullptr, lumiCopyReplicateBorder_##type##_C3R,            \
+        lumiCopyReplicateBorder_##type##_C4R};                                                          \
+  };
+LUMI_BORDER_OPERATIONS(8u)
+LUMI_BORDER_OPERATIONS(16u)
+LUMI_BORDER_OPERATIONS(16s)
+LUMI_BORDER_OPERATIONS(32f)
+#undef LUMI_BORDER_OPERATIONS
 
 // Fills all of the border image, of rows `step` bytes apart, which is large enough for the part.
 template <typename T, typename Layout>

@@ -79,7 +79,15 @@ class FilterRun {
  public:
   FilterRun(const FilterBorderObject& object, Rows<const Byte> src, Rows<Byte> dst, LumiSize roi,
             LumiBorderType border, const T* borderValue, Lum8u* scratch)
-      : object_(object), src_(src), dst_(dst), roi_(roi), border_(border), borderValue_(borderValue) {
+      : object_(object),
+        taps_(tapsOf(object)),
+        rounding_(roundingOf(object)),
+        leastWide_(leastWideWidth<T, Layout>(object)),
+        src_(src),
+        dst_(dst),
+        roi_(roi),
+        border_(border),
+        borderValue_(borderValue) {
     const LumiSize kernel{object.kernelWidth, object.kernelHeight};
     const LumiDataType taps = usesWholeTaps<T>(object) ? lumiData16s : lumiData32f;
     left_ = kernel.width / 2;
@@ -177,53 +185,50 @@ class FilterRun {
 
   // A rectangle of the destination at `to`, from the source under the kernel's first tap.
   void filter(Rows<const Byte> from, LumiPoint to, LumiSize size) const {
-    const bool wide = size.width >= leastWideWidth<T, Layout>(object_);
+    const bool wide = size.width >= leastWide_;
     const size_t samples = static_cast<size_t>(size.width) * Layout::kStored;
     const Rows<Byte> rows = pixelAt(dst_, to.x, to.y);
     if (!wide && size.height >= kLeastStrip && filterByColumns(from, rows, samples, size.height)) return;
-    const FilterTaps taps = tapsOf(object_);
-    const FilterRounding rounding = roundingOf(object_);
     walkRows(
         size.height,
-        [&](const Byte* s, Byte* d) {
-          filterRow(taps, rounding, wide, {s, from.step, Layout::kStored}, d, samples);
-        },
-        from, rows);
+        [&](const Byte* s, Byte* d) { filterRow(wide, {s, from.step, Layout::kStored}, d, samples); }, from,
+        rows);
   }
 
   // Strips at the sides are done by columns, if their sums fit into 32 bits.
   bool filterByColumns(Rows<const Byte> from, Rows<Byte> to, size_t samples, int height) const {
-    const FilterTaps taps = tapsOf(object_);
-    if (samples >= 8 || !fitsStrip(taps, static_cast<int>(samples), Layout::kStored)) return false;
+    if (samples >= 8 || !fitsStrip(taps_, static_cast<int>(samples), Layout::kStored)) return false;
     const FilterSource src{from.first, from.step, Layout::kStored};
     const FilterStrip strip{to.first, to.step, static_cast<int>(samples), height};
     if constexpr (std::is_same_v<T, Lum8u> || std::is_same_v<T, Lum16s>)
       if (usesWholeTaps<T>(object_)) {
         if (sizeof(T) == 2 && !object_.fitsWords) return false;
-        filterNarrowStrip<T>(taps, roundingOf(object_), src, strip);
+        filterNarrowStrip<T>(taps_, rounding_, src, strip);
         return true;
       }
-    filterNarrowFloatStrip<T>(taps, object_.roundMode, src, strip);
+    filterNarrowFloatStrip<T>(taps_, rounding_.mode, src, strip);
     return true;
   }
 
-  void filterRow(const FilterTaps& taps, const FilterRounding& rounding, bool wide, FilterSource src,
-                 Byte* dst, size_t samples) const {
+  void filterRow(bool wide, FilterSource src, Byte* dst, size_t samples) const {
     if constexpr (std::is_same_v<T, Lum8u> || std::is_same_v<T, Lum16s>)
       if (usesWholeTaps<T>(object_)) {
         if constexpr (sizeof(T) == 1)
-          if (wide && object_.fitsBytes) return filterWideSmall(taps, rounding, src, dst, samples);
-        if (wide) return filterWide<T>(taps, rounding, src, dst, samples);
+          if (wide && object_.fitsBytes) return filterWideSmall(taps_, rounding_, src, dst, samples);
+        if (wide) return filterWide<T>(taps_, rounding_, src, dst, samples);
         const bool packed = object_.fitsPacked && (sizeof(T) == 1 || object_.fitsWords);
-        return filterNarrow<T>(taps, rounding, src, dst, samples, packed);
+        return filterNarrow<T>(taps_, rounding_, src, dst, samples, packed);
       }
     if (wide)
-      filterWideFloats<T>(taps, src, dst, samples);
+      filterWideFloats<T>(taps_, src, dst, samples);
     else
-      filterNarrowFloats<T>(taps, rounding.mode, src, dst, samples);
+      filterNarrowFloats<T>(taps_, rounding_.mode, src, dst, samples);
   }
 
   const FilterBorderObject& object_;
+  FilterTaps taps_;
+  FilterRounding rounding_;
+  int leastWide_;  // width of a rectangle in the wide form
   Rows<const Byte> src_;
   Rows<Byte> dst_;
   LumiSize roi_;

@@ -156,6 +156,7 @@ class LinearTile {
                         border.isInMemory(lumiBorderInMemoryBottom));
     for (int y = 0; y < middleY_.first; ++y) edgeRow(y, 0);
     for (int y = middleY_.end; y < size_.height; ++y) edgeRow(y, plan_.vertical.srcSize - 1);
+    if (middleX_.count() == size_.width) return;
     for (int y = middleY_.first; y < middleY_.end; ++y)
       edgeColumns(y, rowIndex(y), rowIndex(y) + 1, rowWeight(y));
   }
