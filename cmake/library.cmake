@@ -47,7 +47,9 @@ target_include_directories(lumi
   PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
   PRIVATE ${PROJECT_SOURCE_DIR} ${LUMI_GENERATED})
 target_link_libraries(lumi PRIVATE lumcore lumi_level lumi_warnings)
-target_compile_options(lumi PRIVATE -fvisibility=hidden $<$<COMPILE_LANGUAGE:CXX>:-fvisibility-inlines-hidden>)
+# Vectors are written where they pay. Compilers put arguments together in them, which costs short rows more than
+# the work itself.
+target_compile_options(lumi PRIVATE -fno-tree-slp-vectorize -fvisibility=hidden $<$<COMPILE_LANGUAGE:CXX>:-fvisibility-inlines-hidden>)
 target_link_options(lumi PRIVATE
   -Wl,--version-script=${LUMI_GENERATED}/exports.map ${LUMI_HARDENED_LINK})
 set_target_properties(lumi PROPERTIES

@@ -21,15 +21,15 @@ template <typename T>
 struct BorderOperations;
 
 // No template puts names together.
-#define LUMI_BORDER_OPERATIONS(type)                                                                    \
-  template <>                                                                                           \
-  struct BorderOperations<Lum##type> {                                                                  \
-    static constexpr auto constant1 = lumiCopyConstBorder_##type##_C1R;                                 \
-    static constexpr auto constant3 = lumiCopyConstBorder_##type##_C3R;                                 \
-    static constexpr auto constant4 = lumiCopyConstBorder_##type##_C4R;                                 \
-    static constexpr decltype(&lumiCopyReplicateBorder_##type##_C1R) replicate[] = {                    \
-        lumiCopyReplicateBorder_##type##_C1R, nullptr, lumiCopyReplicateBorder_##type##_C3R,            \
-        lumiCopyReplicateBorder_##type##_C4R};                                                          \
+#define LUMI_BORDER_OPERATIONS(type)                                                         \
+  template <>                                                                                \
+  struct BorderOperations<Lum##type> {                                                       \
+    static constexpr auto constant1 = lumiCopyConstBorder_##type##_C1R;                      \
+    static constexpr auto constant3 = lumiCopyConstBorder_##type##_C3R;                      \
+    static constexpr auto constant4 = lumiCopyConstBorder_##type##_C4R;                      \
+    static constexpr decltype(&lumiCopyReplicateBorder_##type##_C1R) replicate[] = {         \
+        lumiCopyReplicateBorder_##type##_C1R, nullptr, lumiCopyReplicateBorder_##type##_C3R, \
+        lumiCopyReplicateBorder_##type##_C4R};                                               \
   };
 LUMI_BORDER_OPERATIONS(8u)
 LUMI_BORDER_OPERATIONS(16u)

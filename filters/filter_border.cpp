@@ -191,8 +191,10 @@ class FilterRun {
     if (!wide && size.height >= kLeastStrip && filterByColumns(from, rows, samples, size.height)) return;
     walkRows(
         size.height,
-        [&](const Byte* s, Byte* d) { filterRow(wide, {s, from.step, Layout::kStored}, d, samples); }, from,
-        rows);
+        [&](const Byte* s, Byte* d) {
+          filterRow(wide, {s, from.step, Layout::kStored}, d, samples);
+        },
+        from, rows);
   }
 
   // Strips at the sides are done by columns, if their sums fit into 32 bits.

@@ -228,14 +228,15 @@ void run(Byte* dst, size_t samples, const Rule& rule) {
 }  // namespace
 
 template <typename Op, typename T, int alpha>
-void combineRows(const uint8_t* a, const uint8_t* b, uint8_t* dst, size_t samples, Scaling scaling) {
+[[gnu::flatten]] void combineRows(const uint8_t* a, const uint8_t* b, uint8_t* dst, size_t samples,
+                                  Scaling scaling) {
   withFunction<Op, T>(scaling,
                       [&](auto f) { run<T, alpha>(dst, samples, binary<T>(ImageRow<T, T>{a}, b, f)); });
 }
 
 template <typename Op, typename T, int alpha, bool ofThree, bool streaming>
-void combineWithConstant(const PixelPattern& a, const uint8_t* b, uint8_t* dst, size_t samples,
-                         Scaling scaling) {
+[[gnu::flatten]] void combineWithConstant(const PixelPattern& a, const uint8_t* b, uint8_t* dst,
+                                          size_t samples, Scaling scaling) {
   using Store = std::conditional_t<streaming, Streaming, Cached>;
   const ConstantRow<ofThree> constant{a};
   withFunction<Op, T>(scaling,

@@ -129,7 +129,7 @@ struct Rescaled {
 }  // namespace
 
 template <typename S, typename D>
-void convertScaledRow(const uint8_t* src, uint8_t* dst, size_t samples, Rescaling how) {
+[[gnu::flatten]] void convertScaledRow(const uint8_t* src, uint8_t* dst, size_t samples, Rescaling how) {
   using W = WorkOf<S>;
   const auto run = [&](auto f) {
     runConversion<S, D, 0, 2>(src, dst, samples, Rescaled<S, D, decltype(f)>{f});

@@ -102,6 +102,13 @@ template <typename Store = Cached, typename Rule>
     store16(d + bytes - kHalf, last);
     return;
   }
+  if (bytes <= 2 * kBlock) {
+    const auto first = rule.block(0, rule.phase(0));
+    const auto last = rule.block(bytes - kBlock, rule.phase(bytes - kBlock));
+    Cached::store(d, first);
+    Cached::store(d + bytes - kBlock, last);
+    return;
+  }
   constexpr size_t round = Rule::kPeriod == 1 ? 2 : Rule::kPeriod;
   const auto run = [&](auto store) {
     runLong<decltype(store)>(d, bytes, rule, std::make_index_sequence<round>(),
