@@ -157,6 +157,19 @@ struct Doubles<float, 1> {
   }
 };
 
+// Some pixels of a block, from pixel `left` of its first gap on.
+template <typename Block, size_t kPixel>
+void doublePart(const Byte* first, const Byte* second, Byte* nearFirst, Byte* nearSecond, size_t left,
+                size_t pixels) {
+  Byte rows[2][Block::kStored] = {}, results[2][Block::kStored];
+  const size_t read = ((left + pixels + 1) / 2 + 1) * kPixel;
+  std::memcpy(rows[0], first, read);
+  std::memcpy(rows[1], second, read);
+  Block::block(rows[0], rows[1], results[0], results[1]);
+  std::memcpy(nearFirst, results[0] + left * kPixel, pixels * kPixel);
+  std::memcpy(nearSecond, results[1] + left * kPixel, pixels * kPixel);
+}
+
 }  // namespace
 
 template <typename T, int channels>
@@ -180,27 +193,18 @@ template <typename T, int channels>
 void doubleRows(const uint8_t* first, const uint8_t* second, uint8_t* nearFirst, uint8_t* nearSecond,
                 size_t phase, size_t count) {
   using Block = Doubles<T, channels>;
-  constexpr size_t kPixel = channels * sizeof(T), kStored = Block::kStored, kUsed = 2 * Block::kGaps * kPixel;
-  // Some pixels of a block, from pixel `left` of its first gap on.
-  const auto part = [](const Byte* a, const Byte* b, Byte* nearA, Byte* nearB, size_t left, size_t pixels) {
-    Byte rows[2][kStored] = {}, results[2][kStored];
-    const size_t gaps = (left + pixels + 1) / 2;
-    std::memcpy(rows[0], a, (gaps + 1) * kPixel);
-    std::memcpy(rows[1], b, (gaps + 1) * kPixel);
-    Block::block(rows[0], rows[1], results[0], results[1]);
-    std::memcpy(nearA, results[0] + left * kPixel, pixels * kPixel);
-    std::memcpy(nearB, results[1] + left * kPixel, pixels * kPixel);
-  };
+  constexpr size_t kPixel = channels * sizeof(T), kUsed = 2 * Block::kGaps * kPixel;
   const size_t bytes = count * kPixel;
   size_t from = 0, i = 0;
   if (phase != 0 && count > 0) {
-    part(first, second, nearFirst, nearSecond, 1, 1);
+    doublePart<Block, kPixel>(first, second, nearFirst, nearSecond, 1, 1);
     from = i = kPixel;
   }
-  for (; i + kStored <= bytes; i += kUsed, from += kUsed / 2)
+  for (; i + Block::kStored <= bytes; i += kUsed, from += kUsed / 2)
     Block::block(first + from, second + from, nearFirst + i, nearSecond + i);
   for (; i < bytes; i += kUsed, from += kUsed / 2)
-    part(first + from, second + from, nearFirst + i, nearSecond + i, 0, std::min(bytes - i, kUsed) / kPixel);
+    doublePart<Block, kPixel>(first + from, second + from, nearFirst + i, nearSecond + i, 0,
+                              std::min(bytes - i, kUsed) / kPixel);
 }
 
 template void halveRows<uint8_t, 1>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
