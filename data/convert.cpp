@@ -21,14 +21,6 @@ namespace {
 
 using namespace check;
 
-// Calls kernel(source row, destination row, samples) for each row.
-template <typename S, typename D, typename Layout, typename Kernel>
-void convertRows(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi, Kernel kernel) {
-  walkFused(
-      roi, [&](const Byte* s, Byte* d, size_t pixels) { kernel(s, d, pixels * Layout::kStored); },
-      pixelRows<Layout>(src, srcStep), pixelRows<Layout>(dst, dstStep));
-}
-
 // The conversions whose stores bypass the cache where the images are large.
 template <typename S, typename D, typename Layout>
 constexpr bool mayStream() {
@@ -46,12 +38,12 @@ LumStatus convert(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi) 
   constexpr int movedBytes = kPixelBytes<S, Layout> + kPixelBytes<D, Layout>;
   if constexpr (mayStream<S, D, Layout>()) {
     if (streamsOperation(bytesMoved(roi, movedBytes))) {
-      convertRows<S, D, Layout>(src, srcStep, dst, dstStep, roi, convertRow<S, D, 0, true>);
+      walkSamples<Layout>(src, srcStep, dst, dstStep, roi, convertRow<S, D, 0, true>);
       storeFence();
       return lumStatusOk;
     }
   }
-  convertRows<S, D, Layout>(src, srcStep, dst, dstStep, roi, convertRow<S, D, kAlpha<S, Layout>>);
+  walkSamples<Layout>(src, srcStep, dst, dstStep, roi, convertRow<S, D, kAlpha<S, Layout>>);
   return lumStatusOk;
 }
 
@@ -59,7 +51,7 @@ LumStatus convert(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi) 
 template <typename S, typename D, typename Layout>
 LumStatus convertNegativeToZero(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
-  convertRows<S, D, Layout>(src, srcStep, dst, dstStep, roi, convertRow<S, D, 0>);
+  walkSamples<Layout>(src, srcStep, dst, dstStep, roi, convertRow<S, D, 0>);
   return lumStatusOk;
 }
 
@@ -69,7 +61,7 @@ void convertRounding(const S* src, int srcStep, D* dst, int dstStep, LumiSize ro
                      FloatConversion how) {
   how.away = mode != lumRoundTowardZero && mode != lumRoundNearestEven;
   const unsigned before = setRounding(mode == lumRoundNearestEven ? Rounding::Nearest : Rounding::Truncate);
-  convertRows<S, D, Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
+  walkSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
     convertFloatRow<D, kAlpha<S, Layout>>(s, d, samples, how);
   });
   restoreRounding(before);
@@ -148,7 +140,7 @@ LumStatus convertScaled(const S* src, int srcStep, D* dst, int dstStep, LumiSize
   constexpr int zeroAbove = std::min<int>(scaleLimits<S, D>().zeroAbove, 8 * sizeof(S));
   if (scaleFactor > zeroAbove) return fillZero<D, Layout>(dst, dstStep, roi);
   const Rescaling how = rescaling<S, D>(mode, scaleFactor);
-  convertRows<S, D, Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
+  walkSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
     convertScaledRow<S, D>(s, d, samples, how);
   });
   return lumStatusOk;

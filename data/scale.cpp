@@ -25,19 +25,11 @@ bool streamsScale(LumiSize roi) {
 template <typename Layout>
 inline constexpr bool kHasAlpha = kAlpha<Lum8u, Layout> != 0;
 
-// Calls kernel(source row, destination row, samples) for each row, or once for rows that touch.
-template <typename Layout, typename S, typename D, typename Kernel>
-void forRows(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi, Kernel kernel) {
-  walkFused(
-      roi, [&](const Byte* s, Byte* d, size_t pixels) { kernel(s, d, pixels * Layout::kStored); },
-      pixelRows<Layout>(src, srcStep), pixelRows<Layout>(dst, dstStep));
-}
-
 template <typename S, typename D, typename Layout>
 LumStatus widen(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi), steps(srcStep, dstStep))) return fault;
   const bool streaming = streamsScale<D>(roi);
-  forRows<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
+  walkSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
     widenRow<D, kHasAlpha<Layout>>(s, d, samples, streaming);
   });
   if (streaming) storeFence();
@@ -52,7 +44,7 @@ LumStatus narrow(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi, L
   const unsigned before = accurate ? setRounding(Rounding::Nearest) : 0;
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi), steps(srcStep, dstStep))) return fault;
   const bool streaming = !accurate && streamsScale<D>(roi);
-  forRows<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
+  walkSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
     narrowRow<S, kHasAlpha<Layout>>(s, d, samples, accurate, streaming);
   });
   if (streaming) storeFence();
@@ -68,7 +60,7 @@ LumStatus widenToFloats(const S* src, int srcStep, D* dst, int dstStep, LumiSize
     return fault;
   const bool streaming = streamsScale<D>(roi);
   const LinearMap map = bytesToFloats(lower, upper);
-  forRows<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
+  walkSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
     widenToFloatsRow<kHasAlpha<Layout>>(s, d, samples, map, streaming);
   });
   if (streaming) storeFence();
@@ -85,7 +77,7 @@ LumStatus narrowFloats(const S* src, int srcStep, D* dst, int dstStep, LumiSize 
           firstFault(range(lower, upper), pointers(src, dst), size(roi), steps(srcStep, dstStep)))
     return fault;
   const LinearMap map = floatsToBytes(lower, upper);
-  forRows<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
+  walkSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
     narrowFloatsRow<kHasAlpha<Layout>>(s, d, samples, map);
   });
   restoreRounding(before);

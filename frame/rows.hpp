@@ -92,6 +92,15 @@ inline void walkFused(LumiSize roi, Kernel kernel, Image... images) {
       roi.height, [&](auto... row) { kernel(row..., pixels); }, images...);
 }
 
+// The same for an image that becomes one of another sample type: kernel(source row, destination row,
+// samples).
+template <typename Layout, typename S, typename D, typename Kernel>
+inline void walkSamples(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi, Kernel kernel) {
+  walkFused(
+      roi, [&](const Byte* s, Byte* d, size_t pixels) { kernel(s, d, pixels * Layout::kStored); },
+      pixelRows<Layout>(src, srcStep), pixelRows<Layout>(dst, dstStep));
+}
+
 // Bytes that a call moves. More than 64 bits hold is no size of any cache, and is cut to the largest.
 inline int64_t bytesMoved(LumiSize roi, int bytesPerPixel) {
   int64_t bytes = 0;
