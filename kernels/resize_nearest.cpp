@@ -125,13 +125,14 @@ size_t pickEvens(const Byte* src, Byte* dst, size_t columns) {
 }
 
 // Every pixel twice.
-template <typename Pixel>
+template <size_t pixel>
 size_t pickTwice(const Byte* src, Byte* dst, size_t columns) {
-  constexpr size_t kEach = 2 * kBlock / sizeof(Pixel);
+  using Pixel = std::conditional_t<pixel == 1, uint8_t, std::conditional_t<pixel == 2, uint16_t, uint32_t>>;
+  constexpr size_t kEach = 2 * kBlock / pixel;
   size_t x = 0;
   for (; x + kEach <= columns; x += kEach, src += kBlock) {
     const Samples<Pixel> v{load16Whole(src)};
-    store32(dst + x * sizeof(Pixel), joined(interleavedLow(v, v).v, interleavedHigh(v, v).v));
+    store32(dst + x * pixel, joined(interleavedLow(v, v).v, interleavedHigh(v, v).v));
   }
   return x;
 }
@@ -177,20 +178,19 @@ PickedColumns::PickedColumns(const int32_t* index, int32_t origin, size_t column
   }
 }
 
-void PickedColumns::pickByTwo(const uint8_t* base, uint8_t* dst) const {
-  const auto pick = [&](auto pixel) {
-    constexpr size_t kPixel = sizeof pixel;
-    const Byte* const first = base + static_cast<ptrdiff_t>(index_[0]) * static_cast<ptrdiff_t>(kPixel);
-    const size_t done = isHalved_ ? pickEvens<kPixel>(first, dst, columns_)
-                                  : pickTwice<decltype(pixel)>(first, dst, columns_);
-    pickOneByOne<kPixel>(base, dst + done * kPixel, index_ + done, columns_ - done, false);
+template <size_t pixel>
+void PickedColumns::pickPixels(const uint8_t* src, uint8_t* dst) const {
+  const auto bytes = [](int32_t columns) {
+    return static_cast<ptrdiff_t>(columns) * static_cast<ptrdiff_t>(pixel);
   };
-  if (pixelBytes_ == 1)
-    pick(uint8_t());
-  else if (pixelBytes_ == 2)
-    pick(uint16_t());
-  else
-    pick(uint32_t());
+  const Byte* const base = src - bytes(origin_);
+  size_t done = 0;
+  if constexpr (pixel <= 4 && pixel != 3) {
+    const Byte* const first = base + bytes(index_[0]);
+    if (isHalved_) done = pickEvens<pixel>(first, dst, columns_);
+    if (isDoubled_) done = pickTwice<pixel>(first, dst, columns_);
+  }
+  pickOneByOne<pixel>(base, dst + done * pixel, index_ + done, columns_ - done, isClose_ && done == 0);
 }
 
 void PickedColumns::pick(const uint8_t* src, uint8_t* dst) const {
@@ -198,25 +198,23 @@ void PickedColumns::pick(const uint8_t* src, uint8_t* dst) const {
     return isNarrow_ ? pickByWindows<narrowBlockOf>(src, dst, windows_, columns_, pixelBytes_)
                      : pickByWindows<blockOf>(src, dst, windows_, columns_, pixelBytes_);
   }
-  const Byte* const base = src - static_cast<ptrdiff_t>(origin_) * static_cast<ptrdiff_t>(pixelBytes_);
-  if (isHalved_ || isDoubled_) return pickByTwo(base, dst);
   switch (pixelBytes_) {
     case 1:
-      return pickOneByOne<1>(base, dst, index_, columns_, isClose_);
+      return pickPixels<1>(src, dst);
     case 2:
-      return pickOneByOne<2>(base, dst, index_, columns_, isClose_);
+      return pickPixels<2>(src, dst);
     case 3:
-      return pickOneByOne<3>(base, dst, index_, columns_, isClose_);
+      return pickPixels<3>(src, dst);
     case 4:
-      return pickOneByOne<4>(base, dst, index_, columns_, isClose_);
+      return pickPixels<4>(src, dst);
     case 6:
-      return pickOneByOne<6>(base, dst, index_, columns_, isClose_);
+      return pickPixels<6>(src, dst);
     case 8:
-      return pickOneByOne<8>(base, dst, index_, columns_, isClose_);
+      return pickPixels<8>(src, dst);
     case 12:
-      return pickOneByOne<12>(base, dst, index_, columns_, isClose_);
+      return pickPixels<12>(src, dst);
     default:
-      return pickOneByOne<16>(base, dst, index_, columns_, isClose_);
+      return pickPixels<16>(src, dst);
   }
 }
 

@@ -22,7 +22,8 @@ class PickedColumns {
  private:
   // Of the sizes that the paths of two have vectors for.
   bool hasVectors() const { return pixelBytes_ <= 4 && pixelBytes_ != 3; }
-  void pickByTwo(const uint8_t* base, uint8_t* dst) const;
+  template <size_t pixel>
+  void pickPixels(const uint8_t* src, uint8_t* dst) const;
 
   const int32_t* index_;
   int32_t origin_;
