@@ -158,10 +158,14 @@ size_t windowBlock(const TileColumns<T>& columns, size_t x) {
 
 template <typename W, typename T>
 bool suitsWindows(const TileColumns<T>& columns) {
-  if (columns.count < Gather<T>::kLanes || windowStart<W>(columns, 0) < columns.index[0]) return false;
-  for (size_t x = 0; x < columns.count; x += 4) {
-    const size_t first = std::min(x, columns.count - 4);
-    if (columns.index[first + 3] + 2 - windowStart<W>(columns, first) > W::kSpan) return false;
+  constexpr size_t kLanes = Gather<T>::kLanes;
+  if (columns.count < kLanes || windowStart<W>(columns, 0) < columns.index[0]) return false;
+  const auto fits = [&](size_t first) {
+    return columns.index[first + 3] + 2 - windowStart<W>(columns, first) <= W::kSpan;
+  };
+  for (size_t x = 0; x < columns.count; x += kLanes) {
+    const size_t block = windowBlock(columns, x);
+    if (!fits(block) || !fits(block + 4)) return false;
   }
   return true;
 }

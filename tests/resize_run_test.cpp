@@ -178,6 +178,7 @@ void chooseLengths(Random& random, int least, int limit, int* src, int* dst) {
   if (kind == 3) *src = std::max(*dst / 2 * 3, least);
   if (kind == 4) *src = random.between(least, least + 2);
   if (kind == 5) *dst = random.between(1, 3);
+  if (kind == 6) *src = std::max(2 * *dst + random.below(*dst / 3 + 1), least);
 }
 
 Tile randomTile(Random& random, bool linear, int limit) {
@@ -189,6 +190,9 @@ Tile randomTile(Random& random, bool linear, int limit) {
     tile.src = {std::min(tile.src.width, limit), std::min(tile.src.height, limit)};
     tile.dst = {2 * tile.src.width, 2 * tile.src.height};
   }
+  constexpr int kMostPixels = 700000;  // of the largest pixels, in the memory that tests have
+  const auto isTooLarge = [](LumiSize size) { return size.width * size.height > kMostPixels; };
+  if (isTooLarge(tile.src) || isTooLarge(tile.dst)) return randomTile(random, linear, limit);
   tile.size = tile.dst;
   if (random.oneIn(2)) {
     tile.offset = {random.below(tile.dst.width), random.below(tile.dst.height)};
