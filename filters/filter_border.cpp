@@ -3,7 +3,7 @@
 // is there.
 #include "lumi/filter_border.h"
 
-#include <algorithm>
+#include <type_traits>
 
 #include "filters/border_image.hpp"
 #include "filters/filter_border_object.hpp"

@@ -3,7 +3,8 @@
 #include "lumi/resize.h"
 
 #include <algorithm>
-#include <cstring>
+#include <cstdlib>
+#include <utility>
 
 #include "frame/border.hpp"
 #include "frame/check.hpp"
@@ -214,23 +215,16 @@ class LinearTile {
     Element* upper = tables.take<Element>(static_cast<int64_t>(samples + kRowSlack<T>), 32);
     Element* lower = tables.take<Element>(static_cast<int64_t>(samples + kRowSlack<T>), 32);
     const Blender blender(middleColumns(), tables.take<Lum8u>(0));
-    constexpr int64_t kNone = INT64_MIN;
-    int64_t upperRow = kNone, lowerRow = kNone;
+    int64_t held = INT64_MIN;  // the source row in `upper`; the next one is in `lower`
     for (int y = middleY_.first; y < middleY_.end; ++y) {
       const int row = rowIndex(y);
-      if (lowerRow == row && upperRow != row) {
+      if (row == held + 1) {
         std::swap(upper, lower);
-        std::swap(upperRow, lowerRow);
-      }
-      const bool isUpperNew = upperRow != row, isLowerNew = lowerRow != int64_t{row} + 1;
-      if (isUpperNew && isLowerNew)
-        blender.blendTwo(sourceRow(row), upper, sourceRow(row + 1), lower);
-      else if (isUpperNew)
-        blender.blend(sourceRow(row), upper);
-      else if (isLowerNew)
         blender.blend(sourceRow(row + 1), lower);
-      upperRow = row;
-      lowerRow = int64_t{row} + 1;
+      } else if (row != held) {
+        blender.blendTwo(sourceRow(row), upper, sourceRow(row + 1), lower);
+      }
+      held = row;
       blendRows<T>(upper, lower, rowWeight(y), pixel(y, middleX_.first), samples);
     }
   }

@@ -253,7 +253,7 @@ ColumnBlender<uint8_t, channels>::ColumnBlender(const TileColumns<uint8_t>& colu
 
 template <int channels>
 template <int n>
-void ColumnBlender<uint8_t, channels>::blendRows(const uint8_t* const (&src)[n],
+void ColumnBlender<uint8_t, channels>::blendEach(const uint8_t* const (&src)[n],
                                                  int16_t* const (&rows)[n]) const {
   if constexpr (channels == 1) {
     if (wholeLoads_ != 0)
@@ -268,12 +268,12 @@ void ColumnBlender<uint8_t, channels>::blendRows(const uint8_t* const (&src)[n],
 
 template <int channels>
 void ColumnBlender<uint8_t, channels>::blend(const uint8_t* src, int16_t* row) const {
-  blendRows<1>({src}, {row});
+  blendEach<1>({src}, {row});
 }
 template <int channels>
 void ColumnBlender<uint8_t, channels>::blendTwo(const uint8_t* first, int16_t* upper, const uint8_t* second,
                                                 int16_t* lower) const {
-  blendRows<2>({first, second}, {upper, lower});
+  blendEach<2>({first, second}, {upper, lower});
 }
 
 template <int channels>

@@ -91,7 +91,7 @@ class ColumnBlender<uint8_t, channels> {
 
  private:
   template <int n>
-  void blendRows(const uint8_t* const (&src)[n], int16_t* const (&rows)[n]) const;
+  void blendEach(const uint8_t* const (&src)[n], int16_t* const (&rows)[n]) const;
 
   const uint8_t* blocks_;
   size_t blockCount_;
