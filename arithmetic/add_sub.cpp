@@ -7,7 +7,7 @@
 #include "frame/constant.hpp"
 #include "frame/streaming.hpp"
 #include "frame/zero.hpp"
-#include "kernels/add_sub.hpp"
+#include "kernels/arithmetic/add_sub.hpp"
 #include "lumi/copy.h"
 
 namespace lumi {

@@ -16,6 +16,8 @@ target_compile_options(lumi_level INTERFACE
   $<$<COMPILE_LANGUAGE:CXX>:-fno-exceptions -fno-rtti>)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   target_compile_options(lumi_level INTERFACE $<$<COMPILE_LANGUAGE:C,CXX>:-mstackrealign>
+    # GCC would still spill vectors by aligned stores where nothing else in a function wants alignment.
+    $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-mincoming-stack-boundary=2>
     # Clang would still read several arguments at once with an aligned load.
     $<$<COMPILE_LANG_AND_ID:CXX,Clang>:-mstack-alignment=4>)
 endif()
@@ -31,6 +33,11 @@ if(LUMI_SANITIZE)
   add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:-fsanitize=address,undefined>
                       $<$<COMPILE_LANGUAGE:C,CXX>:-fno-sanitize-recover=all> -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+endif()
+# Not in the products: each fast path of a kernel tells the tests that it was taken.
+option(LUMI_COUNT_PATHS "Kernels report the paths that they take" ${LUMI_SANITIZE})
+if(LUMI_COUNT_PATHS)
+  add_compile_definitions(LUMI_COUNT_PATHS)
 endif()
 if(LUMI_COVERAGE)
   # The least optimisation at which the compiler leaves clean upper vector halves behind.

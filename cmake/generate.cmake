@@ -2,7 +2,7 @@
 # What follows from the registry is made in the build tree, whenever a row changes.
 
 set(LUMI_GENERATED ${PROJECT_BINARY_DIR}/generated)
-file(GLOB LUMI_REGISTRY CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/registry/*.reg)
+file(GLOB LUMI_REGISTRY CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/registry/*/*.reg)
 file(GLOB LUMI_GENERATOR CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tools/lumigen/*.py)
 set(LUMI_GENERATED_FILES
   ${LUMI_GENERATED}/entry_stubs.S ${LUMI_GENERATED}/exports.map ${LUMI_GENERATED}/fault_rows.inc

@@ -3,7 +3,7 @@ add_library(lumi SHARED ${LUMI_GENERATED}/entry_stubs.S)
 add_library(lumi::lumi ALIAS lumi)
 add_dependencies(lumi lumi_generated)
 
-# lumi_sources(<home> <stem>...): family code, and the kernels of the same stem where it has some.
+# Family code lies in the folder of its home, row kernels in kernels/ and its folders: what is put there is built.
 # Kernels are optimised in every build type: unoptimised vector code is many times slower.
 # Loops start on 32 bytes: where one falls otherwise costs up to a third of a copy's speed. Tails of up to
 # fifteen samples stay loops: unrolled, they would take registers from the loop before them.
@@ -11,31 +11,16 @@ set(LUMI_KERNEL_OPTIONS -O3 -falign-loops=32)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   list(APPEND LUMI_KERNEL_OPTIONS --param=max-completely-peel-times=8)
 endif()
-function(lumi_kernels)
-  foreach(stem ${ARGN})
-    target_sources(lumi PRIVATE ${PROJECT_SOURCE_DIR}/kernels/${stem}.cpp)
-    if(NOT LUMI_COVERAGE)
-      set_source_files_properties(${PROJECT_SOURCE_DIR}/kernels/${stem}.cpp PROPERTIES COMPILE_OPTIONS "${LUMI_KERNEL_OPTIONS}")
-    endif()
-  endforeach()
-endfunction()
-function(lumi_sources home)
-  foreach(stem ${ARGN})
-    target_sources(lumi PRIVATE ${PROJECT_SOURCE_DIR}/${home}/${stem}.cpp)
-    if(EXISTS ${PROJECT_SOURCE_DIR}/kernels/${stem}.cpp)
-      lumi_kernels(${stem})
-    endif()
-  endforeach()
-endfunction()
-
-lumi_sources(frame attach image_memory version streaming)
-lumi_sources(data set copy copy_channels border convert scale bits)
-lumi_sources(arithmetic add_sub)
-lumi_sources(geometry resize resize_spec)
-lumi_kernels(resize_nearest resize_linear resize_linear_floats resize_by_two)
-lumi_kernels(masked chosen planes pattern)  # not of one family alone
-lumi_sources(filters filter_border filter_border_object)
-lumi_kernels(convert_floats convert_scaled filter_border_floats)
+set(LUMI_HOMES arithmetic data statistics filters geometry transforms analysis)
+list(TRANSFORM LUMI_HOMES APPEND /*.cpp OUTPUT_VARIABLE LUMI_FAMILY_CODE)
+list(TRANSFORM LUMI_HOMES PREPEND kernels/ OUTPUT_VARIABLE LUMI_KERNEL_CODE)
+list(TRANSFORM LUMI_KERNEL_CODE APPEND /*.cpp)
+file(GLOB LUMI_FAMILIES CONFIGURE_DEPENDS frame/*.cpp ${LUMI_FAMILY_CODE})
+file(GLOB LUMI_KERNELS CONFIGURE_DEPENDS kernels/*.cpp ${LUMI_KERNEL_CODE})
+target_sources(lumi PRIVATE ${LUMI_FAMILIES} ${LUMI_KERNELS})
+if(NOT LUMI_COVERAGE)
+  set_source_files_properties(${LUMI_KERNELS} PROPERTIES COMPILE_OPTIONS "${LUMI_KERNEL_OPTIONS}")
+endif()
 
 # The date of the version record: SOURCE_DATE_EPOCH where it is set, so that builds can be repeated.
 string(TIMESTAMP LUMI_BUILD_DATE "%b %d %Y" UTC)

@@ -8,7 +8,7 @@
 #include "frame/check.hpp"
 #include "frame/layout.hpp"
 #include "frame/rows.hpp"
-#include "kernels/bits.hpp"
+#include "kernels/data/bits.hpp"
 
 namespace lumi {
 namespace {

@@ -8,9 +8,9 @@
 #include "frame/layout.hpp"
 #include "frame/rows.hpp"
 #include "frame/streaming.hpp"
-#include "kernels/border.hpp"
+#include "kernels/data/border.hpp"
+#include "kernels/data/set.hpp"
 #include "kernels/fence.hpp"
-#include "kernels/set.hpp"
 
 namespace lumi {
 namespace {

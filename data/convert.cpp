@@ -13,7 +13,7 @@
 #include "frame/rows.hpp"
 #include "frame/streaming.hpp"
 #include "frame/zero.hpp"
-#include "kernels/convert.hpp"
+#include "kernels/data/convert.hpp"
 #include "kernels/fence.hpp"
 
 namespace lumi {

@@ -6,7 +6,7 @@
 #include "frame/layout.hpp"
 #include "frame/rows.hpp"
 #include "kernels/chosen.hpp"
-#include "kernels/copy.hpp"
+#include "kernels/data/copy.hpp"
 #include "kernels/fence.hpp"
 #include "kernels/masked.hpp"
 

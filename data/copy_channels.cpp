@@ -8,7 +8,7 @@
 #include "frame/layout.hpp"
 #include "frame/rows.hpp"
 #include "frame/streaming.hpp"
-#include "kernels/copy_channels.hpp"
+#include "kernels/data/copy_channels.hpp"
 #include "kernels/fence.hpp"
 #include "kernels/planes.hpp"
 

@@ -6,8 +6,8 @@
 #include "frame/layout.hpp"
 #include "frame/rounding_control.hpp"
 #include "frame/rows.hpp"
+#include "kernels/data/scale.hpp"
 #include "kernels/fence.hpp"
-#include "kernels/scale.hpp"
 
 namespace lumi {
 namespace {

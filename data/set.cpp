@@ -10,9 +10,9 @@
 #include "frame/rows.hpp"
 #include "frame/streaming.hpp"
 #include "kernels/chosen.hpp"
+#include "kernels/data/set.hpp"
 #include "kernels/fence.hpp"
 #include "kernels/masked.hpp"
-#include "kernels/set.hpp"
 
 namespace lumi {
 namespace {

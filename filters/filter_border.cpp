@@ -11,7 +11,7 @@
 #include "frame/check.hpp"
 #include "frame/layout.hpp"
 #include "frame/rows.hpp"
-#include "kernels/filter_border.hpp"
+#include "kernels/filters/filter_border.hpp"
 
 namespace lumi {
 namespace {

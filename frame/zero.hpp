@@ -6,8 +6,8 @@
 #include "frame/rows.hpp"
 #include "frame/streaming.hpp"
 #include "kernels/chosen.hpp"
+#include "kernels/data/set.hpp"
 #include "kernels/fence.hpp"
-#include "kernels/set.hpp"
 
 namespace lumi {
 

@@ -11,10 +11,10 @@
 #include "frame/layout.hpp"
 #include "frame/rows.hpp"
 #include "geometry/resize_spec.hpp"
-#include "kernels/copy.hpp"
-#include "kernels/resize_by_two.hpp"
-#include "kernels/resize_linear.hpp"
-#include "kernels/resize_nearest.hpp"
+#include "kernels/data/copy.hpp"
+#include "kernels/geometry/resize_by_two.hpp"
+#include "kernels/geometry/resize_linear.hpp"
+#include "kernels/geometry/resize_nearest.hpp"
 
 namespace lumi {
 namespace {

@@ -31,7 +31,7 @@ struct Chosen {
   }
 
   static void blendVector(const Byte* src, Byte* dst, size_t k) {
-    store32(dst, merge(load32(dst), load32(src), load32(kMasks.bytes + kVector * k)));
+    store32(dst, ifThenElse(load32(kMasks.bytes + kVector * k), load32(src), load32(dst)));
   }
 
   // Blends whole vectors and returns the pixels that are done. A source that stands still is one block.

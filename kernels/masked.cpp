@@ -31,12 +31,12 @@ constexpr Control keptBytes() {
 struct Narrow {
   using V = Bytes16;
   static V load(const Byte* p) { return load16(p); }
-  static void blend(Byte* p, V value, V skip) { store16(p, select(value, load16(p), skip)); }
+  static void blend(Byte* p, V value, V skip) { store16(p, ifThenElse(skip, load16(p), value)); }
 };
 struct Wide {
   using V = Bytes32;
   static V load(const Byte* p) { return load32(p); }
-  static void blend(Byte* p, V value, V skip) { store32(p, merge(value, load32(p), skip)); }
+  static void blend(Byte* p, V value, V skip) { store32(p, ifThenElse(skip, load32(p), value)); }
 };
 template <int pixelBytes>
 using Unit = std::conditional_t<pixelBytes % 4 == 0, Wide, Narrow>;
@@ -77,8 +77,8 @@ template <int pixelBytes, int usedBytes>
 inline Bytes16 spreadOver(Bytes16 skip, size_t k) {
   static constexpr auto controls = spreadControls<pixelBytes>();
   static constexpr Control kept = keptBytes<pixelBytes, usedBytes>();
-  const Bytes16 spread = pixelBytes == 1 ? skip : shuffle(skip, vectorOf(controls[k]));
-  return usedBytes < pixelBytes ? either(spread, vectorOf(kept)) : spread;
+  const Bytes16 spread = pixelBytes == 1 ? skip : shuffleBytes(skip, vectorOf(controls[k]));
+  return usedBytes < pixelBytes ? bitOr(spread, vectorOf(kept)) : spread;
 }
 
 template <int pixelBytes, int usedBytes, typename Source>

@@ -31,7 +31,7 @@ PixelPattern makePattern(const void* pixel) {
                                            repeatControl<pixelBytes>(32)};
     const Bytes16 once = loadPixel<pixelBytes>(static_cast<const Byte*>(pixel));
     PixelPattern p;
-    const auto vector = [&](size_t i) { return shuffle(once, vectorOf(controls[i % 3])); };
+    const auto vector = [&](size_t i) { return shuffleBytes(once, vectorOf(controls[i % 3])); };
     // As wide as they will be loaded: a load over two stores would wait for both.
     constexpr size_t vectors = kVector % pixelBytes == 0 ? 2 : sizeof p.bytes / kVector;
     for (size_t i = 0; i < vectors; ++i)

@@ -50,19 +50,19 @@ Bytes16 group(const Byte* block) {
   constexpr bool shifted = channels == 3 && index == 3;
   static constexpr Control control = gatherControl<sampleBytes, channels>(shifted ? 4 : 0);
   const Bytes16 v = load16(block + 4 * channels * index - (shifted ? 4 : 0));
-  return sampleBytes < 4 || shifted ? shuffle(v, vectorOf(control)) : v;
+  return sampleBytes < 4 || shifted ? shuffleBytes(v, vectorOf(control)) : v;
 }
 
 template <int sampleBytes, int channels>
 Dwords4x4 splitBlock(const Byte* src) {
-  return transposed(Dwords4x4{{group<sampleBytes, channels, 0>(src), group<sampleBytes, channels, 1>(src),
-                               group<sampleBytes, channels, 2>(src), group<sampleBytes, channels, 3>(src)}});
+  return transpose(Dwords4x4{{group<sampleBytes, channels, 0>(src), group<sampleBytes, channels, 1>(src),
+                              group<sampleBytes, channels, 2>(src), group<sampleBytes, channels, 3>(src)}});
 }
 
 template <int sampleBytes, int channels>
 TwoDwords4x4 splitTwoBlocks(const Byte* src) {
   const Byte* next = src + 16 * channels;
-  return transposed(
+  return transpose(
       TwoDwords4x4{{joined(group<sampleBytes, channels, 0>(src), group<sampleBytes, channels, 0>(next)),
                     joined(group<sampleBytes, channels, 1>(src), group<sampleBytes, channels, 1>(next)),
                     joined(group<sampleBytes, channels, 2>(src), group<sampleBytes, channels, 2>(next)),
@@ -98,9 +98,9 @@ void splitRowBy(const Byte* src, uint8_t* const* planes, size_t pixels) {
 template <int sampleBytes, typename Store>
 void mergeBlock(const std::array<const Byte*, 4>& planes, size_t at, Byte* dst) {
   static constexpr Control control = scatterControl<sampleBytes, 4>(0, 2);
-  const Dwords4x4 g = transposed(Dwords4x4{
+  const Dwords4x4 g = transpose(Dwords4x4{
       {load16(planes[0] + at), load16(planes[1] + at), load16(planes[2] + at), load16(planes[3] + at)}});
-  for (int i = 0; i < 4; ++i) Store::store(dst + 16 * i, shuffle(g.row[i], vectorOf(control)));
+  for (int i = 0; i < 4; ++i) Store::store(dst + 16 * i, shuffleBytes(g.row[i], vectorOf(control)));
 }
 
 // Four groups of 12 bytes, each turned so that its bytes are where the joined 48 bytes need them.
@@ -111,25 +111,25 @@ void mergeBlock(const std::array<const Byte*, 3>& planes, size_t at, Byte* dst) 
       scatterControl<sampleBytes, 3>(8, 2), scatterControl<sampleBytes, 3>(4, 3)};
   const Bytes16 p0 = load16(planes[0] + at), p1 = load16(planes[1] + at), p2 = load16(planes[2] + at);
   // Dwords 0 and 1 are the group's first two channels; its third is dword 2 or 3.
-  const Bytes16 low = unpackLowDwords(p0, p1), high = unpackHighDwords(p0, p1);
-  const Bytes16 a = shuffle(mergeHalves<0, 0>(low, p2), vectorOf(controls[0])),
-                b = shuffle(mergeHalves<1, 0>(low, p2), vectorOf(controls[1])),
-                c = shuffle(mergeHalves<0, 1>(high, p2), vectorOf(controls[2])),
-                d = shuffle(mergeHalves<1, 1>(high, p2), vectorOf(controls[3]));
-  Store::store(dst, mergeDwords<0b1000>(a, b));
-  Store::store(dst + 16, mergeDwords<0b1100>(b, c));
-  Store::store(dst + 32, mergeDwords<0b1110>(c, d));
+  const Bytes16 low = interleaveLowDwords(p0, p1), high = interleaveHighDwords(p0, p1);
+  const Bytes16 a = shuffleBytes(shuffleHalves<0, 0>(low, p2), vectorOf(controls[0])),
+                b = shuffleBytes(shuffleHalves<1, 0>(low, p2), vectorOf(controls[1])),
+                c = shuffleBytes(shuffleHalves<0, 1>(high, p2), vectorOf(controls[2])),
+                d = shuffleBytes(shuffleHalves<1, 1>(high, p2), vectorOf(controls[3]));
+  Store::store(dst, blendDwords<0b1000>(a, b));
+  Store::store(dst + 16, blendDwords<0b1100>(b, c));
+  Store::store(dst + 32, blendDwords<0b1110>(c, d));
 }
 
 // Samples of 32 bits need no shuffle of bytes: eight pixels at a time in 32-byte vectors.
 template <typename Store>
 void mergeEight(const std::array<const Byte*, 4>& planes, size_t at, Byte* dst) {
-  const TwoDwords4x4 g = transposed(TwoDwords4x4{
+  const TwoDwords4x4 g = transpose(TwoDwords4x4{
       {load32(planes[0] + at), load32(planes[1] + at), load32(planes[2] + at), load32(planes[3] + at)}});
-  Store::store(dst, halvesOf<0, 0>(g.row[0], g.row[1]));
-  Store::store(dst + 32, halvesOf<0, 0>(g.row[2], g.row[3]));
-  Store::store(dst + 64, halvesOf<1, 1>(g.row[0], g.row[1]));
-  Store::store(dst + 96, halvesOf<1, 1>(g.row[2], g.row[3]));
+  Store::store(dst, permuteHalves<0, 0>(g.row[0], g.row[1]));
+  Store::store(dst + 32, permuteHalves<0, 0>(g.row[2], g.row[3]));
+  Store::store(dst + 64, permuteHalves<1, 1>(g.row[0], g.row[1]));
+  Store::store(dst + 96, permuteHalves<1, 1>(g.row[2], g.row[3]));
 }
 
 // In each half, turned so that every sample stands at its place in one of the three vectors of four pixels.
@@ -138,9 +138,9 @@ void mergeEight(const std::array<const Byte*, 3>& planes, size_t at, Byte* dst) 
   const Bytes32 r = permuteDwords<0, 3, 2, 1>(load32(planes[0] + at)),
                 g = permuteDwords<1, 0, 3, 2>(load32(planes[1] + at)),
                 b = permuteDwords<2, 1, 0, 3>(load32(planes[2] + at));
-  const Bytes32 first = mergeDwords<0b01000100>(mergeDwords<0b00100010>(r, g), b),
-                second = mergeDwords<0b00100010>(mergeDwords<0b01000100>(g, r), b),
-                third = mergeDwords<0b01000100>(mergeDwords<0b00100010>(b, r), g);
+  const Bytes32 first = blendDwords<0b01000100>(blendDwords<0b00100010>(r, g), b),
+                second = blendDwords<0b00100010>(blendDwords<0b01000100>(g, r), b),
+                third = blendDwords<0b01000100>(blendDwords<0b00100010>(b, r), g);
   storeThirds<Store>(dst, first, second, third);
 }
 
@@ -162,7 +162,7 @@ void mergeRowBy(const uint8_t* const* planes, Byte* dst, size_t pixels) {
 // are put in order at the end.
 Bytes16 firstOfThree(const Byte* src) {
   const Bytes16 found =
-      mergeDwords<0b0010>(mergeDwords<0b0100>(load16(src), load16(src + 16)), load16(src + 32));
+      blendDwords<0b0010>(blendDwords<0b0100>(load16(src), load16(src + 16)), load16(src + 32));
   return permuteDwords<0, 3, 2, 1>(found);
 }
 

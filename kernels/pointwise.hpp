@@ -137,7 +137,7 @@ struct ImageRow {
   const Byte* operator()(size_t at) const { return first + sourceBytes(at); }
   Phase phase(size_t) const { return {}; }
   Bytes32 block(size_t at, Phase) const {
-    return std::is_same_v<S, float> ? load32(first + at) : load32Whole(first + at);
+    return std::is_same_v<S, float> ? load32(first + at) : load32Once(first + at);
   }
   Bytes16 half(size_t at) const { return load16(first + at); }
   size_t distance(const Byte* d, size_t bytes) const {
@@ -258,9 +258,9 @@ struct KeepAlpha {
   const Byte* maskFrom(size_t at) const { return kMasks.bytes + (start + at) % pixelBytes; }
   Phase phase(size_t at) const { return {rule.phase(at), load32(maskFrom(at))}; }
   auto block(size_t at, const Phase& phase) const {
-    return merge(old.block(at, {}), rule.block(at, phase.rule), phase.mask);
+    return ifThenElse(phase.mask, rule.block(at, phase.rule), old.block(at, {}));
   }
-  Bytes16 half(size_t at) const { return select(old.half(at), rule.half(at), load16(maskFrom(at))); }
+  Bytes16 half(size_t at) const { return ifThenElse(load16(maskFrom(at)), rule.half(at), old.half(at)); }
   size_t distance(const Byte* d, size_t bytes) const { return rule.distance(d, bytes); }
   KeepAlpha gathered(Room& room, size_t at, size_t bytes) const {
     return {rule.gathered(room.rule, at, bytes), old.gathered(room.old, at, bytes), start + at};

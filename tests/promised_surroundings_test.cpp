@@ -5,8 +5,8 @@
 // promised in vain.
 #include <gtest/gtest.h>
 
-#include "filter_border_calls.hpp"
-#include "resize_calls.hpp"
+#include "filters/filter_border_calls.hpp"
+#include "geometry/resize_calls.hpp"
 #include "support/fault.hpp"
 
 namespace test {

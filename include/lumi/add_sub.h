@@ -1,5 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-/* Generated from registry/add_sub.reg by tools/lumigen; edit that instead. */
+/* Generated from registry/arithmetic/add_sub.reg by tools/lumigen; edit that instead. */
 /** @file Addition and subtraction. */
 #ifndef LUMI_ADD_SUB_H
 #define LUMI_ADD_SUB_H

@@ -1,5 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-/* Generated from registry/bits.reg by tools/lumigen; edit that instead. */
+/* Generated from registry/data/bits.reg by tools/lumigen; edit that instead. */
 /** @file Bit images. */
 #ifndef LUMI_BITS_H
 #define LUMI_BITS_H

@@ -1,5 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-/* Generated from registry/border.reg by tools/lumigen; edit that instead. */
+/* Generated from registry/data/border.reg by tools/lumigen; edit that instead. */
 /** @file Border extension. */
 #ifndef LUMI_BORDER_H
 #define LUMI_BORDER_H

@@ -1,5 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-/* Generated from registry/convert.reg by tools/lumigen; edit that instead. */
+/* Generated from registry/data/convert.reg by tools/lumigen; edit that instead. */
 /** @file Change of sample type. */
 #ifndef LUMI_CONVERT_H
 #define LUMI_CONVERT_H

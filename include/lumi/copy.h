@@ -1,5 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-/* Generated from registry/copy.reg by tools/lumigen; edit that instead. */
+/* Generated from registry/data/copy.reg by tools/lumigen; edit that instead. */
 /** @file Copy. */
 #ifndef LUMI_COPY_H
 #define LUMI_COPY_H

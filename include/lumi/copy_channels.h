@@ -1,5 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-/* Generated from registry/copy_channels.reg by tools/lumigen; edit that instead. */
+/* Generated from registry/data/copy_channels.reg by tools/lumigen; edit that instead. */
 /** @file Copy between layouts. */
 #ifndef LUMI_COPY_CHANNELS_H
 #define LUMI_COPY_CHANNELS_H

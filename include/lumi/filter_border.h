@@ -1,5 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-/* Generated from registry/filter_border.reg by tools/lumigen; edit that instead. */
+/* Generated from registry/filters/filter_border.reg by tools/lumigen; edit that instead. */
 /** @file Kernel filtering with border. */
 #ifndef LUMI_FILTER_BORDER_H
 #define LUMI_FILTER_BORDER_H

@@ -1,5 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-/* Generated from registry/image_memory.reg by tools/lumigen; edit that instead. */
+/* Generated from registry/frame/image_memory.reg by tools/lumigen; edit that instead. */
 /** @file Image memory. */
 #ifndef LUMI_IMAGE_MEMORY_H
 #define LUMI_IMAGE_MEMORY_H

@@ -1,5 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-/* Generated from registry/resize.reg by tools/lumigen; edit that instead. */
+/* Generated from registry/geometry/resize.reg by tools/lumigen; edit that instead. */
 /** @file Resize by nearest and linear interpolation. */
 #ifndef LUMI_RESIZE_H
 #define LUMI_RESIZE_H

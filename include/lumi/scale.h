@@ -1,5 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-/* Generated from registry/scale.reg by tools/lumigen; edit that instead. */
+/* Generated from registry/data/scale.reg by tools/lumigen; edit that instead. */
 /** @file Scale between sample types. */
 #ifndef LUMI_SCALE_H
 #define LUMI_SCALE_H

@@ -1,5 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-/* Generated from registry/set.reg by tools/lumigen; edit that instead. */
+/* Generated from registry/data/set.reg by tools/lumigen; edit that instead. */
 /** @file Fill with a value. */
 #ifndef LUMI_SET_H
 #define LUMI_SET_H

@@ -1,5 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-/* Generated from registry/version.reg by tools/lumigen; edit that instead. */
+/* Generated from registry/frame/version.reg by tools/lumigen; edit that instead. */
 /** @file Version. */
 #ifndef LUMI_VERSION_H
 #define LUMI_VERSION_H

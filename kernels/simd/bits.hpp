@@ -37,7 +37,7 @@ auto thresholdOf(T x) {
 // anything. NaN is not above, nor is anything above it.
 template <typename T>
 Samples<T> notAbove(Samples<T> v, Samples<T> threshold) {
-  return isEqual(smaller(v, threshold), v);
+  return isEqual(min(v, threshold), v);
 }
 inline uint32_t notAbove8(const Byte* p, U8 threshold) {
   return topBits(notAbove(U8{_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))}, threshold).v);

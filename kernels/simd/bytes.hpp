@@ -32,7 +32,7 @@ inline Bytes16 dwordsOf(uint32_t a, uint32_t b, uint32_t c) {
 
 inline Bytes32 load32(const Byte* p) { return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p)); }
 // The same for values whose halves are used apart, which compilers would load apart: twice the loads.
-inline Bytes32 load32Whole(const Byte* p) {
+inline Bytes32 load32Once(const Byte* p) {
   Bytes32 v = load32(p);
   asm("" : "+x"(v));
   return v;
@@ -63,7 +63,7 @@ Bytes16 loadFew(const Byte* p) {
 }
 
 // A load for values that are used twice, which compilers would load twice.
-inline Bytes16 load16Whole(const Byte* p) {
+inline Bytes16 load16Once(const Byte* p) {
   Bytes16 v = load16(p);
   asm("" : "+x"(v));
   return v;
@@ -97,12 +97,12 @@ using Control = std::array<Byte, 16>;
 inline constexpr Byte kZero = 0x80;
 
 inline Bytes16 vectorOf(const Control& c) { return load16(c.data()); }
-inline Bytes16 shuffle(Bytes16 v, Bytes16 control) { return _mm_shuffle_epi8(v, control); }
+inline Bytes16 shuffleBytes(Bytes16 v, Bytes16 control) { return _mm_shuffle_epi8(v, control); }
 
-inline Bytes16 either(Bytes16 a, Bytes16 b) { return _mm_or_si128(a, b); }
-inline Bytes16 both(Bytes16 a, Bytes16 b) { return _mm_and_si128(a, b); }
-// One where the mask's top bit is set, else zero's sample.
-inline Bytes16 select(Bytes16 zero, Bytes16 one, Bytes16 mask) { return _mm_blendv_epi8(zero, one, mask); }
+inline Bytes16 bitOr(Bytes16 a, Bytes16 b) { return _mm_or_si128(a, b); }
+inline Bytes16 bitAnd(Bytes16 a, Bytes16 b) { return _mm_and_si128(a, b); }
+// By bytes: yes where the mask's top bit is set, else no.
+inline Bytes16 ifThenElse(Bytes16 mask, Bytes16 yes, Bytes16 no) { return _mm_blendv_epi8(no, yes, mask); }
 // 0xFF where the byte is zero, else 0.
 inline Bytes16 isZero(Bytes16 v) { return _mm_cmpeq_epi8(v, _mm_setzero_si128()); }
 // Whether the top bit of every byte is set.
@@ -113,10 +113,10 @@ inline bool allSet(Bytes16 v) { return _mm_movemask_epi8(v) == 0xFFFF; }
 inline Bytes32 asBytes(__m256 v) { return _mm256_castps_si256(v); }
 inline __m256 asFloats(Bytes32 v) { return _mm256_castsi256_ps(v); }
 
-// The bytes of b where mask is 0xFF, of a where it is 0.
-inline Bytes32 merge(Bytes32 a, Bytes32 b, Bytes32 mask) {
-  return asBytes(_mm256_or_ps(_mm256_andnot_ps(asFloats(mask), asFloats(a)),
-                              _mm256_and_ps(asFloats(mask), asFloats(b))));
+// By bytes: yes where the mask is 0xFF, no where it is 0.
+inline Bytes32 ifThenElse(Bytes32 mask, Bytes32 yes, Bytes32 no) {
+  return asBytes(_mm256_or_ps(_mm256_andnot_ps(asFloats(mask), asFloats(no)),
+                              _mm256_and_ps(asFloats(mask), asFloats(yes))));
 }
 
 inline Bytes32 joined(Bytes16 low, Bytes16 high) {
@@ -129,13 +129,14 @@ inline Bytes16 highHalf(Bytes32 v) { return _mm256_extractf128_si256(v, 1); }
 struct Halves32 {
   Bytes16 low, high;
 };
-inline Halves32 merge(Bytes32 a, Halves32 b, Bytes32 mask) {
-  return {select(lowHalf(a), b.low, lowHalf(mask)), select(highHalf(a), b.high, highHalf(mask))};
+inline Halves32 ifThenElse(Bytes32 mask, Halves32 yes, Bytes32 no) {
+  return {ifThenElse(lowHalf(mask), yes.low, lowHalf(no)),
+          ifThenElse(highHalf(mask), yes.high, highHalf(no))};
 }
 
 // A half of the first vector (0 low, 1 high), then a half of the second.
 template <int a, int b>
-inline Bytes32 halvesOf(Bytes32 first, Bytes32 second) {
+inline Bytes32 permuteHalves(Bytes32 first, Bytes32 second) {
   return _mm256_permute2f128_si256(first, second, a | (b + 2) << 4);
 }
 
@@ -152,21 +153,21 @@ inline Bytes16 permuteDwords(Bytes16 v) {
 
 // Dwords of a where the immediate's bit is 0, of b where it is 1.
 template <int which>
-inline Bytes32 mergeDwords(Bytes32 a, Bytes32 b) {
+inline Bytes32 blendDwords(Bytes32 a, Bytes32 b) {
   return asBytes(_mm256_blend_ps(asFloats(a), asFloats(b), which));
 }
 template <int which>
-inline Bytes16 mergeDwords(Bytes16 a, Bytes16 b) {
+inline Bytes16 blendDwords(Bytes16 a, Bytes16 b) {
   return _mm_castps_si128(_mm_blend_ps(_mm_castsi128_ps(a), _mm_castsi128_ps(b), which));
 }
 
 // The low or the high dwords of two vectors in turn.
-inline Bytes16 unpackLowDwords(Bytes16 a, Bytes16 b) { return _mm_unpacklo_epi32(a, b); }
-inline Bytes16 unpackHighDwords(Bytes16 a, Bytes16 b) { return _mm_unpackhi_epi32(a, b); }
+inline Bytes16 interleaveLowDwords(Bytes16 a, Bytes16 b) { return _mm_unpacklo_epi32(a, b); }
+inline Bytes16 interleaveHighDwords(Bytes16 a, Bytes16 b) { return _mm_unpackhi_epi32(a, b); }
 
 // Half `a` of the first vector (0 low, 1 high), then half `b` of the second.
 template <int a, int b>
-inline Bytes16 mergeHalves(Bytes16 first, Bytes16 second) {
+inline Bytes16 shuffleHalves(Bytes16 first, Bytes16 second) {
   return _mm_castpd_si128(_mm_shuffle_pd(_mm_castsi128_pd(first), _mm_castsi128_pd(second), a | b << 1));
 }
 
@@ -178,7 +179,7 @@ struct TwoDwords4x4 {
   Bytes32 row[4];
 };
 
-inline Dwords4x4 transposed(const Dwords4x4& m) {
+inline Dwords4x4 transpose(const Dwords4x4& m) {
   const Bytes16 low01 = _mm_unpacklo_epi32(m.row[0], m.row[1]),
                 low23 = _mm_unpacklo_epi32(m.row[2], m.row[3]),
                 high01 = _mm_unpackhi_epi32(m.row[0], m.row[1]),
@@ -187,7 +188,7 @@ inline Dwords4x4 transposed(const Dwords4x4& m) {
            _mm_unpacklo_epi64(high01, high23), _mm_unpackhi_epi64(high01, high23)}};
 }
 
-inline TwoDwords4x4 transposed(const TwoDwords4x4& m) {
+inline TwoDwords4x4 transpose(const TwoDwords4x4& m) {
   const auto low = [](Bytes32 a, Bytes32 b) {
     return _mm256_castps_pd(_mm256_unpacklo_ps(asFloats(a), asFloats(b)));
   };
@@ -223,9 +224,9 @@ struct Streaming {
 // of four pixels.
 template <typename Store>
 inline void storeThirds(Byte* dst, Bytes32 first, Bytes32 second, Bytes32 third) {
-  Store::store(dst, halvesOf<0, 0>(first, second));
-  Store::store(dst + 32, halvesOf<0, 1>(third, first));
-  Store::store(dst + 64, halvesOf<1, 1>(second, third));
+  Store::store(dst, permuteHalves<0, 0>(first, second));
+  Store::store(dst + 32, permuteHalves<0, 1>(third, first));
+  Store::store(dst + 64, permuteHalves<1, 1>(second, third));
 }
 
 }  // namespace lumi::simd

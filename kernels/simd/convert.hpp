@@ -8,7 +8,7 @@ namespace lumi::simd {
 
 // The first samples of a vector in a wider type W, one that holds them all.
 template <typename W, typename T>
-Samples<W> widened(Samples<T> x) {
+Samples<W> widen(Samples<T> x) {
   static_assert(sizeof(W) >= sizeof(T));
   if constexpr (sizeof(W) == sizeof(T)) {
     return {x.v};
@@ -24,15 +24,15 @@ Samples<W> widened(Samples<T> x) {
 }
 
 // The first or the last eight bytes as words.
-inline U16 widenedLow(U8 x) { return {_mm_unpacklo_epi8(x.v, _mm_setzero_si128())}; }
-inline U16 widenedHigh(U8 x) { return {_mm_unpackhi_epi8(x.v, _mm_setzero_si128())}; }
+inline U16 widenLow(U8 x) { return {_mm_unpacklo_epi8(x.v, _mm_setzero_si128())}; }
+inline U16 widenHigh(U8 x) { return {_mm_unpackhi_epi8(x.v, _mm_setzero_si128())}; }
 
 // As many T samples as a vector of W has, with every negative one made 0 if W is unsigned.
 template <typename T, typename W>
 Samples<W> loadAs(const Byte* p) {
   Samples<T> x{loadFew<sizeof(T) * 16 / sizeof(W)>(p)};
-  if constexpr (std::is_signed_v<T> && std::is_unsigned_v<W>) x = larger(x, broadcast<T>(0));
-  return widened<W>(x);
+  if constexpr (std::is_signed_v<T> && std::is_unsigned_v<W>) x = max(x, broadcast<T>(0));
+  return widen<W>(x);
 }
 
 // Two vectors at once.
@@ -42,60 +42,56 @@ struct TwoSamples {
 };
 template <typename T>
 TwoSamples<T> loadTwo(const Byte* p) {
-  const Bytes32 v = load32Whole(p);
+  const Bytes32 v = load32Once(p);
   return {{lowHalf(v)}, {highHalf(v)}};
 }
 
 // Limited to a type D of half the size.
 template <typename D>
-Samples<D> packed(S32 a, S32 b) {
+Samples<D> narrowSaturated(S32 a, S32 b) {
   static_assert(sizeof(D) == 2);
   return {std::is_signed_v<D> ? _mm_packs_epi32(a.v, b.v) : _mm_packus_epi32(a.v, b.v)};
 }
 template <typename D>
-Samples<D> packed(S16 a, S16 b) {
+Samples<D> narrowSaturated(S16 a, S16 b) {
   static_assert(sizeof(D) == 1);
   return {std::is_signed_v<D> ? _mm_packs_epi16(a.v, b.v) : _mm_packus_epi16(a.v, b.v)};
 }
 // The instructions take their operands as signed: what may have the top bit set is limited before.
 template <typename D, typename T>
-std::enable_if_t<std::is_unsigned_v<T>, Samples<D>> packed(Samples<T> a, Samples<T> b) {
+std::enable_if_t<std::is_unsigned_v<T>, Samples<D>> narrowSaturated(Samples<T> a, Samples<T> b) {
   const auto limited = [](Samples<T> x) {
-    return Samples<std::make_signed_t<T>>{smaller(x, broadcast<T>(std::numeric_limits<D>::max())).v};
+    return Samples<std::make_signed_t<T>>{min(x, broadcast<T>(std::numeric_limits<D>::max())).v};
   };
-  return packed<D>(limited(a), limited(b));
+  return narrowSaturated<D>(limited(a), limited(b));
 }
 
 // As many vectors of type W as make one of D, limited to D.
 template <typename D, typename W>
-Samples<D> narrowed(Samples<W> x) {
+Samples<D> narrowSaturated(Samples<W> x) {
   static_assert(sizeof(D) == sizeof(W));
   if constexpr (std::is_same_v<D, W>)
     return x;
   else if constexpr (std::is_unsigned_v<W>)
-    return {smaller(x, broadcast<W>(std::numeric_limits<D>::max())).v};
+    return {min(x, broadcast<W>(std::numeric_limits<D>::max())).v};
   else
-    return {larger(x, broadcast<W>(0)).v};
+    return {max(x, broadcast<W>(0)).v};
 }
 template <typename D, typename W>
-Samples<D> narrowed(Samples<W> a, Samples<W> b) {
-  return packed<D>(a, b);
-}
-template <typename D, typename W>
-Samples<D> narrowed(TwoSamples<W> x) {
-  return packed<D>(x.low, x.high);
+Samples<D> narrowSaturated(TwoSamples<W> x) {
+  return narrowSaturated<D>(x.low, x.high);
 }
 template <typename D>
-Samples<D> narrowed(S32 a, S32 b, S32 c, S32 d) {
-  return packed<D>(packed<int16_t>(a, b), packed<int16_t>(c, d));
+Samples<D> narrowSaturated(S32 a, S32 b, S32 c, S32 d) {
+  return narrowSaturated<D>(narrowSaturated<int16_t>(a, b), narrowSaturated<int16_t>(c, d));
 }
 template <typename D, typename W>
-Samples<D> narrowed(TwoSamples<W> a, TwoSamples<W> b) {
-  return narrowed<D>(a.low, a.high, b.low, b.high);
+Samples<D> narrowSaturated(TwoSamples<W> a, TwoSamples<W> b) {
+  return narrowSaturated<D>(a.low, a.high, b.low, b.high);
 }
 template <typename D>
-Samples<D> narrowed(U32 a, U32 b, U32 c, U32 d) {
-  return packed<D>(packed<int16_t>(a, b), packed<int16_t>(c, d));
+Samples<D> narrowSaturated(U32 a, U32 b, U32 c, U32 d) {
+  return narrowSaturated<D>(narrowSaturated<int16_t>(a, b), narrowSaturated<int16_t>(c, d));
 }
 
 // All ones where a is above b, both taken as signed.

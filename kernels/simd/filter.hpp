@@ -13,8 +13,8 @@ inline S16 upperHalf(S16 x) { return {_mm_unpackhi_epi64(x.v, x.v)}; }
 // The second four bytes, as the first.
 inline U8 upperDword(U8 x) { return {_mm_srli_epi64(x.v, 32)}; }
 
-inline S16 wordsLow(U8 x) { return {widenedLow(x).v}; }
-inline S16 wordsHigh(U8 x) { return {widenedHigh(x).v}; }
+inline S16 wordsLow(U8 x) { return {widenLow(x).v}; }
+inline S16 wordsHigh(U8 x) { return {widenHigh(x).v}; }
 
 inline void storeFloats(Byte* p, Floats8 x) { store32(p, bytesOf(x)); }
 inline void storeFloats(Byte* p, Floats4 x) { store16(p, bytesOf(x)); }

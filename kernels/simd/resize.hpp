@@ -8,9 +8,9 @@
 namespace lumi::simd {
 
 // (a * b) >> 16.
-inline S16 productHigh(S16 a, S16 b) { return {_mm_mulhi_epi16(a.v, b.v)}; }
+inline S16 multiplyHigh(S16 a, S16 b) { return {_mm_mulhi_epi16(a.v, b.v)}; }
 // (a * b + 2^14) >> 15.
-inline S16 productRounded(S16 a, S16 b) { return {_mm_mulhrs_epi16(a.v, b.v)}; }
+inline S16 multiplyHighRounded(S16 a, S16 b) { return {_mm_mulhrs_epi16(a.v, b.v)}; }
 
 // Dwords or quadwords from addresses of their own.
 inline Bytes16 gatherDwords(const Byte* a, const Byte* b, const Byte* c, const Byte* d) {
@@ -37,10 +37,10 @@ Bytes16 evenPixels(Bytes16 a, Bytes16 b) {
   static_assert(bytes == 1 || bytes == 2 || bytes == 4);
   if constexpr (bytes == 1) {
     const Bytes16 low = _mm_set1_epi16(0xFF);
-    return _mm_packus_epi16(both(a, low), both(b, low));
+    return _mm_packus_epi16(bitAnd(a, low), bitAnd(b, low));
   } else if constexpr (bytes == 2) {
     const Bytes16 low = _mm_set1_epi32(0xFFFF);
-    return _mm_packus_epi32(both(a, low), both(b, low));
+    return _mm_packus_epi32(bitAnd(a, low), bitAnd(b, low));
   } else {
     return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(a), _mm_castsi128_ps(b), 0x88));
   }
@@ -79,8 +79,8 @@ inline Doubles4 broadcastWide(double x) { return {_mm256_set1_pd(x)}; }
 inline Floats8 evens(Bytes32 a, Bytes32 b) { return {_mm256_shuffle_ps(asFloats(a), asFloats(b), 0x88)}; }
 inline Floats8 odds(Bytes32 a, Bytes32 b) { return {_mm256_shuffle_ps(asFloats(a), asFloats(b), 0xDD)}; }
 // Of the first or the last two floats of each half, those of a and b in turn.
-inline Bytes32 unpackedLow(Floats8 a, Floats8 b) { return asBytes(_mm256_unpacklo_ps(a.v, b.v)); }
-inline Bytes32 unpackedHigh(Floats8 a, Floats8 b) { return asBytes(_mm256_unpackhi_ps(a.v, b.v)); }
+inline Bytes32 interleaveLow(Floats8 a, Floats8 b) { return asBytes(_mm256_unpacklo_ps(a.v, b.v)); }
+inline Bytes32 interleaveHigh(Floats8 a, Floats8 b) { return asBytes(_mm256_unpackhi_ps(a.v, b.v)); }
 inline Doubles4 evenDoubles(Bytes32 a, Bytes32 b) {
   return {_mm256_unpacklo_pd(_mm256_castsi256_pd(a), _mm256_castsi256_pd(b))};
 }

@@ -41,11 +41,11 @@ Samples<T> broadcast(T x) {
 
 template <typename T>
 Samples<T> operator&(Samples<T> a, Samples<T> b) {
-  return {both(a.v, b.v)};
+  return {bitAnd(a.v, b.v)};
 }
 template <typename T>
 Samples<T> operator|(Samples<T> a, Samples<T> b) {
-  return {either(a.v, b.v)};
+  return {bitOr(a.v, b.v)};
 }
 template <typename T>
 Samples<T> operator^(Samples<T> a, Samples<T> b) {
@@ -53,7 +53,7 @@ Samples<T> operator^(Samples<T> a, Samples<T> b) {
 }
 // b without the bits of a.
 template <typename T>
-Samples<T> without(Samples<T> a, Samples<T> b) {
+Samples<T> andNot(Samples<T> a, Samples<T> b) {
   return {_mm_andnot_si128(a.v, b.v)};
 }
 
@@ -79,34 +79,34 @@ Samples<T> isEqual(Samples<T> a, Samples<T> b) {
   if constexpr (sizeof(T) == 4) return {_mm_cmpeq_epi32(a.v, b.v)};
 }
 
-inline U8 larger(U8 a, U8 b) { return {_mm_max_epu8(a.v, b.v)}; }
-inline S8 larger(S8 a, S8 b) { return {_mm_max_epi8(a.v, b.v)}; }
-inline U16 larger(U16 a, U16 b) { return {_mm_max_epu16(a.v, b.v)}; }
-inline S16 larger(S16 a, S16 b) { return {_mm_max_epi16(a.v, b.v)}; }
-inline U32 larger(U32 a, U32 b) { return {_mm_max_epu32(a.v, b.v)}; }
-inline S32 larger(S32 a, S32 b) { return {_mm_max_epi32(a.v, b.v)}; }
-inline U8 smaller(U8 a, U8 b) { return {_mm_min_epu8(a.v, b.v)}; }
-inline S8 smaller(S8 a, S8 b) { return {_mm_min_epi8(a.v, b.v)}; }
-inline U16 smaller(U16 a, U16 b) { return {_mm_min_epu16(a.v, b.v)}; }
-inline S16 smaller(S16 a, S16 b) { return {_mm_min_epi16(a.v, b.v)}; }
-inline U32 smaller(U32 a, U32 b) { return {_mm_min_epu32(a.v, b.v)}; }
-inline S32 smaller(S32 a, S32 b) { return {_mm_min_epi32(a.v, b.v)}; }
+inline U8 max(U8 a, U8 b) { return {_mm_max_epu8(a.v, b.v)}; }
+inline S8 max(S8 a, S8 b) { return {_mm_max_epi8(a.v, b.v)}; }
+inline U16 max(U16 a, U16 b) { return {_mm_max_epu16(a.v, b.v)}; }
+inline S16 max(S16 a, S16 b) { return {_mm_max_epi16(a.v, b.v)}; }
+inline U32 max(U32 a, U32 b) { return {_mm_max_epu32(a.v, b.v)}; }
+inline S32 max(S32 a, S32 b) { return {_mm_max_epi32(a.v, b.v)}; }
+inline U8 min(U8 a, U8 b) { return {_mm_min_epu8(a.v, b.v)}; }
+inline S8 min(S8 a, S8 b) { return {_mm_min_epi8(a.v, b.v)}; }
+inline U16 min(U16 a, U16 b) { return {_mm_min_epu16(a.v, b.v)}; }
+inline S16 min(S16 a, S16 b) { return {_mm_min_epi16(a.v, b.v)}; }
+inline U32 min(U32 a, U32 b) { return {_mm_min_epu32(a.v, b.v)}; }
+inline S32 min(S32 a, S32 b) { return {_mm_min_epi32(a.v, b.v)}; }
 
 // Products of words, added up in pairs of neighbours.
-inline S32 pairSums(S16 a, S16 b) { return {_mm_madd_epi16(a.v, b.v)}; }
+inline S32 multiplyAddPairs(S16 a, S16 b) { return {_mm_madd_epi16(a.v, b.v)}; }
 
 // Products of unsigned and signed bytes, added up in pairs of neighbours, limited to words.
-inline S16 pairSums(U8 a, S8 b) { return {_mm_maddubs_epi16(a.v, b.v)}; }
+inline S16 multiplyAddPairs(U8 a, S8 b) { return {_mm_maddubs_epi16(a.v, b.v)}; }
 
 // The first, or the last, halves of two vectors, sample by sample in turn.
 template <typename T>
-Samples<T> interleavedLow(Samples<T> a, Samples<T> b) {
+Samples<T> interleaveLow(Samples<T> a, Samples<T> b) {
   if constexpr (sizeof(T) == 1) return {_mm_unpacklo_epi8(a.v, b.v)};
   if constexpr (sizeof(T) == 2) return {_mm_unpacklo_epi16(a.v, b.v)};
   if constexpr (sizeof(T) == 4) return {_mm_unpacklo_epi32(a.v, b.v)};
 }
 template <typename T>
-Samples<T> interleavedHigh(Samples<T> a, Samples<T> b) {
+Samples<T> interleaveHigh(Samples<T> a, Samples<T> b) {
   if constexpr (sizeof(T) == 1) return {_mm_unpackhi_epi8(a.v, b.v)};
   if constexpr (sizeof(T) == 2) return {_mm_unpackhi_epi16(a.v, b.v)};
   if constexpr (sizeof(T) == 4) return {_mm_unpackhi_epi32(a.v, b.v)};
@@ -114,13 +114,13 @@ Samples<T> interleavedHigh(Samples<T> a, Samples<T> b) {
 
 template <typename T>
 Samples<T> isAtLeast(Samples<T> a, Samples<T> b) {
-  return isEqual(larger(a, b), a);
+  return isEqual(max(a, b), a);
 }
 
-// The second where the mask is all ones, else the first.
+// By samples: yes where the mask is all ones, no where it is zero.
 template <typename T>
-Samples<T> select(Samples<T> zero, Samples<T> one, Samples<T> mask) {
-  return {select(zero.v, one.v, mask.v)};
+Samples<T> ifThenElse(Samples<T> mask, Samples<T> yes, Samples<T> no) {
+  return {ifThenElse(mask.v, yes.v, no.v)};
 }
 
 // A count of bits to shift by, as the instructions take it.
@@ -156,29 +156,29 @@ inline U8 averageUp(U8 a, U8 b) { return {_mm_avg_epu8(a.v, b.v)}; }
 inline U16 averageUp(U16 a, U16 b) { return {_mm_avg_epu16(a.v, b.v)}; }
 
 // Limited to the type.
-inline U8 addSat(U8 a, U8 b) { return {_mm_adds_epu8(a.v, b.v)}; }
-inline U16 addSat(U16 a, U16 b) { return {_mm_adds_epu16(a.v, b.v)}; }
-inline S16 addSat(S16 a, S16 b) { return {_mm_adds_epi16(a.v, b.v)}; }
-inline U8 subSat(U8 a, U8 b) { return {_mm_subs_epu8(a.v, b.v)}; }
-inline U16 subSat(U16 a, U16 b) { return {_mm_subs_epu16(a.v, b.v)}; }
-inline S16 subSat(S16 a, S16 b) { return {_mm_subs_epi16(a.v, b.v)}; }
+inline U8 addSaturated(U8 a, U8 b) { return {_mm_adds_epu8(a.v, b.v)}; }
+inline U16 addSaturated(U16 a, U16 b) { return {_mm_adds_epu16(a.v, b.v)}; }
+inline S16 addSaturated(S16 a, S16 b) { return {_mm_adds_epi16(a.v, b.v)}; }
+inline U8 subSaturated(U8 a, U8 b) { return {_mm_subs_epu8(a.v, b.v)}; }
+inline U16 subSaturated(U16 a, U16 b) { return {_mm_subs_epu16(a.v, b.v)}; }
+inline S16 subSaturated(S16 a, S16 b) { return {_mm_subs_epi16(a.v, b.v)}; }
 
-// The second where the mask's sign is set.
-inline S32 selectBySign(S32 zero, S32 one, S32 mask) {
+// yes where the mask is negative, else no.
+inline S32 ifNegativeThenElse(S32 mask, S32 yes, S32 no) {
   return {_mm_castps_si128(
-      _mm_blendv_ps(_mm_castsi128_ps(zero.v), _mm_castsi128_ps(one.v), _mm_castsi128_ps(mask.v)))};
+      _mm_blendv_ps(_mm_castsi128_ps(no.v), _mm_castsi128_ps(yes.v), _mm_castsi128_ps(mask.v)))};
 }
 // The limit on the side of a: 2^31 - 1 where it is not negative, -2^31 where it is.
 inline S32 limitBySign(S32 a) { return shiftRight<31>(a) ^ broadcast(INT32_MAX); }
 // A sum has left the type where its sign differs from that of both operands.
-inline S32 addSat(S32 a, S32 b) {
+inline S32 addSaturated(S32 a, S32 b) {
   const S32 sum = a + b;
-  return selectBySign(sum, limitBySign(a), without(a ^ b, sum ^ a));
+  return ifNegativeThenElse(andNot(a ^ b, sum ^ a), limitBySign(a), sum);
 }
 // A difference, where the operands' signs differ and its own differs from the first one's.
-inline S32 subSat(S32 a, S32 b) {
+inline S32 subSaturated(S32 a, S32 b) {
   const S32 difference = a - b;
-  return selectBySign(difference, limitBySign(a), (a ^ b) & (difference ^ a));
+  return ifNegativeThenElse((a ^ b) & (difference ^ a), limitBySign(a), difference);
 }
 
 inline Floats4 operator+(Floats4 a, Floats4 b) { return {_mm_add_ps(a.v, b.v)}; }

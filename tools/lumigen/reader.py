@@ -47,8 +47,8 @@ def read_file(path):
 
 
 def read_folder(folder):
-    """All families, by stem; a name exported twice is refused."""
-    families = [read_file(p) for p in sorted(pathlib.Path(folder).glob("*.reg"))]
+    """All families of all homes, by stem; a name exported twice is refused."""
+    families = sorted((read_file(p) for p in pathlib.Path(folder).glob("*/*.reg")), key=lambda f: f.stem)
     seen = {}
     for family in families:
         for op in family.operations:
@@ -108,9 +108,9 @@ class _Reader:
         if not match:
             self._fail('family takes a stem, a home and a "title"')
         stem, home, title = match.groups()
-        if self.family or stem != self.path.stem or home not in HOMES:
-            self._fail(f"family '{stem}' of '{home}': one a file, named like it, in one of {', '.join(HOMES)}")
-        self.family = Family(stem, home, title, self.path.name)
+        if self.family or stem != self.path.stem or home != self.path.parent.name or home not in HOMES:
+            self._fail(f"family '{stem}' of '{home}': one a file, named like it, in the folder of its home, one of {', '.join(HOMES)}")
+        self.family = Family(stem, home, title, f"{home}/{self.path.name}")
 
     def _on_op(self, rest):
         if not self.family:

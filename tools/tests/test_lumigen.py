@@ -15,7 +15,8 @@ HEAD = 'family probe data "Probe"\nop Probe\n  brief Tries something.\n'
 
 def read(text, name="probe"):
     with tempfile.TemporaryDirectory() as folder:
-        path = pathlib.Path(folder) / f"{name}.reg"
+        path = pathlib.Path(folder) / "data" / f"{name}.reg"
+        path.parent.mkdir()
         path.write_text(text, encoding="utf-8")
         return reader.read_file(path)
 
@@ -162,7 +163,9 @@ class Complaints(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             for stem in ("one", "two"):
                 text = HEAD.replace("probe", stem, 1) + "  args src\n  8u C1R bind x\n"
-                (pathlib.Path(folder) / f"{stem}.reg").write_text(text, encoding="utf-8")
+                path = pathlib.Path(folder) / "data" / f"{stem}.reg"
+                path.parent.mkdir(exist_ok=True)
+                path.write_text(text, encoding="utf-8")
             with self.assertRaisesRegex(reader.RegistryError, "two.reg:5: lumiProbe_8u_C1R stands already at one.reg:5"):
                 reader.read_folder(folder)
 

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "kernels/data/copy_channels.hpp"
+
+#include "kernels/simd/bytes.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace simd;
+
+template <int sampleBytes>
+constexpr size_t kBlock = 16 / sampleBytes;  // pixels
+
+// One sample a pixel into a channel: vector `index` of the pixels takes its bytes from the plane's vector.
+template <int sampleBytes, int channels>
+constexpr Control spreadControl(int index, bool all) {
+  Control c{};
+  for (int j = 0; j < 16; ++j) {
+    const int byte = index * 16 + j, pixel = byte / (sampleBytes * channels),
+              within = byte % (sampleBytes * channels);
+    c[j] =
+        all || within < sampleBytes ? static_cast<Byte>(pixel * sampleBytes + within % sampleBytes) : kZero;
+  }
+  return c;
+}
+
+template <int sampleBytes, int channels>
+constexpr auto spreadControls(bool all) {
+  std::array<Control, channels> controls{};
+  for (int i = 0; i < channels; ++i) controls[i] = spreadControl<sampleBytes, channels>(i, all);
+  return controls;
+}
+
+// 0xFF over every sample but the chosen one.
+template <int sampleBytes, int channels>
+constexpr auto otherChannels() {
+  auto masks = spreadControls<sampleBytes, channels>(false);
+  for (Control& m : masks)
+    for (Byte& b : m) b = b == kZero ? 0xFF : 0;
+  return masks;
+}
+
+// Sorts 12 bytes of colour into 16 with room for alpha, and back.
+template <int sampleBytes>
+constexpr Control widenControl(int start) {
+  Control c{};
+  for (int j = 0; j < 16; ++j) {
+    const int pixel = j / (4 * sampleBytes), within = j % (4 * sampleBytes);
+    c[j] = within < 3 * sampleBytes ? static_cast<Byte>(start + pixel * 3 * sampleBytes + within) : kZero;
+  }
+  return c;
+}
+
+template <int sampleBytes>
+constexpr Control narrowControl(int first) {
+  Control c{};
+  for (Byte& b : c) b = kZero;
+  for (int k = 0; k < 12; ++k)
+    c[(first + k) % 16] = static_cast<Byte>(k / (3 * sampleBytes) * 4 * sampleBytes + k % (3 * sampleBytes));
+  return c;
+}
+
+template <int sampleBytes>
+constexpr Control alphaMask() {
+  Control c{};
+  for (int j = 0; j < 16; ++j) c[j] = j % (4 * sampleBytes) < 3 * sampleBytes ? 0 : 0xFF;
+  return c;
+}
+
+// Eight pixels of 32-bit samples without their alpha. In each half, vector i is pixel i of four, turned to
+// where its samples stand in three vectors of four pixels.
+void narrowEight(const Byte* src, Byte* dst) {
+  const auto pixel = [&](int i) { return joined(load16(src + 16 * i), load16(src + 64 + 16 * i)); };
+  const Bytes32 a = pixel(0), b = permuteDwords<1, 2, 3, 0>(pixel(1)),
+                c = permuteDwords<2, 3, 0, 1>(pixel(2)), d = permuteDwords<3, 0, 1, 2>(pixel(3));
+  storeThirds<Cached>(dst, blendDwords<0b10001000>(a, b), blendDwords<0b11001100>(b, c),
+                      blendDwords<0b11101110>(c, d));
+}
+
+// Eight 32-bit samples into one channel of three. In each half the samples are turned so that each stands
+// where one of the three vectors of four pixels wants it; the halves then go to the vectors of memory.
+void spreadEight(const Byte* src, Byte* dst) {
+  const Bytes32 turned = permuteDwords<0, 3, 2, 1>(load32(src));
+  store32(dst, blendDwords<0b01001001>(load32(dst), permuteHalves<0, 0>(turned, turned)));
+  store32(dst + 32, blendDwords<0b10010010>(load32(dst + 32), turned));
+  store32(dst + 64, blendDwords<0b00100100>(load32(dst + 64), permuteHalves<1, 1>(turned, turned)));
+}
+
+}  // namespace
+
+template <int sampleBytes>
+void copyColourToAlphaRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
+  static constexpr Control control = widenControl<sampleBytes>(0), last = widenControl<sampleBytes>(4),
+                           alpha = alphaMask<sampleBytes>();
+  for (; pixels >= kBlock<sampleBytes>; pixels -= kBlock<sampleBytes>, src += 48, dst += 64)
+    for (int i = 0; i < 4; ++i) {
+      const Bytes16 colour = i < 3 ? shuffleBytes(load16(src + 12 * i), vectorOf(control))
+                                   : shuffleBytes(load16(src + 32), vectorOf(last));
+      store16(dst + 16 * i, bitOr(colour, bitAnd(load16(dst + 16 * i), vectorOf(alpha))));
+    }
+  for (; pixels; --pixels, src += 3 * sampleBytes, dst += 4 * sampleBytes) move<3 * sampleBytes>(dst, src);
+}
+
+template <int sampleBytes>
+void copyColourFromAlphaRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
+  if constexpr (sampleBytes == 4) {
+    for (; pixels >= 8; pixels -= 8, src += 128, dst += 96) narrowEight(src, dst);
+  } else {
+    static constexpr Control controls[] = {narrowControl<sampleBytes>(0), narrowControl<sampleBytes>(12),
+                                           narrowControl<sampleBytes>(8), narrowControl<sampleBytes>(4)};
+    for (; pixels >= kBlock<sampleBytes>; pixels -= kBlock<sampleBytes>, src += 64, dst += 48) {
+      const auto group = [&](int i) { return shuffleBytes(load16(src + 16 * i), vectorOf(controls[i])); };
+      const Bytes16 a = group(0), b = group(1), c = group(2), d = group(3);
+      store16(dst, blendDwords<0b1000>(a, b));
+      store16(dst + 16, blendDwords<0b1100>(b, c));
+      store16(dst + 32, blendDwords<0b1110>(c, d));
+    }
+  }
+  for (; pixels; --pixels, src += 4 * sampleBytes, dst += 3 * sampleBytes) move<3 * sampleBytes>(dst, src);
+}
+
+// A block ends with the last pixel's other channels, which lie outside the image when the chosen channel
+// is not the first: one pixel at least is left for the tail. Single dwords into four channels go one by
+// one: a vector holds too few of them to gain.
+template <int sampleBytes, int channels>
+void planeToChannelRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
+  if constexpr (sampleBytes == 4 && channels == 3) {
+    for (; pixels > 8; pixels -= 8, src += 32, dst += 96) spreadEight(src, dst);
+  } else if constexpr (sampleBytes < 4) {
+    static constexpr auto controls = spreadControls<sampleBytes, channels>(false);
+    static constexpr auto others = otherChannels<sampleBytes, channels>();
+    for (; pixels > kBlock<sampleBytes>; pixels -= kBlock<sampleBytes>, src += 16, dst += 16 * channels) {
+      const Bytes16 samples = load16(src);
+      for (int i = 0; i < channels; ++i)
+        store16(dst + 16 * i, bitOr(bitAnd(load16(dst + 16 * i), vectorOf(others[i])),
+                                    shuffleBytes(samples, vectorOf(controls[i]))));
+    }
+  }
+  for (; pixels; --pixels, src += sampleBytes, dst += sampleBytes * channels) move<sampleBytes>(dst, src);
+}
+
+template <int channels>
+void duplicateRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
+  static constexpr auto controls = spreadControls<1, channels>(true);
+  for (; pixels >= 16; pixels -= 16, src += 16, dst += 16 * channels) {
+    const Bytes16 samples = load16(src);
+    for (int i = 0; i < channels; ++i) store16(dst + 16 * i, shuffleBytes(samples, vectorOf(controls[i])));
+  }
+  for (; pixels; --pixels, ++src)
+    for (int c = 0; c < channels; ++c) *dst++ = *src;
+}
+
+#define LUMI_SAMPLES(sample)                                                    \
+  template void planeToChannelRow<sample, 3>(const uint8_t*, uint8_t*, size_t); \
+  template void planeToChannelRow<sample, 4>(const uint8_t*, uint8_t*, size_t); \
+  template void copyColourToAlphaRow<sample>(const uint8_t*, uint8_t*, size_t); \
+  template void copyColourFromAlphaRow<sample>(const uint8_t*, uint8_t*, size_t);
+LUMI_SAMPLES(1)
+LUMI_SAMPLES(2)
+LUMI_SAMPLES(4)
+template void duplicateRow<3>(const uint8_t*, uint8_t*, size_t);
+template void duplicateRow<4>(const uint8_t*, uint8_t*, size_t);
+
+}  // namespace lumi

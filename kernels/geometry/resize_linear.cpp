@@ -1,0 +1,331 @@
+// SPDX-License-Identifier: MIT
+// Linear interpolation of bytes. Products are taken in words, exactly:
+//
+//   columns  (a (2^14 - c) + b c + 2^7) >> 8 = 64 a + ((64 a - 64 b) (-2 c) + 2^14 >> 15)
+//   rows     (p (2^14 - c) + q c + 2^19) >> 20 = (p + ((p - q) (-4 c) >> 16) + 2^5) >> 6
+//
+// -2 c is a word even for c = 2^14; -4 c is up to c = 2^13. Beyond, the rows change places: with 2^14 - c for
+// c the formula stays true to the bit, since (q - p) 2^16 >> 16 is q - p.
+#include "kernels/geometry/resize_linear.hpp"
+
+#include <algorithm>
+
+#include "kernels/simd/pixels.hpp"
+#include "kernels/simd/resize.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace simd;
+
+constexpr int kQ14 = 1 << 14;
+constexpr size_t kLanes = 8, kStep = 16;
+
+// A block makes eight elements: of eight columns, or of two pixels.
+template <int channels>
+inline constexpr size_t kColumns = channels == 1 ? 8 : 2;
+// Elements that count: the last two of two 3-channel pixels are overwritten by the next block.
+template <int channels>
+inline constexpr size_t kUsed = kColumns<channels>* channels;
+
+// Where the eight columns' samples lie in one vector.
+struct WindowBlock {
+  int16_t weights[kLanes];  // -2 c
+  Control control;
+  int32_t offset;
+};
+// Where they are gathered.
+template <int channels>
+struct GatherBlock {
+  int16_t weights[kLanes];
+  int32_t offsets[kColumns<channels>];
+};
+
+// One or two rows, which share their columns' blocks.
+template <int n>
+using Sources = const Byte* const (&)[n];
+template <int n>
+struct Elements {
+  int16_t* const (&rows)[n];
+
+  void store(size_t k, size_t at, S16 v) const { store16(reinterpret_cast<Byte*>(rows[k] + at), v.v); }
+};
+
+template <typename Block>
+void put(uint8_t* scratch, size_t i, const Block& block) {
+  move<sizeof block>(scratch + i * sizeof block, reinterpret_cast<const Byte*>(&block));
+}
+
+// -2 c; beyond the last column it is repeated.
+int weightOf(const TileColumns<uint8_t>& columns, size_t x) {
+  return -2 * columns.weights[2 * std::min(x, columns.count - 1) + 1];
+}
+
+// Of eight columns.
+Bytes16 weightsOf(const TileColumns<uint8_t>& columns, size_t x) {
+  const auto* const pairs = reinterpret_cast<const Byte*>(columns.weights + 2 * x);
+  const S16 c =
+      narrowSaturated<int16_t>(highWords<int16_t>(load16(pairs)), highWords<int16_t>(load16(pairs + 16)));
+  return (broadcast<int16_t>(0) - (c + c)).v;
+}
+
+template <int channels, typename Block>
+void setWeights(Block& block, const TileColumns<uint8_t>& columns, size_t x) {
+  auto* const weights = reinterpret_cast<Byte*>(block.weights);
+  if constexpr (channels != 1) {
+    constexpr Control kEach = channels == 3 ? Control{0, 1, 0, 1, 0, 1, 2, 3, 2, 3, 2, 3}
+                                            : Control{0, 1, 0, 1, 0, 1, 0, 1, 2, 3, 2, 3, 2, 3, 2, 3};
+    const auto pair = static_cast<uint32_t>(weightOf(columns, x) & 0xFFFF) |
+                      static_cast<uint32_t>(weightOf(columns, x + 1)) << 16;
+    store16(weights, shuffleBytes(dwordsOf(pair, 0, 0), vectorOf(kEach)));
+  } else if (x + kLanes <= columns.count) {
+    store16(weights, weightsOf(columns, x));
+  } else {
+    for (size_t lane = 0; lane < kLanes; ++lane)
+      block.weights[lane] = static_cast<int16_t>(weightOf(columns, x + lane));
+  }
+}
+
+// Blocks that reach beyond the last column repeat it.
+template <int channels>
+int32_t offsetOf(const TileColumns<uint8_t>& columns, size_t x) {
+  return (columns.index[std::min(x, columns.count - 1)] - columns.origin) * channels;
+}
+
+bool suitsWindows(const TileColumns<uint8_t>& columns) {
+  const auto reach = [&](size_t x, size_t last) {
+    return offsetOf<1>(columns, last) + 2 - offsetOf<1>(columns, x);
+  };
+  if (reach(0, columns.count) < static_cast<int32_t>(kStep)) return false;
+  for (size_t x = 0; x < columns.count; x += kLanes)
+    if (reach(x, x + kLanes - 1) > static_cast<int32_t>(kStep)) return false;
+  return true;
+}
+
+void makeWindows(const TileColumns<uint8_t>& columns, uint8_t* scratch) {
+  const int32_t last = offsetOf<1>(columns, columns.count) + 2 - static_cast<int32_t>(kStep);
+  for (size_t i = 0, x = 0; x < columns.count; ++i, x += kLanes) {
+    WindowBlock block;
+    setWeights<1>(block, columns, x);
+    block.offset = std::min(offsetOf<1>(columns, x), last);
+    int16_t at[kLanes];
+    for (size_t lane = 0; lane < kLanes; ++lane)
+      at[lane] = static_cast<int16_t>(0x0101 * (offsetOf<1>(columns, x + lane) - block.offset) + 0x0100);
+    move<sizeof at>(block.control.data(), reinterpret_cast<const Byte*>(at));
+    put(scratch, i, block);
+  }
+}
+
+template <int channels>
+void makeGathers(const TileColumns<uint8_t>& columns, uint8_t* scratch) {
+  for (size_t i = 0, x = 0; x < columns.count; ++i, x += kColumns<channels>) {
+    GatherBlock<channels> block;
+    setWeights<channels>(block, columns, x);
+    for (size_t k = 0; k < kColumns<channels>; ++k) block.offsets[k] = offsetOf<channels>(columns, x + k);
+    put(scratch, i, block);
+  }
+}
+
+// Pairs of a sample and its right neighbour to elements.
+S16 blendPairs(Bytes16 pairs, const uint8_t* weights) {
+  const S8 difference{broadcast<int16_t>(static_cast<int16_t>(0xC040)).v};  // 64, -64
+  const S16 first = multiplyAddPairs(U8{pairs}, S8{broadcast<int16_t>(64).v});
+  return first + multiplyHighRounded(multiplyAddPairs(U8{pairs}, difference), {load16(weights)});
+}
+
+template <int n>
+void blendWindows(Sources<n> src, Elements<n> rows, const uint8_t* blocks, size_t count) {
+  for (size_t i = 0; i < count; ++i, blocks += sizeof(WindowBlock)) {
+    int32_t offset = 0;
+    move<4>(reinterpret_cast<Byte*>(&offset), blocks + offsetof(WindowBlock, offset));
+    const Bytes16 control = load16(blocks + offsetof(WindowBlock, control));
+    for (size_t k = 0; k < n; ++k)
+      rows.store(k, i * kLanes, blendPairs(shuffleBytes(load16(src[k] + offset), control), blocks));
+  }
+}
+
+// Pixels and their right neighbours as pairs of samples.
+template <int channels>
+Bytes16 gathered(const Byte* src, const int32_t* offsets) {
+  if constexpr (channels == 1) {
+    Bytes16 v = _mm_setzero_si128();
+    v = insertWord<0>(v, src + offsets[0]);
+    v = insertWord<1>(v, src + offsets[1]);
+    v = insertWord<2>(v, src + offsets[2]);
+    v = insertWord<3>(v, src + offsets[3]);
+    v = insertWord<4>(v, src + offsets[4]);
+    v = insertWord<5>(v, src + offsets[5]);
+    v = insertWord<6>(v, src + offsets[6]);
+    return insertWord<7>(v, src + offsets[7]);
+  } else {
+    constexpr Control kPairs = channels == 3 ? Control{0, 3, 1, 4, 2, 5, 8, 11, 9, 12, 10, 13, 6, 6, 6, 6}
+                                             : Control{0, 4, 1, 5, 2, 6, 3, 7, 8, 12, 9, 13, 10, 14, 11, 15};
+    return shuffleBytes(gatherQuadwords(src + offsets[0], src + offsets[1]), vectorOf(kPairs));
+  }
+}
+
+template <int channels, int n>
+void blendGathers(Sources<n> src, Elements<n> rows, const uint8_t* blocks, size_t first, size_t end) {
+  using Block = GatherBlock<channels>;
+  for (size_t i = first; i < end; ++i) {
+    const uint8_t* const block = blocks + i * sizeof(Block);
+    int32_t offsets[kColumns<channels>];
+    move<sizeof offsets>(reinterpret_cast<Byte*>(offsets), block + offsetof(Block, offsets));
+    for (size_t k = 0; k < n; ++k)
+      rows.store(k, i * kUsed<channels>, blendPairs(gathered<channels>(src[k], offsets), block));
+  }
+}
+
+// The last 3-channel pixels end less than eight bytes after their start: each is copied apart.
+template <int n>
+void blendLast(Sources<n> src, Elements<n> rows, const uint8_t* blocks, size_t first, size_t end) {
+  using Block = GatherBlock<3>;
+  for (size_t i = first; i < end; ++i) {
+    const uint8_t* const block = blocks + i * sizeof(Block);
+    int32_t offsets[2];
+    move<sizeof offsets>(reinterpret_cast<Byte*>(offsets), block + offsetof(Block, offsets));
+    for (size_t k = 0; k < n; ++k) {
+      Byte pixels[16] = {};
+      move<6>(pixels, src[k] + offsets[0]);
+      move<6>(pixels + 8, src[k] + offsets[1]);
+      constexpr int32_t kCopied[2] = {0, 8};
+      rows.store(k, i * kUsed<3>, blendPairs(gathered<3>(pixels, kCopied), block));
+    }
+  }
+}
+
+// Sixteen samples of the destination from two rows of Q6.
+Bytes16 blendQ6(const int16_t* nearer, const int16_t* farther, S16 weight) {
+  const auto half = [&](size_t at) -> S16 {
+    const S16 p{load16(reinterpret_cast<const Byte*>(nearer + at))};
+    const S16 q{load16(reinterpret_cast<const Byte*>(farther + at))};
+    return multiplyHighRounded(p + multiplyHigh(p - q, weight), broadcast<int16_t>(512));  // (x + 32) >> 6
+  };
+  return narrowSaturated<uint8_t>(half(0), half(kLanes)).v;
+}
+
+// Both stages at once. The sums have 14 fraction bits; an odd integer part rounds up from a unit below its
+// half.
+int roundedQ14(int sum) { return (sum + (sum >> 14 & 1) + (1 << 13)) >> 14; }
+S32 roundedQ14(S32 sum) {
+  return shiftRight<14>(sum + (shiftRight<14>(sum) & broadcast(1)) + broadcast(1 << 13));
+}
+
+// Of four pairs of samples.
+uint32_t blendQ14(Bytes16 pairs, Bytes16 weights) {
+  const S32 sum = multiplyAddPairs(S16{widen<uint16_t>(U8{pairs}).v}, S16{weights});
+  const S16 words = narrowSaturated<int16_t>(roundedQ14(sum), broadcast(0));
+  return firstDword(narrowSaturated<uint8_t>(words, words).v);
+}
+
+// Of two pixels; c is the second one's weight.
+template <int channels>
+uint32_t blendPixels(const Byte* first, const Byte* second, int c) {
+  if constexpr (channels == 1) return static_cast<uint32_t>(roundedQ14(*first * (kQ14 - c) + *second * c));
+  const U8 a{dwordsOf(loadDword<channels>(first), 0, 0)}, b{dwordsOf(loadDword<channels>(second), 0, 0)};
+  return blendQ14(interleaveLow(a, b).v, broadcast(kQ14 - c + (c << 16)).v);
+}
+
+template <int channels>
+void storePixel(Byte* dst, uint32_t pixel) {
+  move<channels>(dst, reinterpret_cast<const Byte*>(&pixel));
+}
+
+}  // namespace
+
+template <int channels>
+ColumnBlender<uint8_t, channels>::ColumnBlender(const TileColumns<uint8_t>& columns, uint8_t* scratch)
+    : blocks_(scratch),
+      blockCount_((columns.count + kColumns<channels> - 1) / kColumns<channels>),
+      wholeLoads_(blockCount_) {
+  if (channels == 1 && suitsWindows(columns)) {
+    makeWindows(columns, scratch);
+    return;
+  }
+  makeGathers<channels>(columns, scratch);
+  if (channels == 1) wholeLoads_ = 0;
+  if (channels == 3) {
+    const int32_t* const end = columns.index + columns.count;
+    const int32_t last = end[-1];
+    const auto beforeLast = static_cast<size_t>(std::lower_bound(columns.index, end, last) - columns.index);
+    wholeLoads_ = beforeLast / kColumns<channels>;
+  }
+}
+
+template <int channels>
+template <int n>
+void ColumnBlender<uint8_t, channels>::blendEach(const uint8_t* const (&src)[n],
+                                                 int16_t* const (&rows)[n]) const {
+  if constexpr (channels == 1) {
+    if (wholeLoads_ != 0)
+      blendWindows<n>(src, {rows}, blocks_, blockCount_);
+    else
+      blendGathers<1, n>(src, {rows}, blocks_, 0, blockCount_);
+  } else {
+    blendGathers<channels, n>(src, {rows}, blocks_, 0, wholeLoads_);
+    if constexpr (channels == 3) blendLast<n>(src, {rows}, blocks_, wholeLoads_, blockCount_);
+  }
+}
+
+template <int channels>
+void ColumnBlender<uint8_t, channels>::blend(const uint8_t* src, int16_t* row) const {
+  blendEach<1>({src}, {row});
+}
+template <int channels>
+void ColumnBlender<uint8_t, channels>::blendTwo(const uint8_t* first, int16_t* upper, const uint8_t* second,
+                                                int16_t* lower) const {
+  blendEach<2>({first, second}, {upper, lower});
+}
+
+template <int channels>
+void ColumnBlender<uint8_t, channels>::blendOnce(const uint8_t* src, const TileColumns<uint8_t>& columns,
+                                                 uint8_t* dst) {
+  size_t x = 0;
+  if constexpr (channels == 1) {
+    for (; x + 4 <= columns.count; x += 4) {
+      Bytes16 pairs = dwordsOf(0, 0, 0);
+      pairs = insertWord<0>(pairs, src + offsetOf<1>(columns, x));
+      pairs = insertWord<1>(pairs, src + offsetOf<1>(columns, x + 1));
+      pairs = insertWord<2>(pairs, src + offsetOf<1>(columns, x + 2));
+      pairs = insertWord<3>(pairs, src + offsetOf<1>(columns, x + 3));
+      const auto* const weights = reinterpret_cast<const Byte*>(columns.weights + 2 * x);
+      storePixel<4>(dst + x, blendQ14(pairs, load16(weights)));
+    }
+  }
+  for (; x < columns.count; ++x) {
+    const Byte* const pixel = src + offsetOf<channels>(columns, x);
+    storePixel<channels>(dst + x * channels,
+                         blendPixels<channels>(pixel, pixel + channels, columns.weights[2 * x + 1]));
+  }
+}
+
+template <int channels>
+void ColumnBlender<uint8_t, channels>::repeatBlend(const uint8_t* first, const uint8_t* second, uint16_t c,
+                                                   uint8_t* dst, size_t count) {
+  const uint32_t pixel = blendPixels<channels>(first, second, c);
+  storePixel<channels>(dst, pixel);
+  for (size_t i = 1; i < count; ++i) storePixel<channels>(dst + i * channels, pixel);
+}
+
+template class ColumnBlender<uint8_t, 1>;
+template class ColumnBlender<uint8_t, 3>;
+template class ColumnBlender<uint8_t, 4>;
+
+template <>
+void blendRows<uint8_t>(const int16_t* first, const int16_t* second, uint16_t c, uint8_t* dst,
+                        size_t samples) {
+  const bool nearsSecond = c > kQ14 / 2;
+  const int16_t *const nearer = nearsSecond ? second : first, *const farther = nearsSecond ? first : second;
+  const S16 weight = broadcast(static_cast<int16_t>(-4 * (nearsSecond ? kQ14 - c : c)));
+  const auto blockAt = [=](size_t i) { return blendQ6(nearer + i, farther + i, weight); };
+  if (samples >= kStep) {
+    for (size_t i = 0; i + kStep <= samples; i += kStep) store16(dst + i, blockAt(i));
+    store16(dst + samples - kStep, blockAt(samples - kStep));
+  } else {
+    Byte all[kStep];
+    store16(all, blockAt(0));
+    std::memcpy(dst, all, samples);
+  }
+}
+
+}  // namespace lumi

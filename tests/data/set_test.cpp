@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+// Fill with a value, against the model.
+#include "model/data/set.hpp"
+
+#include "support/member.hpp"
+
+namespace test {
+namespace {
+
+const bool added = addModelTests(membersOf("Set", [](Member& m, auto, auto dst) {
+  using T = decltype(dst);
+  const model::Channels channels = m.channels;
+  if (m.masked)
+    m.model = [=](const Call& c) {
+      model::setMasked<T>(c.values, c.dstImage(), c.roi, c.maskImage(), channels);
+    };
+  else
+    m.model = [=](const Call& c) { model::set<T>(c.values, c.dstImage(), c.roi, channels); };
+}));
+
+}  // namespace
+}  // namespace test
