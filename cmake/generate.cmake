@@ -5,11 +5,11 @@ set(LUMI_GENERATED ${PROJECT_BINARY_DIR}/generated)
 file(GLOB LUMI_REGISTRY CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/registry/*/*.reg)
 file(GLOB LUMI_GENERATOR CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tools/lumigen/*.py)
 set(LUMI_GENERATED_FILES
-  ${LUMI_GENERATED}/entry_stubs.S ${LUMI_GENERATED}/exports.map ${LUMI_GENERATED}/fault_rows.inc
+  ${LUMI_GENERATED}/entry_stubs.S ${LUMI_GENERATED}/exports.map ${LUMI_GENERATED}/export_table.inc
   ${LUMI_GENERATED}/structure.txt ${LUMI_GENERATED}/lumi.json)
 foreach(file ${LUMI_REGISTRY})
   cmake_path(GET file STEM stem)
-  list(APPEND LUMI_GENERATED_FILES ${LUMI_GENERATED}/bind/${stem}.inc)
+  list(APPEND LUMI_GENERATED_FILES ${LUMI_GENERATED}/bind/${stem}.inc ${LUMI_GENERATED}/dispatch/${stem}.hpp)
 endforeach()
 add_custom_command(
   OUTPUT ${LUMI_GENERATED}/stamp

@@ -4,10 +4,9 @@
 import json
 import re
 
-from . import grammar
+from . import dispatch, grammar, reader, test_rows
+from .names import GENERATED, GENERATED_ALL, all_exports, implementation, prototype
 
-GENERATED = "Generated from registry/{} by tools/lumigen; edit that instead."
-GENERATED_ALL = "Generated from the registry by tools/lumigen; edit that instead."
 CHECK_TEXT = {
     "null": "lumStatusNullPointer (-8)  a pointer is null, plane pointers included",
     "size": "lumStatusBadSize (-6)      roi.width or roi.height is below 1",
@@ -15,23 +14,9 @@ CHECK_TEXT = {
     "step": "lumStatusBadStep (-14)     a step is below 1",
     "offset": "lumStatusBadSize (-6)      a bit offset is negative",
     "range": "lumStatusBadDataRange (-13) upper is not above lower",
-    "frame": "lumStatusBadSize (-6)      top or left is negative, or dstRoi does not hold srcRoi at that place",
+    "inside": "lumStatusBadSize (-6)      top or left is negative, or dstRoi does not hold srcRoi at that place",
     "value": "lumStatusNullPointer (-8)  value is null",
 }
-
-
-def all_exports(families):
-    """Every export, in the order of the names: the order of the entry table."""
-    return sorted((e for f in families for op in f.operations for e in op.exports), key=lambda e: e.name)
-
-
-def implementation(export):
-    return f"impl_{export.sample or export.name}"
-
-
-def prototype(export, name=None):
-    args = ", ".join(a.decl for a in export.args) or "void"
-    return f"{export.returns} {name or export.name}({args})"
 
 
 def _wrap_prototype(text, width=110):
@@ -64,6 +49,13 @@ def _members(exports):
 
 def _check_text(word, export):
     """What a check finds; the words differ where arguments do."""
+    name, _, status = word.partition(":")
+    found = [r for a in export.args if a.name == name for r in a.refused if r.by not in CHECK_TEXT]
+    if found:
+        status = status or found[0].by
+        abouts = dict.fromkeys(r.about for r in found if r.by == status and r.about)
+        code = f"lumStatus{status} ({reader.statuses()[status]})"
+        return f"{code:<26} {'; '.join(abouts) or name + ' is refused'}"
     text = CHECK_TEXT[word]
     if word == "null" and "value" in export.check:
         text = text.replace("a pointer is null, plane pointers included", "an image's pointer is null")
@@ -202,32 +194,6 @@ def entry_stubs(families):
     return "\n".join(out) + "\n"
 
 
-_KIND = {"image": "Image", "planes": "Planes", "values": "Values", "value": "Value", "step": "Step",
-         "size": "Size", "number": "Number",
-         "offset": "Offset", "lower": "Lower", "upper": "Upper", "pointer": "Pointer", "optional": "Optional"}
-
-
-def fault_rows(families):
-    """A row for each export that returns a status: what the tests know of it."""
-    lines = ["// " + GENERATED_ALL]
-    for export in all_exports(families):
-        if export.returns != "LumStatus":
-            continue
-        args = ", ".join(_fault_arg(a) for a in export.args)
-        checks = ", ".join(f"Check::{c.capitalize()}" for c in export.check)
-        types, layouts = (", ".join(f'"{x}"' for x in names) for names in (export.types, export.layouts))
-        lines.append(f'{{"{export.name}", "{export.op.name}", {{{types}}}, {{{layouts}}}, '
-                     f'invoker(&{export.name}), {{{args}}}, {{{checks}}}}},')
-    return "\n".join(lines) + "\n"
-
-
-def _fault_arg(arg):
-    extra = {"planes": arg.count, "values": arg.count, "number": arg.base, "upper": 255}.get(arg.kind, 0)
-    refused = ", ".join("{Check::%s, {%s}}" % (arg.refused_by.capitalize(), ", ".join(map(str, (value + (0,))[:2])))
-                        for value in arg.refused)
-    return f'{{Kind::{_KIND[arg.kind]}, "{arg.name}", {extra}, {{{refused}}}}}'
-
-
 def structure_rows(families):
     """Name and implementation of each export, in table order, for the tests of the built library."""
     return "".join(f"{e.name} {implementation(e)}\n" for e in all_exports(families))
@@ -253,7 +219,8 @@ def build_files(families):
     files = {f"bind/{f.stem}.inc": bindings(f) for f in families}
     files["exports.map"] = version_script(families)
     files["entry_stubs.S"] = entry_stubs(families)
-    files["fault_rows.inc"] = fault_rows(families)
+    files["export_table.inc"] = test_rows.export_table(families)
+    files.update({f"dispatch/{f.stem}.hpp": dispatch.header(f) for f in families})
     files["structure.txt"] = structure_rows(families)
     files["lumi.json"] = description(families)
     return files

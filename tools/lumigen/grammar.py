@@ -7,7 +7,8 @@ from dataclasses import dataclass, field
 SAMPLE_TYPES = {
     "1u": "Lum8u", "8u": "Lum8u", "8s": "Lum8s", "16u": "Lum16u", "16s": "Lum16s",
     "32u": "Lum32u", "32s": "Lum32s", "32f": "Lum32f", "64s": "Lum64s", "64f": "Lum64f",
-    "16sc": "Lum16sc", "32sc": "Lum32sc", "32fc": "Lum32fc", "64fc": "Lum64fc",
+    "16uc": "Lum16uc", "16sc": "Lum16sc", "32sc": "Lum32sc", "32fc": "Lum32fc", "64fc": "Lum64fc",
+    "24u": "Lum8u",  # three bytes a sample
 }
 # Samples a constant or a per-channel result has; layouts absent here are planar.
 CHANNELS = {"C1": 1, "C2": 2, "C3": 3, "C4": 4, "AC4": 3, "AC1": 1, "C3C": 1, "C4C": 1}
@@ -19,6 +20,16 @@ _TYPE = r"\d+(?:uc|sc|fc|u|s|f)"
 _TYPES = re.compile(rf"({_TYPE})({_TYPE})?$")
 _LAYOUT = r"AC4|AC1|AP4|C3A0C4|C3C(?=R)|C4C(?=R)|C[1-4]|P[2-4]"
 _DESCRIPTOR = re.compile(rf"({_LAYOUT})({_LAYOUT})?(I)?(M)?(Rs?)?(Sfs)?$")
+_BARE = ("L2",)  # descriptors without a layout
+
+# How an argument is passed: by the type of its declaration, where that is no pointer.
+_CLASSES = {
+    "float": ("Lum32f",), "double": ("Lum64f",), "int64": ("Lum64s", "Lum64u"),
+    "pair": ("LumiSize", "LumiPoint", "Lum32sc"), "rect": ("LumiRect",), "halves": ("Lum16sc", "Lum16uc"),
+    "floats": ("Lum32fc",), "doubles": ("Lum64fc",),
+}
+# Numbers that a value of a type is written with.
+_ARITY = {"LumiSize": 2, "LumiPoint": 2, "LumiRect": 4}
 
 
 class GrammarError(ValueError):
@@ -29,16 +40,33 @@ class GrammarError(ValueError):
 class Arg:
     """One argument of a C prototype. `kind` says what the fault tests may do with it."""
 
-    kind: str      # image planes step offset size value values number lower upper pointer optional
+    kind: str      # image planes step offset size point rect value values results array number lower upper pointer optional
     name: str
     decl: str      # C declaration, name included
-    count: int = 0   # planes of an array of them, values of an array of those
-    base: str = "0"  # a valid value of a number
-    refused: tuple = ()   # values that the check refused_by finds, sizes as (width, height)
-    refused_by: str = ""
+    count: int = 0   # planes of an array of them, values of an array of those, results of all channels
+    base: tuple = ("0",)  # a valid value of a number, a size, a point or a rectangle
+    refused: tuple = ()   # Refused values
+    length: str = ""      # the argument that tells an array's length
+
+    @property
+    def passing(self):
+        """How the platform's convention sees it."""
+        declared = self.decl.removesuffix(self.name).strip()
+        if "*" in self.decl or "[" in self.decl:
+            return "pointer"
+        return next((c for c, types in _CLASSES.items() if declared in types), "int32")
 
 
 @dataclass(frozen=True)
+class Refused:
+    """A value of an argument, alone at fault, and what finds it: a word of `check`, or a status of its own."""
+
+    value: tuple
+    by: str
+    about: str = ""
+
+
+@dataclass
 class Param:
     """An argument that the grammar does not know, declared by its operation."""
 
@@ -46,9 +74,14 @@ class Param:
     ctype: str
     about: str
     optional: bool = False
-    base: str = "0"
-    refused: tuple = ()
-    refused_by: str = ""
+    each: bool = False   # one for each channel
+    length: str = ""
+    base: tuple = ()
+    refused: list = field(default_factory=list)
+
+    @property
+    def arity(self):
+        return _ARITY.get(self.ctype, 1)
 
 
 @dataclass
@@ -103,6 +136,8 @@ class Descriptor:
 
 
 def parse_descriptor(token):
+    if token in _BARE:
+        return Descriptor((), False, False, False, False)
     match = _DESCRIPTOR.match(token)
     if not match:
         raise GrammarError(f"'{token}' is no layout descriptor")
@@ -122,29 +157,43 @@ def _image(role, token, layout, writable):
     return [Arg("image", role, f"{const}{sample}* {role}")] + place
 
 
-def _value(sample, layout):
+def _channels(layout):
     count = CHANNELS.get(layout) or PLANES.get(layout)
     if not count:
-        raise GrammarError(f"'{layout}' does not tell how many values a constant has")
+        raise GrammarError(f"'{layout}' does not tell how many channels are worked on")
+    return count
+
+
+def _value(sample, layout):
+    count = _channels(layout)
     if count == 1:
         return [Arg("value", "value", f"{sample} value")]
     return [Arg("values", "value", f"const {sample} value[{count}]", count)]
 
 
-def _param(param, ctype):
-    refused = {"refused": param.refused, "refused_by": param.refused_by}
-    if ctype == "LumiSize":
-        return Arg("size", param.name, f"{ctype} {param.name}", **refused)
+_BASES = {"LumiSize": ("7", "3"), "LumiRect": ("0", "0", "7", "3")}
+
+
+def _param(param, ctype, descriptor):
+    decl = f"{ctype} {param.name}"
+    if param.each:
+        count = _channels(descriptor.layouts[0] if descriptor and descriptor.layouts else "")
+        decl = decl if count == 1 else f"{ctype.removesuffix('*')} {param.name}[{count}]"
+        return Arg("results", param.name, decl, count)
+    if param.length:
+        return Arg("array", param.name, decl, length=param.length)
     if "*" in ctype:
-        return Arg("optional" if param.optional else "pointer", param.name, f"{ctype} {param.name}")
-    return Arg("number", param.name, f"{ctype} {param.name}", base=param.base, **refused)
+        return Arg("optional" if param.optional else "pointer", param.name, decl)
+    kind = {"LumiSize": "size", "LumiPoint": "point", "LumiRect": "rect"}.get(ctype, "number")
+    base = param.base or _BASES.get(ctype, ("0",) * param.arity)
+    return Arg(kind, param.name, decl, base=base, refused=tuple(param.refused))
 
 
 def _grammar_args(role, types, descriptor):
     """The arguments of one role of the grammar; None for a role it does not know."""
     if role not in ROLES:
         return None
-    if not types or not descriptor:
+    if not types or not descriptor or not descriptor.layouts:
         raise GrammarError(f"'{role}' follows from a sample type and a descriptor, and the member lacks one")
     source_layout, dest_layout = descriptor.layouts[0], descriptor.layouts[-1]
     if role in ("src", "src1", "src2"):
@@ -177,7 +226,7 @@ def arguments(roles, params, types, descriptor):
     result = []
     for role in roles:
         if role in known:
-            result.append(_param(known[role], fill_types(known[role].ctype, types)))
+            result.append(_param(known[role], fill_types(known[role].ctype, types), descriptor))
             continue
         args = _grammar_args(role, types, descriptor)
         if args is None:

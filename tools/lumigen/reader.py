@@ -1,14 +1,16 @@
 # SPDX-License-Identifier: MIT
 """Reads registry/*.reg. Every complaint names file, line and reason."""
 
+import functools
 import pathlib
 import re
 from dataclasses import dataclass, field
 
 from . import grammar
-from .grammar import Export, GrammarError, Param
+from .grammar import Export, GrammarError, Param, Refused
 
-CHECKS = ("null", "size", "width", "step", "offset", "range", "frame", "value", "own")
+CHECKS = ("null", "size", "width", "step", "offset", "range", "inside", "value", "own")
+STATUS = re.compile(r"^  lumStatus(\w+) = (-?\d+)", re.M)
 HOMES = ("frame", "arithmetic", "data", "statistics", "filters", "geometry", "transforms", "analysis")
 
 
@@ -37,6 +39,18 @@ class Family:
     operations: list = field(default_factory=list)
 
 
+@functools.cache
+def statuses():
+    """The status values of the public header, by name."""
+    text = (pathlib.Path(__file__).resolve().parents[2] / "include/lumi/types.h").read_text(encoding="ascii")
+    return {name: int(value) for name, value in STATUS.findall(text)}
+
+
+def own_statuses(op):
+    """Params that refuse values by a status, which then are words of check."""
+    return {p.name for p in op.params for r in p.refused if r.by not in CHECKS}
+
+
 def split_outside_braces(text):
     """Words of a row; a brace may hold blanks."""
     return re.findall(r"(?:\{[^{}]*\}|[^\s{}])+|[{}]", text)
@@ -49,15 +63,24 @@ def read_file(path):
 def read_folder(folder):
     """All families of all homes, by stem; a name exported twice is refused."""
     families = sorted((read_file(p) for p in pathlib.Path(folder).glob("*/*.reg")), key=lambda f: f.stem)
+    planned = planned_names(folder)
     seen = {}
     for family in families:
         for op in family.operations:
             for export in op.exports:
+                path, line = export.line.rsplit(":", 1)
+                if planned and export.name not in planned:
+                    raise RegistryError(path, line, f"{export.name} is not among the planned names")
                 if export.name in seen:
-                    path, line = export.line.rsplit(":", 1)
                     raise RegistryError(path, line, f"{export.name} stands already at {seen[export.name]}")
                 seen[export.name] = export.line
     return families
+
+
+def planned_names(folder):
+    """Every name that the library is to export: a row for any other is a mistake. None where there is no list."""
+    path = pathlib.Path(folder) / "planned_names.txt"
+    return set(path.read_text(encoding="ascii").split()) if path.exists() else None
 
 
 class _Reader:
@@ -124,22 +147,41 @@ class _Reader:
         self._operation().brief = rest
 
     def _on_param(self, rest):
-        match = re.match(r"(\w+)\s+(.+?)(\s+optional)?(?:\s+=\s+(\S+))?(?:\s+refuses\s+(.+?)\s+by\s+(\w+))?"
-                         r"\s+:\s+(.+)$", rest)
+        match = re.match(r"(\w+)\s+(.+?)(\s+optional|\s+each|\s+of\s+\w+)?(?:\s+=\s+(.+?))?"
+                         r"(?:\s+refuses\s+(.+?)\s+by\s+(\w+))?\s+:\s+(.+)$", rest)
         if not match:
-            self._fail("param takes: name type [optional] [= valid value] [refuses values by check] : meaning")
-        name, ctype, optional, base, refused, by, about = match.groups()
-        values = tuple(self._refused(ctype, value) for value in (refused or "").split())
-        if by and by not in CHECKS:
-            self._fail(f"'{by}' is no check: {' '.join(CHECKS)}")
-        self._operation().params.append(Param(name, ctype, about, bool(optional), base or "0", values, by or ""))
+            self._fail("param takes: name type [optional | each | of length] [= valid value] [refuses values by check] "
+                       ": meaning")
+        name, ctype, how, base, refused, by, about = match.groups()
+        how = (how or "").split()
+        param = Param(name, ctype, about, how == ["optional"], how == ["each"], how[1] if len(how) == 2 else "")
+        param.base = tuple(map(str, self._values(param, base)[0])) if base else ()
+        self._operation().params.append(param)
+        if refused:
+            self._refuse(param, refused, by, "")
 
-    def _refused(self, ctype, value):
-        """`-1`, or `6x3` of a size."""
-        numbers = value.split("x")
-        if len(numbers) != (2 if ctype == "LumiSize" else 1) or any(not re.match(r"-?\d+$", n) for n in numbers):
-            self._fail(f"'{value}' is no value of {ctype}")
-        return tuple(int(n) for n in numbers)
+    def _on_refuses(self, rest):
+        """refuses mask 0 0 -1 3 by BadMaskSize : a side is below 1"""
+        match = re.match(r"(\w+)\s+(.+?)\s+by\s+(\w+)(?:\s+:\s+(.+))?$", rest)
+        if not match:
+            self._fail("refuses takes: param values by check-or-status [: meaning]")
+        name, values, by, about = match.groups()
+        param = next((p for p in reversed(self._operation().params) if p.name == name), None)
+        if not param or "*" in param.ctype:
+            self._fail(f"'{name}' is no param by value of this operation")
+        self._refuse(param, values, by, about or "")
+
+    def _refuse(self, param, values, by, about):
+        if by not in CHECKS and by not in statuses():
+            self._fail(f"'{by}' is neither a check nor a status: {' '.join(CHECKS)}")
+        param.refused += [Refused(value, by, about) for value in self._values(param, values)]
+
+    def _values(self, param, text):
+        """`-1 2`; of a size `6 3` or `6x3`, of a rectangle four numbers."""
+        numbers = re.sub(r"(?<=\d)x(?=-?\d)", " ", text).split()
+        if len(numbers) % param.arity or any(not re.match(r"-?\d+(\.\d+)?$", n) for n in numbers):
+            self._fail(f"'{text}' are no values of {param.ctype}")
+        return list(zip(*[iter(numbers)] * param.arity))
 
     def _on_args(self, rest):
         self._operation().args = rest.split()
@@ -185,17 +227,31 @@ class _Reader:
         if "check" in words:
             check = tuple(words[words.index("check") + 1:])
             words = words[: words.index("check")]
-            if not check or any(c not in CHECKS for c in check):
-                self._fail(f"check takes words of: {' '.join(CHECKS)}")
+            if not check:
+                self._fail("check takes words")
+            for word in check:
+                self._check_word(op, word)
         for group in self._members(words):
             owner = self._add(group[0], check, bind, "")
             for member in group[1:]:
                 self._add(member, check, bind, owner.name)
 
+    def _check_word(self, op, word):
+        """A general check, or a param that refuses values by a status of its own: `mask`, `mask:BadSize`."""
+        name, _, status = word.partition(":")
+        own = {r.by for p in op.params if p.name == name for r in p.refused} - set(CHECKS)
+        if name in own_statuses(op):
+            if status and status not in own:
+                self._fail(f"no value of '{name}' is refused by '{status}'")
+            if not status and len(own) > 1:
+                self._fail(f"'{name}' is refused by {' '.join(sorted(own))}: say {name}:status")
+        elif word not in CHECKS:
+            self._fail(f"check takes words of: {' '.join(CHECKS)}, and params that refuse values by a status")
+
     def _members(self, words):
         """Groups of (types, descriptor) pairs; each group is one implementation."""
-        if words == ["-"]:
-            return [[("", "")]]
+        if words[0] == "-":
+            return [[("", d)] for word in words[1:] for d in grammar.expand_braces(word)] or [[("", "")]]
         if "_" in words[0]:
             return [[self._named(m) for m in word.split("=")] for word in words]
         split = next((i for i, w in enumerate(words) if not grammar.is_types(w.split("=")[0])), len(words))

@@ -8,7 +8,7 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1]))
 
-from lumigen import emit, grammar, reader  # noqa: E402
+from lumigen import dispatch, emit, grammar, reader, test_rows  # noqa: E402
 
 HEAD = 'family probe data "Probe"\nop Probe\n  brief Tries something.\n'
 
@@ -109,14 +109,53 @@ class Rows(unittest.TestCase):
         self.assertIn("return probe<4>(flag, out);", emit.bindings(family))
 
     def test_refused_values(self):
-        family = read(HEAD + "  param whole LumiSize refuses 6x3 7x2 by frame : all of it\n"
-                      "  param top int = 2 refuses -1 2147483647 by frame : rows above\n"
-                      "  args whole top\n  8u C1R check size frame bind probe\n")
+        family = read(HEAD + "  param whole LumiSize refuses 6x3 7x2 by inside : all of it\n"
+                      "  param top int = 2 refuses -1 2147483647 by inside : rows above\n"
+                      "  args whole top\n  8u C1R check size inside bind probe\n")
         whole, top = family.operations[0].exports[0].args
-        self.assertEqual((whole.kind, whole.refused, whole.refused_by), ("size", ((6, 3), (7, 2)), "frame"))
-        self.assertEqual((top.kind, top.base, top.refused), ("number", "2", ((-1,), (2147483647,))))
-        self.assertIn('{Kind::Number, "top", 2, {{Check::Frame, {-1, 0}}, {Check::Frame, {2147483647, 0}}}}',
-                      emit.fault_rows([family]))
+        self.assertEqual((whole.kind, [r.value for r in whole.refused], whole.refused[0].by),
+                         ("size", [("6", "3"), ("7", "2")], "inside"))
+        self.assertEqual((top.kind, top.base, [r.value for r in top.refused]), ("number", ("2",), [("-1",), ("2147483647",)]))
+        table = test_rows.export_table([family])
+        self.assertIn("{Check::Inside, lumStatusOk, {{7, 2}}},", table)
+        self.assertIn('{Kind::Number, Passing::Int32, "top", 0, {{2}}, nullptr, {2, 2}},', table)
+
+    def test_values_refused_by_a_status(self):
+        family = read(HEAD + "  param mask LumiSize = 3 3 : the mask\n  param kind int = 1 : a kind\n"
+                      "  refuses mask 0 0 -1x3 by BadMaskSize : a side is below 1\n"
+                      "  refuses kind 9 by BadBorder\n  refuses kind 0 by UnsupportedMode : not offered\n"
+                      "  args src mask kind\n"
+                      "  8u C1R check null kind:BadBorder mask kind:UnsupportedMode bind probe\n")
+        table = test_rows.export_table([family])
+        self.assertIn("{Check::Status, lumStatusBadMaskSize, {{-1, 3}}},", table)
+        order = table[table.index("kChecks"):table.index("kRows")]
+        self.assertEqual([line.split('"')[1] for line in order.splitlines() if "Status," in line], ["kind", "mask", "kind"])
+        header = emit.family_header(family)
+        self.assertRegex(header, r"lumStatusBadMaskSize \(-33\) +a side is below 1")
+        self.assertRegex(header, r"lumStatusBadBorder \(-225\) +kind is refused")
+
+    def test_results_arrays_and_structures(self):
+        text = HEAD + ("  param sum Lum64f* each : sums\n  param levels const {T}* of count : levels\n"
+                       "  param count int = 2 : how many\n  param at LumiPoint = 1 2 : a place\n"
+                       "  param part LumiRect : a part\n  args src roi sum levels count at part\n"
+                       "  16u {C1 C3}R bind probe\n")
+        args = {a.name: a for a in exports(text)["lumiProbe_16u_C3R"].args}
+        self.assertEqual(args["sum"].decl, "Lum64f sum[3]")
+        self.assertEqual((args["sum"].kind, args["levels"].length, args["at"].base), ("results", "count", ("1", "2")))
+        self.assertEqual([args[n].passing for n in ("sum", "count", "at", "part")], ["pointer", "int32", "pair", "rect"])
+        self.assertIn("Lum64f* sum", emit.prototype(exports(text)["lumiProbe_16u_C1R"]))
+
+    def test_names_of_all_homes(self):
+        text = HEAD.replace("op Probe", "op Probe_L1") + ("  args src dst\n  16uc16u 8u24u C1R bind a\n  64s P2C1R bind b\n"
+                                                          "  8u C1AP4R bind c\n")
+        self.assertIn("lumiProbe_L1_16uc16u_C1R", exports(text))
+        self.assertIn("lumiProbe_32f_L2", exports(HEAD + "  32f L2 bind a\n"))
+        self.assertIn("lumiProbe_C1R", exports(HEAD + "  - C1R bind a\n"))
+
+    def test_public_operations_by_types_and_layouts(self):
+        header = dispatch.header(read(HEAD + "  args src dst roi\n  8u16s C3AC4R bind a\n  8u C1IR bind a\n"))
+        self.assertIn("inline constexpr auto ProbeR<Lum8u, Lum16s, C3, AC4> = &lumiProbe_8u16s_C3AC4R;", header)
+        self.assertIn("inline constexpr auto ProbeIR<Lum8u, C1> = &lumiProbe_8u_C1IR;", header)
 
     def test_texts_of_checks_follow_the_arguments(self):
         header = emit.family_header(read(HEAD + "  param whole LumiSize : all of it\n  args src whole value\n"
@@ -136,15 +175,18 @@ class Complaints(unittest.TestCase):
         (HEAD + "  args src\n  8u C9R bind x\n", 5, "'C9R' is no layout descriptor"),
         (HEAD + "  args nosuch\n  8u C1R bind x\n", 5, "'nosuch' is neither a role"),
         (HEAD + "  args roi\n  8u bind x\n", 5, "'roi' follows from a sample type and a descriptor"),
-        (HEAD + "  args value\n  8u C3A0C4R bind x\n", 5, "'C3A0C4' does not tell how many values"),
+        (HEAD + "  args value\n  8u C3A0C4R bind x\n", 5, "'C3A0C4' does not tell how many channels"),
         (HEAD + "  args src\n  8u C1R\n", 5, "a row ends in: bind name"),
         (HEAD + "  args src\n  8u C1R check nul bind x\n", 5, "check takes words of"),
-        (HEAD + "  param a int refuses 1x2 by size : a\n", 4, "'1x2' is no value of int"),
-        (HEAD + "  param a LumiSize refuses 1 by size : a\n", 4, "'1' is no value of LumiSize"),
-        (HEAD + "  param a int refuses 1 by luck : a\n", 4, "'luck' is no check"),
+        (HEAD + "  param a int refuses x by size : a\n", 4, "'x' are no values of int"),
+        (HEAD + "  param a LumiSize refuses 1 by size : a\n", 4, "'1' are no values of LumiSize"),
+        (HEAD + "  param a int refuses 1 by luck : a\n", 4, "'luck' is neither a check nor a status"),
         (HEAD + "  args src\n  8u C1R bind x\n  8u C1R bind x\n", 6, "lumiProbe_8u_C1R stands twice"),
         (HEAD + "  args src\n  8u {C1R bind x\n", 5, "unbalanced brace"),
         (HEAD + "  args src\n  same 8u_C1R=8u_C4R\n", 5, "no row for lumiProbe_8u_C1R"),
+        (HEAD + "  refuses a 1 by size\n", 4, "'a' is no param by value"),
+        (HEAD + "  param a int : a\n  refuses a 1 by BadSize\n  refuses a 2 by BadStep\n  args a\n"
+         "  8u check a bind x\n", 8, "say a:status"),
         (HEAD + "  frobnicate\n", 4, "'frobnicate' begins no statement"),
         (HEAD, 3, "operation Probe exports nothing"),
         ('family other data "x"\n', 1, "family 'other'"),

@@ -1,0 +1,77 @@
+# SPDX-License-Identifier: MIT
+"""The table by which the tests call every export: constant data, since thousands of typed calls would take
+minutes to compile."""
+
+from . import reader
+from .names import GENERATED_ALL, all_exports
+
+
+class _Pool:
+    """Lists of C++ initialisers, one behind the other; a list that is there already is not repeated."""
+
+    def __init__(self):
+        self.items, self.first = [], {}
+
+    def add(self, items):
+        key = tuple(items)
+        if key not in self.first:
+            self.first[key] = len(self.items)
+            self.items += key
+        return f"{{{self.first[key]}, {len(key)}}}"
+
+    def table(self, declaration):
+        rows = "".join(f"    {item},\n" for item in self.items or ["{}"])
+        return f"constexpr {declaration}[] = {{\n{rows}}};\n"
+
+
+def _value(numbers):
+    return "{{" + ", ".join(map(str, numbers)) + "}}"
+
+
+def _refused(refused):
+    if refused.by in reader.CHECKS:
+        return f"{{Check::{refused.by.capitalize()}, lumStatusOk, {_value(refused.value)}}}"
+    return f"{{Check::Status, lumStatus{refused.by}, {_value(refused.value)}}}"
+
+
+def _argument(arg, refused):
+    count = 255 if arg.kind == "upper" else arg.count
+    base = _value(arg.base if arg.kind in ("number", "size", "point", "rect") else (0,))
+    length = f'"{arg.length}"' if arg.length else "nullptr"
+    return (f'{{Kind::{arg.kind.capitalize()}, Passing::{arg.passing.capitalize()}, "{arg.name}", {count}, {base}, '
+            f'{length}, {refused.add(map(_refused, arg.refused))}}}')
+
+
+def _check(word, export):
+    name, _, status = word.partition(":")
+    if word in reader.CHECKS:
+        return f"{{Check::{word.capitalize()}, nullptr, lumStatusOk}}"
+    arg = next(a for a in export.args if a.name == name)
+    status = status or next(r.by for r in arg.refused if r.by not in reader.CHECKS)
+    return f'{{Check::Status, "{name}", lumStatus{status}}}'
+
+
+def _words(words):
+    return "{{" + ", ".join(f'"{w}"' for w in words) + "}}"
+
+
+def export_table(families):
+    """A row for each export that returns a status: what the tests know of it."""
+    refused, arguments, checks = _Pool(), _Pool(), _Pool()
+    exports = [e for e in all_exports(families) if e.returns == "LumStatus"]
+    rows = []
+    for e in exports:
+        args = arguments.add(_argument(a, refused) for a in e.args)
+        order = checks.add(_check(word, e) for word in e.check)
+        rows.append(f'    {{"{e.name}", "{e.op.name}", {_words(e.types)}, {_words(e.layouts)}, &{e.name}, '
+                    f'{args}, {order}}},\n')
+    declared = "".join(f"void {e.name}();\n" for e in exports)
+    return "\n".join([
+        "// " + GENERATED_ALL,
+        "// The functions are declared without their arguments: they are called by description.",
+        'extern "C" {\n' + declared + "}",
+        refused.table("Refused kRefused"),
+        arguments.table("Argument kArguments"),
+        checks.table("CheckStep kChecks"),
+        "constexpr ExportRow kRows[] = {\n" + "".join(rows) + "};\n",
+    ])
