@@ -3,12 +3,12 @@
 #include "lumi/add_sub.h"
 
 #include "arithmetic/scaling.hpp"
+#include "dispatch/copy.hpp"
 #include "frame/check.hpp"
 #include "frame/constant.hpp"
 #include "frame/streaming.hpp"
 #include "frame/zero.hpp"
 #include "kernels/arithmetic/add_sub.hpp"
-#include "lumi/copy.h"
 
 namespace lumi {
 namespace {
@@ -48,10 +48,10 @@ LumStatus combineImages(const T* src1, int src1Step, const T* src2, int src2Step
   using Sample = Component<T>;
   const auto scaling = scalingFor<Op, Sample>(scaleFactor);
   if (!scaling) return fillZero<T, Layout>(dst, dstStep, roi);
-  walkFused(
+  runFused(
       roi,
-      [&](const Byte* a, const Byte* b, Byte* d, size_t pixels) {
-        combineRows<Op, Sample, kAlpha<T, Layout>>(a, b, d, pixels * kPixelSamples<T, Layout>, *scaling);
+      [&](SourceRows a, SourceRows b, TargetRows d, Extent pixels) {
+        combineRows<Op, Sample, kAlpha<T, Layout>>(a, b, d, pixels.times(kPixelSamples<T, Layout>), *scaling);
       },
       pixelRows<Layout>(src1, src1Step), pixelRows<Layout>(src2, src2Step), pixelRows<Layout>(dst, dstStep));
   return lumStatusOk;
@@ -78,16 +78,6 @@ LumStatus combine(const T* src, int srcStep, T* srcDst, int srcDstStep, LumiSize
 }
 
 // A zero constant at scale factor 0 leaves a single channel of integers as it is.
-LumStatus copyOf(const Lum8u* src, int srcStep, Lum8u* dst, int dstStep, LumiSize roi) {
-  return lumiCopy_8u_C1R(src, srcStep, dst, dstStep, roi);
-}
-LumStatus copyOf(const Lum16u* src, int srcStep, Lum16u* dst, int dstStep, LumiSize roi) {
-  return lumiCopy_16u_C1R(src, srcStep, dst, dstStep, roi);
-}
-LumStatus copyOf(const Lum16s* src, int srcStep, Lum16s* dst, int dstStep, LumiSize roi) {
-  return lumiCopy_16s_C1R(src, srcStep, dst, dstStep, roi);
-}
-
 template <typename T, typename Layout>
 constexpr bool kCopiesAtZero = std::is_integral_v<T>&& std::is_same_v<Layout, C1>;
 
@@ -110,17 +100,18 @@ LumStatus combineConstant(const T* src, int srcStep, Value value, T* dst, int ds
   if (!scaling) return fillZero<T, Layout>(dst, dstStep, roi);
   if constexpr (kCopiesAtZero<T, Layout>)
     if (scaleFactor == 0 && value == 0)
-      return src == dst && srcStep == dstStep ? lumStatusOk : copyOf(src, srcStep, dst, dstStep, roi);
+      return src == dst && srcStep == dstStep ? lumStatusOk
+                                              : call::CopyR<T, C1>(src, srcStep, dst, dstStep, roi);
   constexpr int alpha = kAlpha<T, Layout>;
   constexpr bool ofThree = Layout::kStored == 3;
   const PixelPattern constant = patternOf<T, Layout>(value);
   const bool streaming = kMayStream<T, Layout> && src != dst && streamsRows(srcStep, dstStep, roi.height);
-  walkFused(
+  runFused(
       roi,
-      [&](const Byte* s, Byte* d, size_t pixels) {
-        const size_t samples = pixels * kPixelSamples<T, Layout>;
+      [&](SourceRows s, TargetRows d, Extent pixels) {
+        const Extent samples = pixels.times(kPixelSamples<T, Layout>);
         if constexpr (kMayStream<T, Layout>)
-          if (streaming && reinterpret_cast<uintptr_t>(d) % sizeof(T) == 0)
+          if (streaming)
             return combineWithConstant<Op, Sample, alpha, ofThree, true>(constant, s, d, samples, *scaling);
         combineWithConstant<Op, Sample, alpha, ofThree>(constant, s, d, samples, *scaling);
       },

@@ -27,15 +27,13 @@ auto bitsOf(T sample) {
   return bits;
 }
 
-// The checks and the walk of all members; kernel(source row, destination row, bit, pixels).
+// The checks of all members, and kernel(source, destination, bit, extent in pixels).
 template <typename S, typename D, typename Kernel>
 LumStatus walkBits(const S* src, int srcStep, D* dst, int dstStep, int offset, LumiSize roi, Kernel kernel) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi), steps(srcStep, dstStep), bitOffset(offset)))
     return fault;
-  walkRows(
-      roi.height,
-      [&](const Byte* s, Byte* d) { kernel(s, d, firstBit(offset), static_cast<size_t>(roi.width)); },
-      rows(src, srcStep), rows(dst, dstStep));
+  kernel(rows(src, srcStep), rows(dst, dstStep), firstBit(offset),
+         Extent{static_cast<size_t>(roi.width), roi.height});
   return lumStatusOk;
 }
 
@@ -43,25 +41,26 @@ template <typename, typename T, typename>
 LumStatus expand(const Lum8u* src, int srcStep, int srcBitOffset, T* dst, int dstStep, LumiSize roi,
                  T zeroValue, T oneValue) {
   return walkBits(src, srcStep, dst, dstStep, srcBitOffset, roi,
-                  [&](const Byte* s, Byte* d, unsigned bit, size_t pixels) {
-                    expandBitsRow(s, bit, d, pixels, bitsOf(zeroValue), bitsOf(oneValue));
+                  [&](SourceRows s, TargetRows d, unsigned bit, Extent pixels) {
+                    expandBitsRows(s, bit, d, pixels, bitsOf(zeroValue), bitsOf(oneValue));
                   });
 }
 
 template <typename, typename, typename>
 LumStatus expandToFull(const Lum8u* src, int srcStep, int srcBitOffset, Lum8u* dst, int dstStep,
                        LumiSize roi) {
-  return walkBits(
-      src, srcStep, dst, dstStep, srcBitOffset, roi,
-      [](const Byte* s, Byte* d, unsigned bit, size_t pixels) { expandBitsToFullRow(s, bit, d, pixels); });
+  return walkBits(src, srcStep, dst, dstStep, srcBitOffset, roi,
+                  [](SourceRows s, TargetRows d, unsigned bit, Extent pixels) {
+                    expandBitsToFullRows(s, bit, d, pixels);
+                  });
 }
 
 template <typename T, typename, typename>
 LumStatus compare(const T* src, int srcStep, Lum8u* dst, int dstStep, int dstBitOffset, LumiSize roi,
                   T threshold) {
   return walkBits(src, srcStep, dst, dstStep, dstBitOffset, roi,
-                  [&](const Byte* s, Byte* d, unsigned bit, size_t pixels) {
-                    bitsAboveRow<T>(s, d, bit, pixels, threshold);
+                  [&](SourceRows s, TargetRows d, unsigned bit, Extent pixels) {
+                    bitsAboveRows<T>(s, d, bit, pixels, threshold);
                   });
 }
 

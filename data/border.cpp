@@ -52,7 +52,8 @@ struct Runs {
       repeat(value.bytes, dst, pixels);
     } else {
       const size_t count = bytes(pixels);
-      fillRow<kBytes>(value, dst, count, mayStream(pixels) && streamsFill(static_cast<int64_t>(count)));
+      fillRows<kBytes>(value, {dst, 0}, {count, 1},
+                       mayStream(pixels) && streamsFill(static_cast<int64_t>(count)));
     }
   }
   // Whether a run is so long that fills of it may bypass the cache.

@@ -38,12 +38,12 @@ LumStatus convert(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi) 
   constexpr int movedBytes = kPixelBytes<S, Layout> + kPixelBytes<D, Layout>;
   if constexpr (mayStream<S, D, Layout>()) {
     if (streamsOperation(bytesMoved(roi, movedBytes))) {
-      walkSamples<Layout>(src, srcStep, dst, dstStep, roi, convertRow<S, D, 0, true>);
+      runSamples<Layout>(src, srcStep, dst, dstStep, roi, convertRows<S, D, 0, true>);
       storeFence();
       return lumStatusOk;
     }
   }
-  walkSamples<Layout>(src, srcStep, dst, dstStep, roi, convertRow<S, D, kAlpha<S, Layout>>);
+  runSamples<Layout>(src, srcStep, dst, dstStep, roi, convertRows<S, D, kAlpha<S, Layout>>);
   return lumStatusOk;
 }
 
@@ -51,7 +51,7 @@ LumStatus convert(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi) 
 template <typename S, typename D, typename Layout>
 LumStatus convertNegativeToZero(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
-  walkSamples<Layout>(src, srcStep, dst, dstStep, roi, convertRow<S, D, 0>);
+  runSamples<Layout>(src, srcStep, dst, dstStep, roi, convertRows<S, D, 0>);
   return lumStatusOk;
 }
 
@@ -61,8 +61,8 @@ void convertRounding(const S* src, int srcStep, D* dst, int dstStep, LumiSize ro
                      FloatConversion how) {
   how.away = mode != lumRoundTowardZero && mode != lumRoundNearestEven;
   const unsigned before = setRounding(mode == lumRoundNearestEven ? Rounding::Nearest : Rounding::Truncate);
-  walkSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
-    convertFloatRow<D, kAlpha<S, Layout>>(s, d, samples, how);
+  runSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](SourceRows s, TargetRows d, Extent samples) {
+    convertFloatRows<D, kAlpha<S, Layout>>(s, d, samples, how);
   });
   restoreRounding(before);
 }
@@ -140,8 +140,8 @@ LumStatus convertScaled(const S* src, int srcStep, D* dst, int dstStep, LumiSize
   constexpr int zeroAbove = std::min<int>(scaleLimits<S, D>().zeroAbove, 8 * sizeof(S));
   if (scaleFactor > zeroAbove) return fillZero<D, Layout>(dst, dstStep, roi);
   const Rescaling how = rescaling<S, D>(mode, scaleFactor);
-  walkSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
-    convertScaledRow<S, D>(s, d, samples, how);
+  runSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](SourceRows s, TargetRows d, Extent samples) {
+    convertScaledRows<S, D>(s, d, samples, how);
   });
   return lumStatusOk;
 }

@@ -18,8 +18,9 @@ using namespace check;
 template <typename T, typename Layout>
 LumStatus copy(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
-  walkFused(
-      roi, [](const Byte* s, Byte* d, size_t pixels) { copyRow(s, d, pixels * kPixelBytes<T, Layout>); },
+  runFused(
+      roi,
+      [](SourceRows s, TargetRows d, Extent pixels) { copyRows(s, d, pixels.times(kPixelBytes<T, Layout>)); },
       pixelRows<Layout>(src, srcStep), pixelRows<Layout>(dst, dstStep));
   return lumStatusOk;
 }
@@ -28,8 +29,8 @@ template <typename T, typename Layout>
 LumStatus copyManaged(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, int flags) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
   const CacheUse use{(flags & 1) != 0, (flags & 2) != 0};
-  walkFused(
-      roi, [&](const Byte* s, Byte* d, size_t bytes) { copyRowManaged(s, d, bytes, use); },
+  runFused(
+      roi, [&](SourceRows s, TargetRows d, Extent bytes) { copyRowsManaged(s, d, bytes, use); },
       pixelRows<Layout>(src, srcStep), pixelRows<Layout>(dst, dstStep));
   if (use.streamingStores) storeFence();
   return lumStatusOk;
@@ -39,8 +40,8 @@ LumStatus copyManaged(const T* src, int srcStep, T* dst, int dstStep, LumiSize r
 template <typename T, typename Layout>
 LumStatus copyChosen(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
-  walkFused(roi, copyChosenRow<sizeof(T), Layout::kStored, Layout::kUsed>, pixelRows<Layout>(src, srcStep),
-            pixelRows<Layout>(dst, dstStep));
+  runFused(roi, copyChosenRows<sizeof(T), Layout::kStored, Layout::kUsed>, pixelRows<Layout>(src, srcStep),
+           pixelRows<Layout>(dst, dstStep));
   return lumStatusOk;
 }
 
@@ -49,8 +50,8 @@ LumStatus copyMasked(const T* src, int srcStep, T* dst, int dstStep, LumiSize ro
                      int maskStep) {
   if (LumStatus fault = firstFault(pointers(src, dst, mask), size(roi))) return fault;
   constexpr int pixelBytes = kPixelBytes<T, Layout>, usedBytes = kUsedBytes<T, Layout>;
-  walkFused(roi, copyMaskedRow<pixelBytes, usedBytes>, pixelRows<Layout>(src, srcStep),
-            pixelRows<Layout>(dst, dstStep), pixelRows<C1>(mask, maskStep));
+  runFused(roi, copyMaskedRows<pixelBytes, usedBytes>, pixelRows<Layout>(src, srcStep),
+           pixelRows<Layout>(dst, dstStep), pixelRows<C1>(mask, maskStep));
   return lumStatusOk;
 }
 

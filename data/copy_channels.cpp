@@ -19,33 +19,33 @@ using namespace check;
 
 template <typename From, typename To, typename T>
 LumStatus copyBetween(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi,
-                      void (&kernel)(const uint8_t*, uint8_t*, size_t)) {
+                      void (&kernel)(SourceRows, TargetRows, Extent)) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
-  walkFused(roi, kernel, pixelRows<From>(src, srcStep), pixelRows<To>(dst, dstStep));
+  runFused(roi, kernel, pixelRows<From>(src, srcStep), pixelRows<To>(dst, dstStep));
   return lumStatusOk;
 }
 
 template <typename T, typename From, typename To>
 LumStatus copyColourBetween(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
   if constexpr (std::is_same_v<To, AC4>)
-    return copyBetween<From, To>(src, srcStep, dst, dstStep, roi, copyColourToAlphaRow<sizeof(T)>);
+    return copyBetween<From, To>(src, srcStep, dst, dstStep, roi, copyColourToAlphaRows<sizeof(T)>);
   else
-    return copyBetween<From, To>(src, srcStep, dst, dstStep, roi, copyColourFromAlphaRow<sizeof(T)>);
+    return copyBetween<From, To>(src, srcStep, dst, dstStep, roi, copyColourFromAlphaRows<sizeof(T)>);
 }
 
 template <typename T, typename From, typename To>
 LumStatus copyPlaneToChannel(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
-  return copyBetween<From, To>(src, srcStep, dst, dstStep, roi, planeToChannelRow<sizeof(T), To::kStored>);
+  return copyBetween<From, To>(src, srcStep, dst, dstStep, roi, planeToChannelRows<sizeof(T), To::kStored>);
 }
 
 template <typename T, typename From, typename To>
 LumStatus copyChannelToPlane(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
-  return copyBetween<From, To>(src, srcStep, dst, dstStep, roi, channelToPlaneRow<sizeof(T), From::kStored>);
+  return copyBetween<From, To>(src, srcStep, dst, dstStep, roi, channelToPlaneRows<sizeof(T), From::kStored>);
 }
 
 template <typename T, typename From, typename To>
 LumStatus duplicatePlane(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
-  return copyBetween<From, To>(src, srcStep, dst, dstStep, roi, duplicateRow<To::kStored>);
+  return copyBetween<From, To>(src, srcStep, dst, dstStep, roi, duplicateRows<To::kStored>);
 }
 
 // What a split or merge moves against what the cache holds. Samples of 32 bits follow the rule of every
@@ -84,10 +84,10 @@ LumStatus splitPlanes(const T* src, int srcStep, T* const* dst, int dstStep, Lum
   const auto planes = planeRows<channels>(dst, dstStep);
   const bool streaming = std::apply([&](auto... p) { return allAligned(dstStep, p...); }, planes.first) &&
                          streamsSplit<T>(bytesMoved(roi, 2 * pixelBytes), tight);
-  walkFused(
+  runFused(
       roi,
-      [&](const Byte* s, const auto& d, size_t pixels) {
-        splitRow<sizeof(T), channels>(s, d.data(), pixels, streaming);
+      [&](SourceRows s, const auto& d, Extent pixels) {
+        splitRows<sizeof(T), channels>(s, d, pixels, streaming);
       },
       pixelRows<From>(src, srcStep), planes);
   if (streaming) storeFence();
@@ -100,10 +100,10 @@ LumStatus mergePlanes(const T* const* src, int srcStep, T* dst, int dstStep, Lum
   if (LumStatus fault = firstFault(planePointers<channels>(src), pointers(dst), size(roi))) return fault;
   const bool streaming =
       allAligned(dstStep, dst) && streamsMerge<T>(bytesMoved(roi, 2 * pixelBytes), roi.width);
-  walkFused(
+  runFused(
       roi,
-      [&](const auto& s, Byte* d, size_t pixels) {
-        mergeRow<sizeof(T), channels>(s.data(), d, pixels, streaming);
+      [&](const auto& s, TargetRows d, Extent pixels) {
+        mergeRows<sizeof(T), channels>(s, d, pixels, streaming);
       },
       planeRows<channels>(src, srcStep), pixelRows<To>(dst, dstStep));
   if (streaming) storeFence();

@@ -29,8 +29,8 @@ template <typename S, typename D, typename Layout>
 LumStatus widen(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi), steps(srcStep, dstStep))) return fault;
   const bool streaming = streamsScale<D>(roi);
-  walkSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
-    widenRow<D, kHasAlpha<Layout>>(s, d, samples, streaming);
+  runSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](SourceRows s, TargetRows d, Extent samples) {
+    widenRows<D, kHasAlpha<Layout>>(s, d, samples, streaming);
   });
   if (streaming) storeFence();
   return lumStatusOk;
@@ -44,8 +44,8 @@ LumStatus narrow(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi, L
   const unsigned before = accurate ? setRounding(Rounding::Nearest) : 0;
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi), steps(srcStep, dstStep))) return fault;
   const bool streaming = !accurate && streamsScale<D>(roi);
-  walkSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
-    narrowRow<S, kHasAlpha<Layout>>(s, d, samples, accurate, streaming);
+  runSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](SourceRows s, TargetRows d, Extent samples) {
+    narrowRows<S, kHasAlpha<Layout>>(s, d, samples, accurate, streaming);
   });
   if (streaming) storeFence();
   if (accurate) restoreRounding(before);
@@ -60,8 +60,8 @@ LumStatus widenToFloats(const S* src, int srcStep, D* dst, int dstStep, LumiSize
     return fault;
   const bool streaming = streamsScale<D>(roi);
   const LinearMap map = bytesToFloats(lower, upper);
-  walkSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
-    widenToFloatsRow<kHasAlpha<Layout>>(s, d, samples, map, streaming);
+  runSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](SourceRows s, TargetRows d, Extent samples) {
+    widenToFloatsRows<kHasAlpha<Layout>>(s, d, samples, map, streaming);
   });
   if (streaming) storeFence();
   return lumStatusOk;
@@ -77,8 +77,8 @@ LumStatus narrowFloats(const S* src, int srcStep, D* dst, int dstStep, LumiSize 
           firstFault(range(lower, upper), pointers(src, dst), size(roi), steps(srcStep, dstStep)))
     return fault;
   const LinearMap map = floatsToBytes(lower, upper);
-  walkSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](const Byte* s, Byte* d, size_t samples) {
-    narrowFloatsRow<kHasAlpha<Layout>>(s, d, samples, map);
+  runSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](SourceRows s, TargetRows d, Extent samples) {
+    narrowFloatsRows<kHasAlpha<Layout>>(s, d, samples, map);
   });
   restoreRounding(before);
   return lumStatusOk;

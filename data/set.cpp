@@ -35,8 +35,11 @@ LumStatus fill(Value value, T* dst, int dstStep, LumiSize roi) {
   constexpr int pixelBytes = kPixelBytes<T, Layout>;
   const bool streaming = streamsOperation(bytesMoved(roi, pixelBytes));
   const PixelPattern pattern = patternOf<T, Layout>(value);
-  walkFused(
-      roi, [&](Byte* d, size_t pixels) { fillRow<pixelBytes>(pattern, d, pixels * pixelBytes, streaming); },
+  runFused(
+      roi,
+      [&](TargetRows d, Extent pixels) {
+        fillRows<pixelBytes>(pattern, d, pixels.times(pixelBytes), streaming);
+      },
       pixelRows<Layout>(dst, dstStep));
   if (streaming) storeFence();
   return lumStatusOk;
@@ -48,10 +51,10 @@ LumStatus fillChosen(Value value, T* dst, int dstStep, LumiSize roi) {
   if (LumStatus fault = firstFault(pointers(value, dst), size(roi))) return fault;
   constexpr int pixelBytes = kPixelBytes<T, Layout>, usedBytes = kUsedBytes<T, Layout>;
   const Block<kChosenBlock<Layout::kStored>, pixelBytes, usedBytes> block(samplesOf(value));
-  walkFused(
+  runFused(
       roi,
-      [&](Byte* d, size_t pixels) {
-        fillChosenRow<sizeof(T), Layout::kStored, Layout::kUsed>(block.bytes, d, pixels);
+      [&](TargetRows d, Extent pixels) {
+        fillChosenRows<sizeof(T), Layout::kStored, Layout::kUsed>(block.bytes, d, pixels);
       },
       pixelRows<Layout>(dst, dstStep));
   return lumStatusOk;
@@ -62,10 +65,10 @@ LumStatus fillMasked(Value value, T* dst, int dstStep, LumiSize roi, const Lum8u
   if (LumStatus fault = firstFault(pointers(value, dst, mask), size(roi))) return fault;
   constexpr int pixelBytes = kPixelBytes<T, Layout>, usedBytes = kUsedBytes<T, Layout>;
   const Block<kMaskBlock * pixelBytes, pixelBytes, usedBytes> block(samplesOf(value));
-  walkFused(
+  runFused(
       roi,
-      [&](Byte* d, const Byte* m, size_t pixels) {
-        fillMaskedRow<pixelBytes, usedBytes>(block.bytes, d, m, pixels);
+      [&](TargetRows d, SourceRows m, Extent pixels) {
+        fillMaskedRows<pixelBytes, usedBytes>(block.bytes, d, m, pixels);
       },
       pixelRows<Layout>(dst, dstStep), pixelRows<C1>(mask, maskStep));
   return lumStatusOk;

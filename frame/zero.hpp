@@ -16,18 +16,18 @@ template <typename T, typename Layout>
 LumStatus fillZero(T* dst, int dstStep, LumiSize roi) {
   if constexpr (Layout::kUsed < Layout::kStored) {
     constexpr Byte zero[kChosenBlock<Layout::kStored>] = {};
-    walkFused(
+    runFused(
         roi,
-        [&](Byte* d, size_t pixels) {
-          fillChosenRow<sizeof(T), Layout::kStored, Layout::kUsed>(zero, d, pixels);
+        [&](TargetRows d, Extent pixels) {
+          fillChosenRows<sizeof(T), Layout::kStored, Layout::kUsed>(zero, d, pixels);
         },
         pixelRows<Layout>(dst, dstStep));
   } else {
     constexpr int pixelBytes = kPixelBytes<T, Layout>;
     constexpr PixelPattern zero{};
     const bool streaming = streamsOperation(bytesMoved(roi, pixelBytes));
-    walkFused(
-        roi, [&](Byte* d, size_t pixels) { fillRow<1>(zero, d, pixels * pixelBytes, streaming); },
+    runFused(
+        roi, [&](TargetRows d, Extent pixels) { fillRows<1>(zero, d, pixels.times(pixelBytes), streaming); },
         pixelRows<Layout>(dst, dstStep));
     if (streaming) storeFence();
   }

@@ -14,15 +14,7 @@ struct Chosen {
                           kUsedBytes = sampleBytes * used;
   static constexpr size_t kBlockBytes = kChosenBlock<stored>;
 
-  struct Masks {
-    alignas(kVector) Byte bytes[kBlockBytes];  // 0xFF where a byte is stored
-  };
-  static constexpr Masks masks() {
-    Masks m{};
-    for (size_t i = 0; i < kBlockBytes; ++i) m.bytes[i] = i % kPixelBytes < kUsedBytes ? 0xFF : 0;
-    return m;
-  }
-  static constexpr Masks kMasks = masks();
+  static constexpr auto kMask = pixelMask<kPixelBytes, kUsedBytes, kBlockBytes>();
 
   // Bytes that vectors may touch. Behind a single chosen sample, the last pixel's other channels may lie
   // outside the image.
@@ -31,7 +23,7 @@ struct Chosen {
   }
 
   static void blendVector(const Byte* src, Byte* dst, size_t k) {
-    store32(dst, ifThenElse(load32(kMasks.bytes + kVector * k), load32(src), load32(dst)));
+    store32(dst, ifThenElse(load32(kMask.bytes + kVector * k), load32(src), load32(dst)));
   }
 
   // Blends whole vectors and returns the pixels that are done. A source that stands still is one block.
@@ -70,30 +62,36 @@ bool overlapByPixels(const Byte* src, const Byte* dst, size_t pixelBytes, size_t
 }  // namespace
 
 template <int sampleBytes, int stored, int used>
-void copyChosenRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
+void copyChosenRows(SourceRows src, TargetRows dst, Extent pixels) {
   using Row = Chosen<sampleBytes, stored, used>;
-  size_t done = 0;
-  if (!overlapByPixels(src, dst, Row::kPixelBytes, pixels)) {
-    done = Row::pixelsToBoundary(dst, pixels);
-    Row::inOrder(src, Row::kPixelBytes, dst, 0, done);
-    done += Row::template blend<true>(src + done * Row::kPixelBytes, dst + done * Row::kPixelBytes,
-                                      Row::span(pixels - done));
-  }
-  Row::inOrder(src, Row::kPixelBytes, dst, done, pixels);
+  const auto copyRow = [length = pixels.length](const Byte* s, Byte* d) {
+    size_t done = 0;
+    if (!overlapByPixels(s, d, Row::kPixelBytes, length)) {
+      done = Row::pixelsToBoundary(d, length);
+      Row::inOrder(s, Row::kPixelBytes, d, 0, done);
+      done += Row::template blend<true>(s + done * Row::kPixelBytes, d + done * Row::kPixelBytes,
+                                        Row::span(length - done));
+    }
+    Row::inOrder(s, Row::kPixelBytes, d, done, length);
+  };
+  walkRows(pixels.rows, copyRow, src, dst);
 }
 
 template <int sampleBytes, int stored, int used>
-void fillChosenRow(const uint8_t* block, uint8_t* dst, size_t pixels) {
+void fillChosenRows(const uint8_t* block, TargetRows dst, Extent pixels) {
   using Row = Chosen<sampleBytes, stored, used>;
-  size_t done = Row::pixelsToBoundary(dst, pixels);
-  Row::inOrder(block, 0, dst, 0, done);
-  done += Row::template blend<false>(block, dst + done * Row::kPixelBytes, Row::span(pixels - done));
-  Row::inOrder(block, 0, dst, done, pixels);
+  const auto fillRow = [block, length = pixels.length](Byte* d) {
+    size_t done = Row::pixelsToBoundary(d, length);
+    Row::inOrder(block, 0, d, 0, done);
+    done += Row::template blend<false>(block, d + done * Row::kPixelBytes, Row::span(length - done));
+    Row::inOrder(block, 0, d, done, length);
+  };
+  walkRows(pixels.rows, fillRow, dst);
 }
 
-#define LUMI_CHOSEN(sample, stored, used)                                              \
-  template void copyChosenRow<sample, stored, used>(const uint8_t*, uint8_t*, size_t); \
-  template void fillChosenRow<sample, stored, used>(const uint8_t*, uint8_t*, size_t);
+#define LUMI_CHOSEN(sample, stored, used)                                             \
+  template void copyChosenRows<sample, stored, used>(SourceRows, TargetRows, Extent); \
+  template void fillChosenRows<sample, stored, used>(const uint8_t*, TargetRows, Extent);
 #define LUMI_LAYOUTS(sample) LUMI_CHOSEN(sample, 3, 1) LUMI_CHOSEN(sample, 4, 1) LUMI_CHOSEN(sample, 4, 3)
 LUMI_LAYOUTS(1)
 LUMI_LAYOUTS(2)

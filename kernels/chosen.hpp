@@ -3,8 +3,7 @@
 // colour of pixels with alpha.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
+#include "kernels/rows.hpp"
 
 namespace lumi {
 
@@ -12,11 +11,11 @@ namespace lumi {
 // with one used sample nothing after the last one is touched, and rows that overlap give what a copy in
 // order of the pixels gives.
 template <int sampleBytes, int stored, int used>
-void copyChosenRow(const uint8_t* src, uint8_t* dst, size_t pixels);
+void copyChosenRows(SourceRows src, TargetRows dst, Extent pixels);
 
 // Stores a value under the same promise; `block` is the pixel repeated over kChosenBlock bytes.
 template <int sampleBytes, int stored, int used>
-void fillChosenRow(const uint8_t* block, uint8_t* dst, size_t pixels);
+void fillChosenRows(const uint8_t* block, TargetRows dst, Extent pixels);
 
 // A whole number of pixels of `stored` samples, and of vectors.
 template <int stored>

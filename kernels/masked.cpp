@@ -19,14 +19,6 @@ constexpr auto spreadControls() {
   return all;
 }
 
-// 0xFF over the bytes of a pixel that are never stored; such pixels divide a vector.
-template <int pixelBytes, int usedBytes>
-constexpr Control keptBytes() {
-  Control c{};
-  for (size_t j = 0; j < c.size(); ++j) c[j] = j % pixelBytes < usedBytes ? 0 : 0xFF;
-  return c;
-}
-
 // Vectors of 32 bytes where pixels are whole dwords, else of 16.
 struct Narrow {
   using V = Bytes16;
@@ -76,9 +68,9 @@ struct Still {
 template <int pixelBytes, int usedBytes>
 inline Bytes16 spreadOver(Bytes16 skip, size_t k) {
   static constexpr auto controls = spreadControls<pixelBytes>();
-  static constexpr Control kept = keptBytes<pixelBytes, usedBytes>();
+  static constexpr auto kept = pixelMask<pixelBytes, usedBytes, 16>(0, 0xFF);  // never stored
   const Bytes16 spread = pixelBytes == 1 ? skip : shuffleBytes(skip, vectorOf(controls[k]));
-  return usedBytes < pixelBytes ? bitOr(spread, vectorOf(kept)) : spread;
+  return usedBytes < pixelBytes ? bitOr(spread, load16(kept.bytes)) : spread;
 }
 
 template <int pixelBytes, int usedBytes, typename Source>
@@ -99,7 +91,8 @@ inline void maskedBlock(const Source& source, Byte* dst, const Byte* mask, size_
 }
 
 template <int pixelBytes, int usedBytes, typename Source>
-void maskedRow(const Source& source, Byte* dst, const Byte* mask, size_t pixels) {
+[[gnu::always_inline]] inline void maskedRow(const Source& source, Byte* dst, const Byte* mask,
+                                             size_t pixels) {
   size_t i = 0;
   if constexpr (pixelBytes <= 2)  // so little work a block that the loop itself would count
     for (; i + 2 * kMaskBlock <= pixels; i += 2 * kMaskBlock) {
@@ -114,18 +107,29 @@ void maskedRow(const Source& source, Byte* dst, const Byte* mask, size_t pixels)
 }  // namespace
 
 template <int pixelBytes, int usedBytes>
-void copyMaskedRow(const uint8_t* src, uint8_t* dst, const uint8_t* mask, size_t pixels) {
-  maskedRow<pixelBytes, usedBytes>(Moving<pixelBytes>{src}, dst, mask, pixels);
+void copyMaskedRows(SourceRows src, TargetRows dst, SourceRows mask, Extent pixels) {
+  walkRows(
+      pixels.rows,
+      [length = pixels.length](const Byte* s, Byte* d, const Byte* m) {
+        maskedRow<pixelBytes, usedBytes>(Moving<pixelBytes>{s}, d, m, length);
+      },
+      src, dst, mask);
 }
 
 template <int pixelBytes, int usedBytes>
-void fillMaskedRow(const uint8_t* block, uint8_t* dst, const uint8_t* mask, size_t pixels) {
-  maskedRow<pixelBytes, usedBytes>(Still<pixelBytes>(block), dst, mask, pixels);
+void fillMaskedRows(const uint8_t* block, TargetRows dst, SourceRows mask, Extent pixels) {
+  const Still<pixelBytes> value(block);
+  walkRows(
+      pixels.rows,
+      [&, length = pixels.length](Byte* d, const Byte* m) {
+        maskedRow<pixelBytes, usedBytes>(value, d, m, length);
+      },
+      dst, mask);
 }
 
-#define LUMI_PIXEL(bytes, used)                                                               \
-  template void copyMaskedRow<bytes, used>(const uint8_t*, uint8_t*, const uint8_t*, size_t); \
-  template void fillMaskedRow<bytes, used>(const uint8_t*, uint8_t*, const uint8_t*, size_t);
+#define LUMI_PIXEL(bytes, used)                                                          \
+  template void copyMaskedRows<bytes, used>(SourceRows, TargetRows, SourceRows, Extent); \
+  template void fillMaskedRows<bytes, used>(const uint8_t*, TargetRows, SourceRows, Extent);
 LUMI_PIXEL(1, 1)
 LUMI_PIXEL(2, 2)
 LUMI_PIXEL(3, 3)

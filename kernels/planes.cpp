@@ -70,10 +70,10 @@ TwoDwords4x4 splitTwoBlocks(const Byte* src) {
 }
 
 template <int sampleBytes, int channels, typename Store>
-void splitRowBy(const Byte* src, uint8_t* const* planes, size_t pixels) {
+[[gnu::always_inline]] inline void splitRowBy(const Byte* src, const std::array<Byte*, channels>& planes,
+                                              size_t pixels) {
   constexpr size_t line = 64;
-  std::array<Byte*, channels> to;  // a copy that no store of bytes can be thought to change
-  for (int c = 0; c < channels; ++c) to[c] = planes[c];
+  const std::array<Byte*, channels> to = planes;  // a copy that no store of bytes can be thought to change
   const size_t bytes = pixels * sampleBytes;
   size_t i = 0;
   // A cache line of a plane is written in one go, which is up to 1.6 times faster on images that the
@@ -145,9 +145,9 @@ void mergeEight(const std::array<const Byte*, 3>& planes, size_t at, Byte* dst) 
 }
 
 template <int sampleBytes, int channels, typename Store>
-void mergeRowBy(const uint8_t* const* planes, Byte* dst, size_t pixels) {
-  std::array<const Byte*, channels> from;
-  for (int c = 0; c < channels; ++c) from[c] = planes[c];
+[[gnu::always_inline]] inline void mergeRowBy(const std::array<const Byte*, channels>& planes, Byte* dst,
+                                              size_t pixels) {
+  const std::array<const Byte*, channels> from = planes;
   const size_t bytes = pixels * sampleBytes;
   size_t i = 0;
   if constexpr (sampleBytes == 4)
@@ -166,28 +166,10 @@ Bytes16 firstOfThree(const Byte* src) {
   return permuteDwords<0, 3, 2, 1>(found);
 }
 
-}  // namespace
-
-template <int sampleBytes, int channels>
-void splitRow(const uint8_t* src, uint8_t* const* planes, size_t pixels, bool streaming) {
-  if (streaming)
-    splitRowBy<sampleBytes, channels, Streaming>(src, planes, pixels);
-  else
-    splitRowBy<sampleBytes, channels, Cached>(src, planes, pixels);
-}
-
-template <int sampleBytes, int channels>
-void mergeRow(const uint8_t* const* planes, uint8_t* dst, size_t pixels, bool streaming) {
-  if (streaming)
-    mergeRowBy<sampleBytes, channels, Streaming>(planes, dst, pixels);
-  else
-    mergeRowBy<sampleBytes, channels, Cached>(planes, dst, pixels);
-}
-
 // A block ends with the last pixel's other channels, which lie outside the image when the chosen channel
 // is not the first: one pixel at least is left for the tail.
 template <int sampleBytes, int channels>
-void channelToPlaneRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
+[[gnu::always_inline]] inline void channelToPlaneRow(const Byte* src, Byte* dst, size_t pixels) {
   const size_t bytes = pixels * sampleBytes;
   size_t i = 0;
   if constexpr (sampleBytes == 4 && channels == 3) {
@@ -201,10 +183,45 @@ void channelToPlaneRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
   for (; i < bytes; i += sampleBytes) move<sampleBytes>(dst + i, src + channels * i);
 }
 
-#define LUMI_PLANES(sample, channels)                                                      \
-  template void splitRow<sample, channels>(const uint8_t*, uint8_t* const*, size_t, bool); \
-  template void mergeRow<sample, channels>(const uint8_t* const*, uint8_t*, size_t, bool); \
-  template void channelToPlaneRow<sample, channels>(const uint8_t*, uint8_t*, size_t);
+}  // namespace
+
+template <int sampleBytes, int channels>
+void splitRows(SourceRows src, const PlaneRows<uint8_t, channels>& planes, Extent pixels, bool streaming) {
+  const auto walk = [&](auto store) {
+    walkRows(
+        pixels.rows,
+        [&](const Byte* s, const std::array<Byte*, channels>& to) {
+          splitRowBy<sampleBytes, channels, decltype(store)>(s, to, pixels.length);
+        },
+        src, planes);
+  };
+  streaming ? walk(Streaming()) : walk(Cached());
+}
+
+template <int sampleBytes, int channels>
+void mergeRows(const PlaneRows<const uint8_t, channels>& planes, TargetRows dst, Extent pixels,
+               bool streaming) {
+  const auto walk = [&](auto store) {
+    walkRows(
+        pixels.rows,
+        [&](const std::array<const Byte*, channels>& from, Byte* d) {
+          mergeRowBy<sampleBytes, channels, decltype(store)>(from, d, pixels.length);
+        },
+        planes, dst);
+  };
+  streaming ? walk(Streaming()) : walk(Cached());
+}
+
+template <int sampleBytes, int channels>
+void channelToPlaneRows(SourceRows src, TargetRows dst, Extent pixels) {
+  walkPixels(channelToPlaneRow<sampleBytes, channels>, src, dst, pixels);
+}
+
+#define LUMI_PLANES(sample, channels)                                                                       \
+  template void splitRows<sample, channels>(SourceRows, const PlaneRows<uint8_t, channels>&, Extent, bool); \
+  template void mergeRows<sample, channels>(const PlaneRows<const uint8_t, channels>&, TargetRows, Extent,  \
+                                            bool);                                                          \
+  template void channelToPlaneRows<sample, channels>(SourceRows, TargetRows, Extent);
 LUMI_PLANES(1, 3)
 LUMI_PLANES(1, 4)
 LUMI_PLANES(2, 3)

@@ -2,20 +2,20 @@
 // Row kernels between interleaved pixels and planes.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
+#include "kernels/rows.hpp"
 
 namespace lumi {
 
 // Pixels into planes and back. With `streaming` every destination is on a 32-byte boundary, stores
 // bypass the cache, and the caller fences.
 template <int sampleBytes, int channels>
-void splitRow(const uint8_t* src, uint8_t* const* planes, size_t pixels, bool streaming);
+void splitRows(SourceRows src, const PlaneRows<uint8_t, channels>& planes, Extent pixels, bool streaming);
 template <int sampleBytes, int channels>
-void mergeRow(const uint8_t* const* planes, uint8_t* dst, size_t pixels, bool streaming);
+void mergeRows(const PlaneRows<const uint8_t, channels>& planes, TargetRows dst, Extent pixels,
+               bool streaming);
 
 // One channel of pixels of `channels` samples into a plane; src is at that channel's sample.
 template <int sampleBytes, int channels>
-void channelToPlaneRow(const uint8_t* src, uint8_t* dst, size_t pixels);
+void channelToPlaneRows(SourceRows src, TargetRows dst, Extent pixels);
 
 }  // namespace lumi

@@ -1,62 +1,38 @@
 // SPDX-License-Identifier: MIT
 // The loop of every operation that makes a sample from the samples at its own place. A kernel describes its
-// row as a rule and hands it to runRow; heads, tails, short rows, phases and overlap are taken care of here.
+// rows as a rule and hands it to runRows; heads, tails, short rows, phases and overlap are taken care of
+// here.
 //
-// A rule says, for byte offsets `at` into the destination's row:
+// A rule stands at a row, and says for byte offsets `at` into the destination's row:
 //   kSample           bytes of a destination sample; every offset is a multiple of it
 //   kPeriod           blocks after which constants repeat
 //   phase(at)         what stays the same for the blocks at `at`, `at` + kPeriod blocks and so on
 //   block(at, phase)  the 32 bytes of results there, as Bytes32 or Halves32
-//   half(at)          the 16 bytes of results there
-//   distance(d, n)    how far from d a source begins that shares some of the n bytes there, but does not
-//   begin
-//                     with them; n if there is none
-//   Room, gathered(room, at, n)
-//                     a copy of the rule whose sources begin at `at` and hold n bytes' worth of samples, in
-//                     `room` where they come from memory: what lies behind may be read
+//   vector(at)        the kVectorBytes bytes of results there
+//   advance(rows)     moves on to a later row
+//   kSources, describe(sources)
+//                     the images that samples come from
+//   onPieces(pieces, at)
+//                     a copy of the rule whose sources begin at `at`, and lie where pieces point
 #pragma once
 
 #include <algorithm>
 #include <utility>
 
 #include "kernels/pattern.hpp"
-#include "kernels/simd/samples.hpp"
+#include "kernels/pieces.hpp"
+#include "kernels/rows.hpp"
+#include "kernels/simd/floats.hpp"
 
 namespace lumi::simd {
 
-inline constexpr size_t kBlock = 32, kHalf = 16;
-
-// Few bytes, by their count's bits.
-inline void copyFew(Byte* to, const Byte* from, size_t bytes) {
-  size_t at = 0;
-  for (; at + 16 <= bytes; at += 16) move<16>(to + at, from + at);
-  const auto piece = [&](auto n) {
-    if (bytes & n) move<n>(to + at, from + at), at += n;
-  };
-  piece(std::integral_constant<size_t, 8>());
-  piece(std::integral_constant<size_t, 4>());
-  piece(std::integral_constant<size_t, 2>());
-  piece(std::integral_constant<size_t, 1>());
-}
-
-// Results in steps of a half or less, each made in a copy of its samples, strictly in order.
-template <typename Rule>
-[[gnu::noinline, gnu::flatten]] void runInSteps(Byte* d, size_t at, size_t bytes, size_t step,
-                                                const Rule& rule) {
-  for (; at < bytes; at += step) {
-    typename Rule::Room room{};
-    alignas(kHalf) Byte results[kHalf];
-    store16(results, rule.gathered(room, at, step).half(0));
-    copyFew(d + at, results, step);
-  }
-}
+inline constexpr size_t kBlock = 32;
 
 // Where the first and last block lie over others, all of them are made of what was there before: they are
 // made first and stored last, so that the destination may be the source.
 template <typename Store, typename Rule, size_t... k, size_t... rest>
-[[gnu::noinline, gnu::flatten]] void runLong(Byte* d, size_t bytes, const Rule& given,
-                                             std::index_sequence<k...>, std::index_sequence<rest...>) {
-  const Rule rule = given;  // of our own: bytes stored could change the other, for all that compilers know
+[[gnu::always_inline]] inline void runLong(Byte* d, size_t bytes, const Rule& rule, std::index_sequence<k...>,
+                                           std::index_sequence<rest...>) {
   const size_t reach = reachPastBoundary(d, kBlock);
   const bool canAlign = reach % Rule::kSample == 0;
   const auto first = rule.block(0, rule.phase(0));
@@ -77,77 +53,108 @@ template <typename Store, typename Rule, size_t... k, size_t... rest>
   Cached::store(d + bytes - kBlock, last);
 }
 
-// Rows that overlap a source: as if each sample were made and stored before the next is read. From a block's
-// distance on, whole blocks in order see to that too.
-template <typename Rule>
-[[gnu::noinline, gnu::flatten]] void runOverlapping(Byte* d, size_t bytes, size_t distance,
-                                                    const Rule& rule) {
-  size_t at = 0;
-  if (distance >= kBlock)
-    for (; at + kBlock <= bytes; at += kBlock) Cached::store(d + at, rule.block(at, rule.phase(at)));
-  runInSteps(d, at, bytes, Rule::kSample, rule);
-}
-
-// Makes a row of `bytes` bytes at d. A destination may be a source, sample for sample; where they overlap
-// otherwise, the samples are made one by one from the first to the last. Store is how whole blocks on
-// boundaries are stored.
-template <typename Store = Cached, typename Rule>
-[[gnu::flatten]] void runRow(Byte* d, size_t bytes, const Rule& rule) {
-  const size_t distance = rule.distance(d, bytes);
-  if (distance < bytes) return runOverlapping(d, bytes, distance, rule);
-  if (bytes < kHalf) return runInSteps(d, 0, bytes, bytes, rule);
-  if (bytes < kBlock) {
-    const Bytes16 first = rule.half(0), last = rule.half(bytes - kHalf);
-    store16(d, first);
-    store16(d + bytes - kHalf, last);
-    return;
+// Rows of a vector or more that overlap no source but themselves. The length decides once for all of them.
+template <typename Store, typename Rule>
+[[gnu::noinline, gnu::flatten]] void runApart(TargetRows dst, size_t bytes, int rows, const Rule& given) {
+  Rule rule = given;  // of our own: bytes stored could change the other, for all that compilers know
+  Byte* d = dst.first;
+  const auto next = [&] {
+    d = TargetRows{d, dst.step}.row(1);
+    rule.advance(1);
+  };
+  if constexpr (kVectorBytes < kBlock) {
+    if (bytes < kBlock) {
+      for (; rows > 0; --rows, next()) {
+        const VectorBytes first = rule.vector(0), last = rule.vector(bytes - kVectorBytes);
+        storeVector(d, first);
+        storeVector(d + bytes - kVectorBytes, last);
+      }
+      return;
+    }
   }
   if (bytes <= 2 * kBlock) {
-    const auto first = rule.block(0, rule.phase(0));
-    const auto last = rule.block(bytes - kBlock, rule.phase(bytes - kBlock));
-    Cached::store(d, first);
-    Cached::store(d + bytes - kBlock, last);
+    const auto firstPhase = rule.phase(0), lastPhase = rule.phase(bytes - kBlock);
+    for (; rows > 0; --rows, next()) {
+      const auto first = rule.block(0, firstPhase), last = rule.block(bytes - kBlock, lastPhase);
+      Cached::store(d, first);
+      Cached::store(d + bytes - kBlock, last);
+    }
     return;
   }
   constexpr size_t round = Rule::kPeriod == 1 ? 2 : Rule::kPeriod;
-  const auto run = [&](auto store) {
-    runLong<decltype(store)>(d, bytes, rule, std::make_index_sequence<round>(),
-                             std::make_index_sequence<round - 1>());
-  };
-  // No sample of a row at an odd address starts on a boundary, and stores that bypass the cache need one.
-  if (isAligned(d, Rule::kSample))
-    run(Store());
-  else
-    run(Cached());
+  for (; rows > 0; --rows, next())
+    runLong<Store>(d, bytes, rule, std::make_index_sequence<round>(), std::make_index_sequence<round - 1>());
 }
 
-// A row of S samples that becomes one of D samples.
+// How rows are done piece by piece, or one by one, without another loop for each rule.
+template <typename Rule>
+struct InPieces {
+  static void make(const void* rule, const Byte* const* pieces, size_t at, Byte* results) {
+    storeVector(results, static_cast<const Rule*>(rule)->onPieces(pieces, at).vector(0));
+  }
+  static void runRow(const void* rule, Byte* row, size_t bytes, int y) {
+    Rule there = *static_cast<const Rule*>(rule);
+    there.advance(y);
+    runApart<Cached>({row, 0}, bytes, 1, there);
+  }
+};
+
+// No sample of a row at an odd address starts on a boundary, and stores that bypass the cache need one.
+template <size_t sample>
+bool allAligned(TargetRows dst) {
+  return (reinterpret_cast<uintptr_t>(dst.first) | static_cast<uintptr_t>(dst.step)) % sample == 0;
+}
+
+// Makes rows of extent.length samples. A destination may be a source, sample for sample; where they overlap
+// otherwise, the samples of a row are made one by one from the first to the last. Store is how whole blocks
+// on boundaries are stored.
+template <typename Store = Cached, typename Rule>
+[[gnu::always_inline]] inline void runRows(TargetRows dst, Extent extent, const Rule& rule) {
+  const size_t bytes = extent.length * Rule::kSample;
+  PieceSource sources[Rule::kSources];
+  rule.describe(sources);
+  if (bytes >= kVectorBytes && areApart(dst, bytes, extent.rows, sources, Rule::kSources)) {
+    if (std::is_same_v<Store, Cached> || !allAligned<Rule::kSample>(dst))
+      runApart<Cached>(dst, bytes, extent.rows, rule);
+    else
+      runApart<Store>(dst, bytes, extent.rows, rule);
+    return;
+  }
+  runInPieces(dst, extent,
+              {Rule::kSample, sources, Rule::kSources, &rule, InPieces<Rule>::make, InPieces<Rule>::runRow});
+}
+
+// Rows shorter than a vector that overlap no source.
+template <typename Rule>
+void runOnlyInPieces(TargetRows dst, Extent extent, const Rule& rule) {
+  PieceSource sources[Rule::kSources];
+  rule.describe(sources);
+  runInPieces(dst, extent, {Rule::kSample, sources, Rule::kSources, &rule, InPieces<Rule>::make, nullptr});
+}
+
+// An image of S samples, whose operation makes D samples of them.
 template <typename S, typename D>
 struct ImageRow {
   const Byte* first;
+  ptrdiff_t step;
+
+  explicit ImageRow(SourceRows rows) : first(rows.first), step(rows.step) {}
+  explicit ImageRow(const Byte* piece) : first(piece), step(0) {}
 
   static constexpr size_t kBlocks = 1;
+  static constexpr int kSources = 1;
   struct Phase {};
-  // Never less than a vector: pieces are gathered in steps of up to eight bytes, however few there are.
-  struct Room {
-    alignas(kHalf) Byte bytes[std::max(kHalf, kHalf / sizeof(D) * sizeof(S))];
-  };
   static constexpr size_t sourceBytes(size_t bytes) { return bytes / sizeof(D) * sizeof(S); }
 
   const Byte* operator()(size_t at) const { return first + sourceBytes(at); }
   Phase phase(size_t) const { return {}; }
   Bytes32 block(size_t at, Phase) const {
-    return std::is_same_v<S, float> ? load32(first + at) : load32Once(first + at);
+    return std::is_floating_point_v<S> || kVectorBytes == 32 ? load32(first + at) : load32Once(first + at);
   }
-  Bytes16 half(size_t at) const { return load16(first + at); }
-  size_t distance(const Byte* d, size_t bytes) const {
-    if (sizeof(S) != sizeof(D) || d == first) return bytes;
-    return std::min(bytes, static_cast<size_t>(d < first ? first - d : d - first));
-  }
-  ImageRow gathered(Room& room, size_t at, size_t bytes) const {
-    copyFew(room.bytes, (*this)(at), sourceBytes(bytes));
-    return {room.bytes};
-  }
+  VectorBytes vector(size_t at) const { return loadVector(first + at); }
+  void advance(int rows) { first = SourceRows{first, step}.row(rows); }
+  void describe(PieceSource* source) const { *source = {{first, step}, sizeof(S), sizeof(S) == sizeof(D)}; }
+  ImageRow onPieces(const Byte* const* pieces, size_t) const { return ImageRow(*pieces); }
 };
 
 // A constant pixel over and over: one whose size divides a block, or one of three samples.
@@ -157,23 +164,24 @@ struct ConstantRow {
   size_t start = 0;
 
   static constexpr size_t kBlocks = ofThree ? PixelPattern::kPeriod / kBlock : 1;
+  static constexpr int kSources = 0;
   using Phase = Bytes32;
-  struct Room {};
 
   const Byte* from(size_t at) const { return pattern.bytes + (start + at) % (kBlocks * kBlock); }
   Phase phase(size_t at) const { return load32(from(at)); }
   Bytes32 block(size_t, Phase phase) const { return phase; }
-  Bytes16 half(size_t at) const { return load16(from(at)); }
-  size_t distance(const Byte*, size_t bytes) const { return bytes; }
-  ConstantRow gathered(Room&, size_t at, size_t) const { return {pattern, start + at}; }
+  VectorBytes vector(size_t at) const { return loadVector(from(at)); }
+  void advance(int) {}
+  void describe(PieceSource*) const {}
+  ConstantRow onPieces(const Byte* const*, size_t at) const { return {pattern, start + at}; }
 };
 
-// Applies f, which takes vectors of T samples, to 32 bytes of each operand. Floats go at once; integers have
-// no vectors of that width and go by halves.
+// Applies f, which takes vectors of T samples, to 32 bytes of each operand. Floats go at once; integers go by
+// halves where the build has no wider ones.
 template <typename T, typename F, typename... Operand>
 auto applyToBlock(const F& f, Operand... operands) {
-  if constexpr (std::is_same_v<T, float>)
-    return asBytes(f(Floats8{asFloats(operands)}...).v);
+  if constexpr (std::is_floating_point_v<T> || kVectorBytes == 32)
+    return bytesOf(f(samplesOf<T>(operands)...));
   else
     return Halves32{bytesOf(f(samplesOf<T>(lowHalf(operands))...)),
                     bytesOf(f(samplesOf<T>(highHalf(operands))...))};
@@ -186,47 +194,75 @@ struct Binary {
   B b;
   F f;
 
-  static constexpr size_t kSample = sizeof(T);
-  static constexpr size_t periodOf(size_t x, size_t y) { return x > y ? x : y; }
-  static constexpr size_t kPeriod = periodOf(A::kBlocks, B::kBlocks);
+  static constexpr size_t kSample = sizeof(T), kPeriod = std::max(A::kBlocks, B::kBlocks);
+  static constexpr int kSources = A::kSources + B::kSources;
   struct Phase {
     typename A::Phase a;
     typename B::Phase b;
-  };
-  struct Room {
-    typename A::Room a;
-    typename B::Room b;
   };
 
   Phase phase(size_t at) const { return {a.phase(at), b.phase(at)}; }
   auto block(size_t at, const Phase& phase) const {
     return applyToBlock<T>(f, a.block(at, phase.a), b.block(at, phase.b));
   }
-  Bytes16 half(size_t at) const { return bytesOf(f(samplesOf<T>(a.half(at)), samplesOf<T>(b.half(at)))); }
-  size_t distance(const Byte* d, size_t bytes) const {
-    return std::min(a.distance(d, bytes), b.distance(d, bytes));
+  VectorBytes vector(size_t at) const {
+    return bytesOf(f(samplesOf<T>(a.vector(at)), samplesOf<T>(b.vector(at))));
   }
-  Binary gathered(Room& room, size_t at, size_t bytes) const {
-    return {a.gathered(room.a, at, bytes), b.gathered(room.b, at, bytes), f};
+  void advance(int rows) {
+    a.advance(rows);
+    b.advance(rows);
+  }
+  void describe(PieceSource* sources) const {
+    a.describe(sources);
+    b.describe(sources + A::kSources);
+  }
+  Binary onPieces(const Byte* const* pieces, size_t at) const {
+    return {a.onPieces(pieces, at), b.onPieces(pieces + A::kSources, at), f};
   }
 };
 
-// d = f(a), of S samples a sample D. f has block(p) and half(p): 32 and 16 bytes of results from the samples
-// that begin at p.
+// d = f(a), of S samples a sample D. f.vector(p) makes a vector of results from the samples that begin at p.
+// An f that thinks in sixteen bytes has half(p) and block(p) instead: 16 and 32 bytes of results.
+template <typename F, typename = void>
+inline constexpr bool kHasBlock = false;
+template <typename F>
+inline constexpr bool kHasBlock<F, decltype(static_cast<void>(std::declval<const F&>().block(nullptr)))> =
+    true;
+
+template <typename S, typename D, typename F>
+auto blockOf(const F& f, const Byte* p) {
+  if constexpr (kHasBlock<F>)
+    return f.block(p);
+  else if constexpr (kVectorBytes == kBlock)
+    return f.vector(p);
+  else
+    return Halves32{f.vector(p), f.vector(p + kVectorBytes / sizeof(D) * sizeof(S))};
+}
+template <typename F>
+VectorBytes vectorOf(const F& f, const Byte* p) {
+  if constexpr (!kHasBlock<F>)
+    return f.vector(p);
+  else if constexpr (kVectorBytes == kBlock)
+    return joined(f.block(p));
+  else
+    return f.half(p);
+}
+
 template <typename S, typename D, typename F>
 struct Unary {
   ImageRow<S, D> a;
   F f;
 
   static constexpr size_t kSample = sizeof(D), kPeriod = 1;
+  static constexpr int kSources = 1;
   struct Phase {};
-  using Room = typename ImageRow<S, D>::Room;
 
   Phase phase(size_t) const { return {}; }
-  auto block(size_t at, Phase) const { return f.block(a(at)); }
-  Bytes16 half(size_t at) const { return f.half(a(at)); }
-  size_t distance(const Byte* d, size_t bytes) const { return a.distance(d, bytes); }
-  Unary gathered(Room& room, size_t at, size_t bytes) const { return {a.gathered(room, at, bytes), f}; }
+  auto block(size_t at, Phase) const { return blockOf<S, D>(f, a(at)); }
+  VectorBytes vector(size_t at) const { return vectorOf(f, a(at)); }
+  void advance(int rows) { a.advance(rows); }
+  void describe(PieceSource* sources) const { a.describe(sources); }
+  Unary onPieces(const Byte* const* pieces, size_t at) const { return {a.onPieces(pieces, at), f}; }
 };
 
 // Another rule's results in the first bytes of every pixel; the others, alpha, keep what the destination has.
@@ -237,43 +273,44 @@ struct KeepAlpha {
   size_t start = 0;
 
   static constexpr size_t kSample = Rule::kSample, kPeriod = Rule::kPeriod;
+  static constexpr int kSources = Rule::kSources + 1;
   struct Phase {
     typename Rule::Phase rule;
     Bytes32 mask;
   };
-  struct Room {
-    typename Rule::Room rule;
-    ImageRow<Byte, Byte>::Room old;
-  };
-  struct Masks {
-    alignas(kBlock) Byte bytes[2 * kBlock];  // 0xFF where results go
-  };
-  static constexpr Masks masks() {
-    Masks m{};
-    for (size_t i = 0; i < sizeof m.bytes; ++i) m.bytes[i] = i % pixelBytes < usedBytes ? 0xFF : 0;
-    return m;
-  }
-  static constexpr Masks kMasks = masks();
+  static constexpr auto kUsed = pixelMask<pixelBytes, usedBytes, 2 * kBlock>();
 
-  const Byte* maskFrom(size_t at) const { return kMasks.bytes + (start + at) % pixelBytes; }
+  const Byte* maskFrom(size_t at) const { return kUsed.bytes + (start + at) % pixelBytes; }
   Phase phase(size_t at) const { return {rule.phase(at), load32(maskFrom(at))}; }
   auto block(size_t at, const Phase& phase) const {
     return ifThenElse(phase.mask, rule.block(at, phase.rule), old.block(at, {}));
   }
-  Bytes16 half(size_t at) const { return ifThenElse(load16(maskFrom(at)), rule.half(at), old.half(at)); }
-  size_t distance(const Byte* d, size_t bytes) const { return rule.distance(d, bytes); }
-  KeepAlpha gathered(Room& room, size_t at, size_t bytes) const {
-    return {rule.gathered(room.rule, at, bytes), old.gathered(room.old, at, bytes), start + at};
+  VectorBytes vector(size_t at) const {
+    return ifThenElse(loadVector(maskFrom(at)), rule.vector(at), old.vector(at));
+  }
+  void advance(int rows) {
+    rule.advance(rows);
+    old.advance(rows);
+  }
+  // The destination itself, which overlaps nothing that it should not.
+  void describe(PieceSource* sources) const {
+    rule.describe(sources);
+    sources[Rule::kSources] = {{old.first, old.step}, kSample, false};
+  }
+  KeepAlpha onPieces(const Byte* const* pieces, size_t at) const {
+    return {rule.onPieces(pieces, at), old.onPieces(pieces + Rule::kSources, at), start + at};
   }
 };
 
 // Runs a rule over the samples of a layout: all of them, or the colour of pixels with alpha.
 template <size_t pixelBytes, size_t usedBytes, typename Store = Cached, typename Rule>
-void runPixels(Byte* d, size_t bytes, const Rule& rule) {
+void runPixels(TargetRows dst, Extent samples, const Rule& rule) {
   if constexpr (usedBytes == pixelBytes)
-    runRow<Store>(d, bytes, rule);
+    runRows<Store>(dst, samples, rule);
   else
-    runRow<Store>(d, bytes, KeepAlpha<pixelBytes, usedBytes, Rule>{rule, {d}});
+    runRows<Store>(
+        dst, samples,
+        KeepAlpha<pixelBytes, usedBytes, Rule>{rule, ImageRow<Byte, Byte>(SourceRows{dst.first, dst.step})});
 }
 
 }  // namespace lumi::simd

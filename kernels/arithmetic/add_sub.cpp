@@ -31,8 +31,8 @@ struct Combine<Add> {
     else
       return {averageUp(a, b), a ^ b};
   }
-  template <typename Floats>
-  static Floats ofFloats(Floats a, Floats b) {
+  template <typename V>
+  static V ofFloats(V a, V b) {
     return a + b;
   }
 };
@@ -52,8 +52,8 @@ struct Combine<Sub> {
       return {averageUp(difference, broadcast<T>(0)), difference};
     }
   }
-  template <typename Floats>
-  static Floats ofFloats(Floats a, Floats b) {
+  template <typename V>
+  static V ofFloats(V a, V b) {
     return b - a;
   }
 };
@@ -62,7 +62,7 @@ struct Combine<Sub> {
 template <typename T>
 Samples<T> shiftedAsWords(Samples<T> x, Shift bits) {
   if constexpr (sizeof(T) == 1)
-    return {(U16{x.v} >> bits).v};
+    return as<T>(as<uint16_t>(x) >> bits);
   else
     return x >> bits;
 }
@@ -74,12 +74,12 @@ class RightShift {
   explicit RightShift(int bits) : shift_(bits), kept_(broadcast(static_cast<uint8_t>(0xFF >> bits))) {}
   Samples<T> operator()(Samples<T> x) const {
     const Samples<T> shifted = shiftedAsWords(x, shift_);
-    return sizeof(T) == 1 ? shifted & Samples<T>{kept_.v} : shifted;
+    return sizeof(T) == 1 ? shifted & as<T>(kept_) : shifted;
   }
 
  private:
   Shift shift_;
-  U8 kept_;
+  Samples<uint8_t> kept_;
 };
 
 template <typename T>
@@ -89,14 +89,14 @@ class LeftShift {
       : shift_(bits), kept_(broadcast(static_cast<uint8_t>(uint32_t{0xFF} << bits))) {}
   Samples<T> operator()(Samples<T> x) const {
     if constexpr (sizeof(T) == 1)
-      return Samples<T>{(U16{x.v} << shift_).v} & kept_;
+      return as<T>(as<uint16_t>(x) << shift_) & kept_;
     else
       return x << shift_;
   }
 
  private:
   Shift shift_;
-  U8 kept_;
+  Samples<uint8_t> kept_;
 };
 
 template <typename Op, typename T>
@@ -106,8 +106,8 @@ struct Saturated {
 
 template <typename Op>
 struct Saturated<Op, float> {
-  template <typename Floats>
-  Floats operator()(Floats a, Floats b) const {
+  template <typename V>
+  V operator()(V a, V b) const {
     return Combine<Op>::ofFloats(a, b);
   }
 };
@@ -214,43 +214,37 @@ void withFunction(Scaling scaling, Run run) {
   }
 }
 
-template <typename T, typename F, typename A>
-Binary<T, F, A, ImageRow<T, T>> binary(A a, const Byte* b, F f) {
-  return {a, {b}, f};
-}
-
-template <typename T, int alpha, typename Store = Cached, typename Rule>
-void run(Byte* dst, size_t samples, const Rule& rule) {
+template <typename T, int alpha, typename Store, typename F, typename A>
+void run(TargetRows dst, Extent samples, A a, SourceRows b, F f) {
   constexpr size_t pixel = alpha ? 4 * alpha * sizeof(T) : sizeof(T);
-  runPixels<pixel, pixel - alpha * sizeof(T), Store>(dst, samples * sizeof(T), rule);
+  const ImageRow<T, T> second(b);
+  runPixels<pixel, pixel - alpha * sizeof(T), Store>(dst, samples,
+                                                     Binary<T, F, A, ImageRow<T, T>>{a, second, f});
 }
 
 }  // namespace
 
 template <typename Op, typename T, int alpha>
-[[gnu::flatten]] void combineRows(const uint8_t* a, const uint8_t* b, uint8_t* dst, size_t samples,
-                                  Scaling scaling) {
-  withFunction<Op, T>(scaling,
-                      [&](auto f) { run<T, alpha>(dst, samples, binary<T>(ImageRow<T, T>{a}, b, f)); });
+void combineRows(SourceRows a, SourceRows b, TargetRows dst, Extent samples, Scaling scaling) {
+  withFunction<Op, T>(scaling, [&](auto f) { run<T, alpha, Cached>(dst, samples, ImageRow<T, T>(a), b, f); });
 }
 
 template <typename Op, typename T, int alpha, bool ofThree, bool streaming>
-[[gnu::flatten]] void combineWithConstant(const PixelPattern& a, const uint8_t* b, uint8_t* dst,
-                                          size_t samples, Scaling scaling) {
+void combineWithConstant(const PixelPattern& a, SourceRows b, TargetRows dst, Extent samples,
+                         Scaling scaling) {
   using Store = std::conditional_t<streaming, Streaming, Cached>;
-  const ConstantRow<ofThree> constant{a};
   withFunction<Op, T>(scaling,
-                      [&](auto f) { run<T, alpha, Store>(dst, samples, binary<T>(constant, b, f)); });
+                      [&](auto f) { run<T, alpha, Store>(dst, samples, ConstantRow<ofThree>{a}, b, f); });
 }
 
-#define LUMI_IMAGES(T, alpha)                                                                 \
-  template void combineRows<Add, T, alpha>(const Byte*, const Byte*, Byte*, size_t, Scaling); \
-  template void combineRows<Sub, T, alpha>(const Byte*, const Byte*, Byte*, size_t, Scaling);
-#define LUMI_CONSTANT(T, ...)                                                                             \
-  template void combineWithConstant<Add, T, __VA_ARGS__>(const PixelPattern&, const Byte*, Byte*, size_t, \
-                                                         Scaling);                                        \
-  template void combineWithConstant<Sub, T, __VA_ARGS__>(const PixelPattern&, const Byte*, Byte*, size_t, \
-                                                         Scaling);
+#define LUMI_IMAGES(T, alpha)                                                                    \
+  template void combineRows<Add, T, alpha>(SourceRows, SourceRows, TargetRows, Extent, Scaling); \
+  template void combineRows<Sub, T, alpha>(SourceRows, SourceRows, TargetRows, Extent, Scaling);
+#define LUMI_CONSTANT(T, ...)                                                                         \
+  template void combineWithConstant<Add, T, __VA_ARGS__>(const PixelPattern&, SourceRows, TargetRows, \
+                                                         Extent, Scaling);                            \
+  template void combineWithConstant<Sub, T, __VA_ARGS__>(const PixelPattern&, SourceRows, TargetRows, \
+                                                         Extent, Scaling);
 #define LUMI_WHOLE(T) LUMI_IMAGES(T, 0) LUMI_CONSTANT(T, 0, false, false) LUMI_CONSTANT(T, 0, true, false)
 #define LUMI_ALPHA(T, samples) LUMI_IMAGES(T, samples) LUMI_CONSTANT(T, samples, false, false)
 LUMI_WHOLE(uint8_t)

@@ -2,10 +2,8 @@
 // Row kernels of addition and subtraction.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-
 #include "kernels/pattern.hpp"
+#include "kernels/rows.hpp"
 #include "kernels/scaling.hpp"
 
 namespace lumi {
@@ -16,16 +14,16 @@ struct Add {};
 // before they are scaled.
 struct Sub {};
 
-// dst = a op b for `samples` samples of type T; where alpha is not 0, it is the number of samples at the end
-// of every pixel (of four times as many) that stay. Floats take no scaling. dst may be a or b; where it
-// overlaps them otherwise, the samples are made one by one in order.
+// dst = a op b for samples of type T; where alpha is not 0, it is the number of samples at the end of every
+// pixel (of four times as many) that stay. Floats take no scaling. dst may be a or b; where rows overlap
+// otherwise, their samples are made one by one in order.
 template <typename Op, typename T, int alpha>
-void combineRows(const uint8_t* a, const uint8_t* b, uint8_t* dst, size_t samples, Scaling scaling);
+void combineRows(SourceRows a, SourceRows b, TargetRows dst, Extent samples, Scaling scaling);
 
 // The same with a constant pixel as the first operand: of three samples, real or complex, or of a power of
 // two. A streaming kernel's stores bypass the cache.
 template <typename Op, typename T, int alpha, bool ofThree, bool streaming = false>
-void combineWithConstant(const PixelPattern& a, const uint8_t* b, uint8_t* dst, size_t samples,
+void combineWithConstant(const PixelPattern& a, SourceRows b, TargetRows dst, Extent samples,
                          Scaling scaling);
 
 }  // namespace lumi

@@ -22,16 +22,16 @@ struct FromHigh {
 // What becomes of a sample that is all ones for a 1 bit, and zero for a 0 bit.
 struct AsItIs {
   template <typename D>
-  Samples<D> operator()(Samples<D> mask) const {
+  Samples16<D> operator()(Samples16<D> mask) const {
     return mask;
   }
 };
 template <typename D>
 struct OneOfTwo {
-  Samples<D> zero, difference;
+  Samples16<D> zero, difference;
   OneOfTwo(D zeroValue, D oneValue)
-      : zero(broadcast(zeroValue)), difference(broadcast(static_cast<D>(zeroValue ^ oneValue))) {}
-  Samples<D> operator()(Samples<D> mask) const { return zero ^ (mask & difference); }
+      : zero(broadcast16(zeroValue)), difference(broadcast16(static_cast<D>(zeroValue ^ oneValue))) {}
+  Samples16<D> operator()(Samples16<D> mask) const { return zero ^ (mask & difference); }
 };
 
 // A row of D samples made of a row of bits. Every block of a phase begins at the same bit of a byte: a
@@ -39,10 +39,11 @@ struct OneOfTwo {
 template <typename D, typename Order, typename Choice>
 struct Expand {
   const Byte* src;
+  ptrdiff_t step;
   size_t start;  // the first pixel's bit
   Choice choice;
 
-  static constexpr size_t kSample = sizeof(D), kPeriod = 1;
+  static constexpr size_t kSample = sizeof(D), kPeriod = 1, kHalf = 16;
   static constexpr size_t kHalfPixels = kHalf / sizeof(D), kBlockPixels = 2 * kHalfPixels;
   // A block's bits are in this many bytes, and in one more if they begin within a byte. As nothing behind
   // the last one may be read, it comes by a second load of as many bytes.
@@ -65,21 +66,17 @@ struct Expand {
 
   struct Lanes {
     Bytes16 byte;
-    Samples<D> bit;
+    Samples16<D> bit;
     // Of samples whose first one has bit `first` of the first byte.
     explicit Lanes(size_t first)
         : byte(load16(kTables.byte + first * sizeof(D))), bit{load16(kTables.bit + first * sizeof(D))} {}
     Bytes16 results(Bytes16 bytes, const Choice& choose) const {
-      return choose(isEqual(Samples<D>{shuffleBytes(bytes, byte)} & bit, bit)).v;
+      return choose(isEqual(Samples16<D>{shuffleBytes(bytes, byte)} & bit, bit)).v;
     }
   };
   struct Phase {
     Lanes low, high;
   };
-  struct Room {
-    Byte bytes[kHalf];  // more than there can be, as few bytes are copied in steps of up to eight
-  };
-
   size_t bitOf(size_t at) const { return start + at / sizeof(D); }
   Phase phase(size_t at) const {
     const size_t first = bitOf(at) % 8;
@@ -96,13 +93,32 @@ struct Expand {
     for (size_t i = last / 8 + 1; i-- > first / 8;) bytes = bytes << 8 | src[i];
     return Lanes(first % 8).results(bytesOfWord(bytes), choice);
   }
-  size_t distance(const Byte*, size_t bytes) const { return bytes; }
-  Expand gathered(Room& room, size_t at, size_t bytes) const {
-    const size_t first = bitOf(at), last = first + bytes / sizeof(D) - 1;
-    copyFew(room.bytes, src + first / 8, last / 8 - first / 8 + 1);
-    return {room.bytes, first % 8, choice};
+  VectorBytes vector(size_t at) const {
+    if constexpr (kVectorBytes == kBlock)
+      return joined(block(at, phase(at)));
+    else
+      return half(at);
   }
+  void advance(int rows) { src = SourceRows{src, step}.row(rows); }
 };
+
+template <typename D, typename Order, typename Choice>
+void expand(SourceRows src, unsigned offset, TargetRows dst, Extent pixels, Choice choice) {
+  using Rule = Expand<D, Order, Choice>;
+  const size_t bytes = pixels.length * sizeof(D);
+  if (bytes >= kVectorBytes)
+    return runApart<Cached>(dst, bytes, pixels.rows, Rule{src.first, src.step, offset, choice});
+  // Of rows shorter than a vector nothing behind the last bit may be read.
+  walkRows(
+      pixels.rows,
+      [&, length = pixels.length](const Byte* s, Byte* d) {
+        Byte bits[16] = {}, results[kVectorBytes];
+        std::memcpy(bits, s, (offset + length - 1) / 8 + 1);
+        storeVector(results, Rule{bits, 0, offset, choice}.vector(0));
+        std::memcpy(d, results, bytes);
+      },
+      src, dst);
+}
 
 // A row of samples, of which some are compared at a time: bit k of a result tells whether sample x + k is
 // above the threshold.
@@ -124,7 +140,7 @@ class Comparison {
     if (x + kByte <= pixels_) return byte(x);
     if (x + count >= kByte) return byte(x + count - kByte) >> (kByte - count);
     Byte samples[kBlock] = {};  // of any type eight
-    copyFew(samples, at(x), count * sizeof(S));
+    std::memcpy(samples, at(x), count * sizeof(S));
     return byteAt(samples);
   }
 
@@ -143,19 +159,8 @@ void putBits(Byte* d, uint32_t bits, size_t at, size_t count) {
   *d = static_cast<Byte>((*d & ~mask) | (bits << at & mask));
 }
 
-}  // namespace
-
-template <typename D>
-void expandBitsRow(const uint8_t* src, unsigned offset, uint8_t* dst, size_t pixels, D zero, D one) {
-  runRow(dst, pixels * sizeof(D), Expand<D, FromLow, OneOfTwo<D>>{src, offset, {zero, one}});
-}
-
-void expandBitsToFullRow(const uint8_t* src, unsigned offset, uint8_t* dst, size_t pixels) {
-  runRow(dst, pixels, Expand<uint8_t, FromHigh, AsItIs>{src, offset, {}});
-}
-
 template <typename S>
-void bitsAboveRow(const uint8_t* src, uint8_t* dst, unsigned offset, size_t pixels, S threshold) {
+void setBitsAbove(const Byte* src, Byte* dst, unsigned offset, size_t pixels, S threshold) {
   const Comparison<S> row(src, pixels, threshold);
   size_t x = 0;
   if (offset != 0) {
@@ -170,12 +175,30 @@ void bitsAboveRow(const uint8_t* src, uint8_t* dst, unsigned offset, size_t pixe
   if (x < pixels) putBits(dst, row.few(x, pixels - x), 0, pixels - x);
 }
 
-template void expandBitsRow<uint8_t>(const Byte*, unsigned, Byte*, size_t, uint8_t, uint8_t);
-template void expandBitsRow<uint16_t>(const Byte*, unsigned, Byte*, size_t, uint16_t, uint16_t);
-template void expandBitsRow<uint32_t>(const Byte*, unsigned, Byte*, size_t, uint32_t, uint32_t);
-template void bitsAboveRow<uint8_t>(const Byte*, Byte*, unsigned, size_t, uint8_t);
-template void bitsAboveRow<int16_t>(const Byte*, Byte*, unsigned, size_t, int16_t);
-template void bitsAboveRow<uint16_t>(const Byte*, Byte*, unsigned, size_t, uint16_t);
-template void bitsAboveRow<float>(const Byte*, Byte*, unsigned, size_t, float);
+}  // namespace
+
+template <typename D>
+void expandBitsRows(SourceRows src, unsigned offset, TargetRows dst, Extent pixels, D zero, D one) {
+  expand<D, FromLow>(src, offset, dst, pixels, OneOfTwo<D>(zero, one));
+}
+
+void expandBitsToFullRows(SourceRows src, unsigned offset, TargetRows dst, Extent pixels) {
+  expand<uint8_t, FromHigh>(src, offset, dst, pixels, AsItIs());
+}
+
+template <typename S>
+void bitsAboveRows(SourceRows src, TargetRows dst, unsigned offset, Extent pixels, S threshold) {
+  walkRows(
+      pixels.rows, [&](const Byte* s, Byte* d) { setBitsAbove(s, d, offset, pixels.length, threshold); }, src,
+      dst);
+}
+
+template void expandBitsRows<uint8_t>(SourceRows, unsigned, TargetRows, Extent, uint8_t, uint8_t);
+template void expandBitsRows<uint16_t>(SourceRows, unsigned, TargetRows, Extent, uint16_t, uint16_t);
+template void expandBitsRows<uint32_t>(SourceRows, unsigned, TargetRows, Extent, uint32_t, uint32_t);
+template void bitsAboveRows<uint8_t>(SourceRows, TargetRows, unsigned, Extent, uint8_t);
+template void bitsAboveRows<int16_t>(SourceRows, TargetRows, unsigned, Extent, int16_t);
+template void bitsAboveRows<uint16_t>(SourceRows, TargetRows, unsigned, Extent, uint16_t);
+template void bitsAboveRows<float>(SourceRows, TargetRows, unsigned, Extent, float);
 
 }  // namespace lumi

@@ -3,21 +3,20 @@
 // kernel says. Bytes without a bit of the row are not touched. src and dst do not overlap.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
+#include "kernels/rows.hpp"
 
 namespace lumi {
 
 // Bits, counted from the low end, become one of two samples of D, an unsigned integer that stands for any
 // type of its size.
 template <typename D>
-void expandBitsRow(const uint8_t* src, unsigned offset, uint8_t* dst, size_t pixels, D zero, D one);
+void expandBitsRows(SourceRows src, unsigned offset, TargetRows dst, Extent pixels, D zero, D one);
 
 // Bits, counted from the high end, become 0 or 255.
-void expandBitsToFullRow(const uint8_t* src, unsigned offset, uint8_t* dst, size_t pixels);
+void expandBitsToFullRows(SourceRows src, unsigned offset, TargetRows dst, Extent pixels);
 
 // Samples of S that are above the threshold set their bit, counted from the low end, others clear it.
 template <typename S>
-void bitsAboveRow(const uint8_t* src, uint8_t* dst, unsigned offset, size_t pixels, S threshold);
+void bitsAboveRows(SourceRows src, TargetRows dst, unsigned offset, Extent pixels, S threshold);
 
 }  // namespace lumi

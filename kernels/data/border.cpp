@@ -62,20 +62,10 @@ void repeatWhole(Bytes16 pixel, Byte* dst, size_t bytes) {
 // not fetch the lines that it overwrites.
 constexpr size_t kFarStringMove = 5000;
 
-struct Mask {
-  alignas(kVector) Byte bytes[kVector];  // 0xFF where a byte is stored
-};
-template <int pixelBytes, int usedBytes>
-constexpr Mask usedMask() {
-  Mask m{};
-  for (size_t i = 0; i < kVector; ++i) m.bytes[i] = i % pixelBytes < usedBytes ? 0xFF : 0;
-  return m;
-}
-
 template <int pixelBytes, int usedBytes>
 void repeatPart(Bytes16 pixel, Byte* dst, size_t bytes) {
   static_assert(kHalf % pixelBytes == 0);
-  static constexpr Mask used = usedMask<pixelBytes, usedBytes>();
+  static constexpr auto used = pixelMask<pixelBytes, usedBytes, kVector>();
   static constexpr Control all = repeatControl<pixelBytes>(0);
   const Bytes16 v = shuffleBytes(pixel, vectorOf(all));
   const Bytes32 both = joined(v, v), mask = load32(used.bytes);
@@ -110,7 +100,7 @@ template <int sampleBytes>
 template <int sampleBytes, int stored, int used>
 inline void moveInline(const Byte* src, Byte* dst, size_t pixels, [[maybe_unused]] bool far) {
   if constexpr (used < stored) {
-    if (src != dst) copyChosenRow<sampleBytes, stored, used>(src, dst, pixels);
+    if (src != dst) copyChosenRows<sampleBytes, stored, used>({src, 0}, {dst, 0}, {pixels, 1});
   } else {
     const size_t bytes = pixels * sampleBytes * stored;
     const auto distance = static_cast<size_t>(src < dst ? dst - src : src - dst);

@@ -10,44 +10,56 @@ namespace {
 
 using namespace simd;
 
-// Results of a vector's size and of two, from the S samples that begin at p.
+// Results from the S samples that begin at p.
 template <typename S, typename D>
 struct Converted {
-  static Bytes16 half(const Byte* p) {
+  static VectorBytes vector(const Byte* p) {
     if constexpr (std::is_same_v<D, float>)
       return bytesOf(floatsOf(loadAs<S, std::conditional_t<std::is_same_v<S, uint32_t>, S, int32_t>>(p)));
     else if constexpr (sizeof(D) >= sizeof(S))
       return loadAs<S, D>(p).v;
-    else if constexpr (2 * sizeof(D) == sizeof(S))
-      return narrowSaturated<D>(loadTwo<S>(p)).v;
     else
-      return narrowSaturated<D>(loadTwo<S>(p), loadTwo<S>(p + kBlock)).v;
-  }
-  static auto block(const Byte* p) {
-    if constexpr (std::is_same_v<D, float> && std::is_same_v<S, int32_t>) {
-      return bytesOf(floatsOf(Ints8{load32(p)}));
-    } else if constexpr (std::is_same_v<S, uint8_t> && sizeof(D) == 2) {
-      const U8 x{load16Once(p)};
-      return Halves32{widenLow(x).v, widenHigh(x).v};
-    } else {
-      return Halves32{half(p), half(p + kSourceOfHalf<S, D>)};
-    }
+      return loadNarrow<S, D>(p).v;
   }
 };
+
+// Two vectors of words by one load.
+struct WordsOfBytes {
+  static Bytes16 half(const Byte* p) { return widen<uint16_t>(U8{loadFew<8>(p)}).v; }
+  static Halves32 block(const Byte* p) {
+    const U8 x{load16Once(p)};
+    return {widenLow(x).v, widenHigh(x).v};
+  }
+};
+
+struct FloatsOfInts {
+  static Bytes16 half(const Byte* p) { return bytesOf(floatsOf(S32{load16(p)})); }
+  static Bytes32 block(const Byte* p) { return bytesOf(floatsOf(Ints8{load32(p)})); }
+};
+
+template <typename S, typename D>
+auto conversion() {
+  if constexpr (std::is_same_v<S, uint8_t> && sizeof(D) == 2 && kVectorBytes == 16)
+    return WordsOfBytes();
+  else if constexpr (std::is_same_v<S, int32_t> && std::is_same_v<D, float>)
+    return FloatsOfInts();
+  else
+    return Converted<S, D>();
+}
 
 }  // namespace
 
 template <typename S, typename D, int alpha, bool streaming>
-void convertRow(const uint8_t* src, uint8_t* dst, size_t samples) {
+void convertRows(SourceRows src, TargetRows dst, Extent samples) {
   using Store = std::conditional_t<streaming, Streaming, Cached>;
-  runConversion<S, D, alpha, 4, Store>(src, dst, samples, Converted<S, D>());
+  runConversion<S, D, alpha, 4, Store>(src, dst, samples, conversion<S, D>());
 }
 
-#define LUMI_PLAIN(S, D) template void convertRow<S, D, 0, false>(const Byte*, Byte*, size_t);
+#define LUMI_PLAIN(S, D) template void convertRows<S, D, 0, false>(SourceRows, TargetRows, Extent);
 #define LUMI_ALPHA(S, D) \
-  LUMI_PLAIN(S, D) template void convertRow<S, D, 1, false>(const Byte*, Byte*, size_t);
+  LUMI_PLAIN(S, D) template void convertRows<S, D, 1, false>(SourceRows, TargetRows, Extent);
 #define LUMI_STREAMING(S, D) \
-  LUMI_ALPHA(S, D) template void convertRow<S, D, 0, true>(const Byte*, Byte*, size_t);
+  LUMI_ALPHA(S, D) template void convertRows<S, D, 0, true>(SourceRows, TargetRows, Extent);
 LUMI_STREAMING(uint8_t, int16_t)
 LUMI_STREAMING(uint8_t, uint16_t)
 LUMI_STREAMING(uint8_t, int32_t)

@@ -1,19 +1,18 @@
 // SPDX-License-Identifier: MIT
-// Row kernels of the conversions between sample types. All convert `samples` samples; where alpha is not 0
+// Row kernels of the conversions between sample types. Where alpha is not 0
 // the last sample of every four is alpha, which stays in the destination. Rows of samples of equal size may
 // be one row, and where they overlap otherwise the samples are made one by one in order; other rows do not
 // overlap.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
+#include "kernels/rows.hpp"
 
 namespace lumi {
 
 // From integers S, limited to D; to floats by the rounding control. A streaming kernel's stores bypass the
 // cache.
 template <typename S, typename D, int alpha, bool streaming = false>
-void convertRow(const uint8_t* src, uint8_t* dst, size_t samples);
+void convertRows(SourceRows src, TargetRows dst, Extent samples);
 
 // How floats become integers. The rounding control has to be set: to truncate where ties go away from zero.
 struct FloatConversion {
@@ -24,7 +23,7 @@ struct FloatConversion {
 
 // From floats, limited to D; NaN gives the lowest value of D.
 template <typename D, int alpha>
-void convertFloatRow(const uint8_t* src, uint8_t* dst, size_t samples, FloatConversion how);
+void convertFloatRows(SourceRows src, TargetRows dst, Extent samples, FloatConversion how);
 
 // How an integer x of the source becomes one of the destination.
 struct Rescaling {
@@ -41,6 +40,6 @@ struct Rescaling {
 
 // From integers S, scaled and then limited to D.
 template <typename S, typename D>
-void convertScaledRow(const uint8_t* src, uint8_t* dst, size_t samples, Rescaling how);
+void convertScaledRows(SourceRows src, TargetRows dst, Extent samples, Rescaling how);
 
 }  // namespace lumi

@@ -10,14 +10,14 @@ namespace {
 using namespace simd;
 
 struct AsControlled {
-  template <typename Floats>
-  static auto round(Floats x) {
+  template <typename V>
+  static auto round(V x) {
     return rounded(x);
   }
 };
 struct AwayFromZero {
-  template <typename Floats>
-  static auto round(Floats x) {
+  template <typename V>
+  static auto round(V x) {
     return roundedAway(x);
   }
 };
@@ -26,10 +26,10 @@ template <bool isScaled>
 struct Factor {
   float factor;
 
-  template <typename Floats>
-  Floats operator()(Floats x) const {
+  template <typename V>
+  V operator()(V x) const {
     if constexpr (isScaled)
-      return x * broadcastFloat<Floats>(factor);
+      return x * broadcastFloat<V>(factor);
     else
       return x;
   }
@@ -38,71 +38,84 @@ struct Factor {
 // To D as dwords, limited from above. The rest of the limits comes with narrower samples.
 template <typename D>
 struct Limited {
-  template <typename Rounding, typename Floats>
-  static auto round(Floats x) {
+  template <typename Rounding, typename V>
+  static auto round(V x) {
     constexpr float highest = std::numeric_limits<D>::max();
-    return Rounding::round(limitedFromAbove(x, broadcastFloat<Floats>(highest)));
+    return Rounding::round(min(broadcastFloat<V>(highest), x));
   }
 };
 // From 2^31 on the conversion gives INT32_MIN, the complement of the limit.
 template <>
 struct Limited<int32_t> {
-  template <typename Rounding, typename Floats>
-  static auto round(Floats x) {
-    return Rounding::round(x) ^ intsOf(isAtLeast(x, broadcastFloat<Floats>(0x1p31F)));
+  template <typename Rounding, typename V>
+  static auto round(V x) {
+    return Rounding::round(x) ^ intsOf(isAtLeast(x, broadcastFloat<V>(0x1p31F)));
   }
 };
 // From 2^31 on every float is an integer: what is above is converted, and the top bit added. From 2^32 on
 // the conversion gives the top bit alone, and the limit takes its place.
 template <>
 struct Limited<uint32_t> {
-  template <typename Rounding, typename Floats>
-  static auto round(Floats x) {
-    const Floats middle = broadcastFloat<Floats>(0x1p31F), positive = positivePart(x);
-    const Floats isHigh = isAtLeast(positive, middle), topBit = isHigh & broadcastFloat<Floats>(-0.0F);
+  template <typename Rounding, typename V>
+  static auto round(V x) {
+    const V middle = broadcastFloat<V>(0x1p31F), positive = max(x, broadcastFloat<V>(0));
+    const V isHigh = isAtLeast(positive, middle), topBit = isHigh & broadcastFloat<V>(-0.0F);
     const auto low = Rounding::round(positive - (isHigh & middle));
-    return (low ^ intsOf(topBit)) | intsOf(isAtLeast(positive, broadcastFloat<Floats>(0x1p32F)));
+    return (low ^ intsOf(topBit)) | intsOf(isAtLeast(positive, broadcastFloat<V>(0x1p32F)));
   }
 };
 
 template <typename D, typename Rounding, bool isScaled>
-struct FromFloats {
+struct AsInts {
   Factor<isScaled> scaled;
 
-  template <typename Floats>
-  auto rounded(Floats x) const {
+  template <typename V>
+  auto operator()(V x) const {
     return Limited<D>::template round<Rounding>(scaled(x));
   }
-  Ints8 at(const Byte* p, size_t vector) const { return rounded(loadFloats8(p + vector * kBlock)); }
+};
 
-  Bytes16 half(const Byte* p) const {
-    if constexpr (sizeof(D) == 4) {
-      return rounded(loadFloats4(p)).v;
-    } else if constexpr (sizeof(D) == 2) {
-      const Ints8 x = at(p, 0);
-      return narrowSaturated<D>(lowHalf(x), highHalf(x)).v;
-    } else {
-      const Ints8 x = at(p, 0), y = at(p, 1);
-      return narrowSaturated<D>(lowHalf(x), highHalf(x), lowHalf(y), highHalf(y)).v;
-    }
+template <typename Ints>
+struct ToDwords {
+  Ints ints;
+
+  Bytes16 half(const Byte* p) const { return ints(loadFloats4(p)).v; }
+  Bytes32 block(const Byte* p) const { return ints(loadFloats8(p)).v; }
+};
+
+template <typename D, typename Ints>
+struct ToNarrow {
+  Ints ints;
+
+  Ints8 at(const Byte* p, size_t i) const { return ints(loadFloats8(p + i * kBlock)); }
+  template <typename T>
+  Samples16<T> words(const Byte* p, size_t i) const {
+    const Ints8 x = at(p, i);
+    return narrowSaturated<T>(lowHalf(x), highHalf(x));
   }
-  auto block(const Byte* p) const {
-    if constexpr (sizeof(D) == 4)
-      return at(p, 0).v;
+  VectorBytes vector(const Byte* p) const {
+    if constexpr (kVectorBytes == kBlock && sizeof(D) == 2)
+      return narrowSaturated<D>(at(p, 0), at(p, 1)).v;
+    else if constexpr (kVectorBytes == kBlock)
+      return narrowSaturated<D>(at(p, 0), at(p, 1), at(p, 2), at(p, 3)).v;
+    else if constexpr (sizeof(D) == 2)
+      return words<D>(p, 0).v;
     else
-      return Halves32{half(p), half(p + kSourceOfHalf<float, D>)};
+      return narrowSaturated<D>(words<int16_t>(p, 0), words<int16_t>(p, 1)).v;
   }
 };
 
 template <typename D, int alpha, typename Rounding, bool isScaled>
-void run(const Byte* src, Byte* dst, size_t samples, float factor) {
-  runConversion<float, D, alpha>(src, dst, samples, FromFloats<D, Rounding, isScaled>{{factor}});
+void run(SourceRows src, TargetRows dst, Extent samples, float factor) {
+  using Ints = AsInts<D, Rounding, isScaled>;
+  using Conversion = std::conditional_t<sizeof(D) == 4, ToDwords<Ints>, ToNarrow<D, Ints>>;
+  runConversion<float, D, alpha>(src, dst, samples, Conversion{{{factor}}});
 }
 
 }  // namespace
 
 template <typename D, int alpha>
-void convertFloatRow(const uint8_t* src, uint8_t* dst, size_t samples, FloatConversion how) {
+void convertFloatRows(SourceRows src, TargetRows dst, Extent samples, FloatConversion how) {
   // Members with alpha have no factor.
   if constexpr (alpha == 0) {
     if (how.isScaled)
@@ -115,9 +128,9 @@ void convertFloatRow(const uint8_t* src, uint8_t* dst, size_t samples, FloatConv
     run<D, alpha, AsControlled, false>(src, dst, samples, 1);
 }
 
-#define LUMI_PLAIN(D) template void convertFloatRow<D, 0>(const Byte*, Byte*, size_t, FloatConversion);
+#define LUMI_PLAIN(D) template void convertFloatRows<D, 0>(SourceRows, TargetRows, Extent, FloatConversion);
 #define LUMI_ALPHA(D) \
-  LUMI_PLAIN(D) template void convertFloatRow<D, 1>(const Byte*, Byte*, size_t, FloatConversion);
+  LUMI_PLAIN(D) template void convertFloatRows<D, 1>(SourceRows, TargetRows, Extent, FloatConversion);
 LUMI_ALPHA(uint8_t)
 LUMI_ALPHA(int8_t)
 LUMI_ALPHA(uint16_t)

@@ -99,7 +99,7 @@ class Divided {
   explicit Divided(int s) : divided_(s) {}
   Samples<W> operator()(Samples<W> x) const {
     if constexpr (std::is_signed_v<W>)
-      return withSign(Samples<W>{divided_(magnitude(x)).v}, x);
+      return withSign(as<W>(divided_(magnitude(x))), x);
     else
       return divided_(x);
   }
@@ -113,9 +113,9 @@ struct Rescaled {
   F f;
   using W = WorkOf<S>;
   Samples<W> at(const Byte* p, size_t vector) const {
-    return f(loadAs<S, W>(p + vector * (kHalf / sizeof(W) * sizeof(S))));
+    return f(loadAs<S, W>(p + vector * (kVectorBytes / sizeof(W) * sizeof(S))));
   }
-  Bytes16 half(const Byte* p) const {
+  VectorBytes vector(const Byte* p) const {
     if constexpr (sizeof(W) == sizeof(D))
       return narrowSaturated<D>(at(p, 0)).v;
     else if constexpr (sizeof(W) == 2 * sizeof(D))
@@ -123,13 +123,12 @@ struct Rescaled {
     else
       return narrowSaturated<D>(at(p, 0), at(p, 1), at(p, 2), at(p, 3)).v;
   }
-  Halves32 block(const Byte* p) const { return {half(p), half(p + kSourceOfHalf<S, D>)}; }
 };
 
 }  // namespace
 
 template <typename S, typename D>
-[[gnu::flatten]] void convertScaledRow(const uint8_t* src, uint8_t* dst, size_t samples, Rescaling how) {
+void convertScaledRows(SourceRows src, TargetRows dst, Extent samples, Rescaling how) {
   using W = WorkOf<S>;
   const auto run = [&](auto f) {
     runConversion<S, D, 0, 2>(src, dst, samples, Rescaled<S, D, decltype(f)>{f});
@@ -149,7 +148,7 @@ template <typename S, typename D>
   }
 }
 
-#define LUMI_CONVERT(S, D) template void convertScaledRow<S, D>(const Byte*, Byte*, size_t, Rescaling);
+#define LUMI_CONVERT(S, D) template void convertScaledRows<S, D>(SourceRows, TargetRows, Extent, Rescaling);
 LUMI_CONVERT(uint8_t, int8_t)
 LUMI_CONVERT(int16_t, int8_t)
 LUMI_CONVERT(uint16_t, int8_t)

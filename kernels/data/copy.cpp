@@ -12,7 +12,7 @@ using namespace simd;
 constexpr size_t kVector = sizeof(Bytes32);
 
 // The ends go unaligned, the aligned middle four vectors at a time.
-void copyForwards(const Byte* src, Byte* dst, size_t bytes) {
+[[gnu::always_inline]] inline void copyForwards(const Byte* src, Byte* dst, size_t bytes) {
   const Bytes32 first = load32(src), last = load32(src + bytes - kVector);
   Byte* const end = dst + bytes;
   const size_t head = reachPastBoundary(dst, kVector);
@@ -69,18 +69,31 @@ constexpr size_t kStringMove = 0x7000;
 
 }  // namespace
 
-void copyRow(const uint8_t* src, uint8_t* dst, size_t bytes) {
-  if (bytes <= kShortCopy)
-    copyShort(src, dst, bytes);
-  else if (bytes >= kStringMove)
-    copyByString(src, dst, bytes);
-  else if (storesAliasLaterLoads(src, dst))
-    copyBackwards(src, dst, bytes);
+void copyRows(SourceRows src, TargetRows dst, Extent bytes) {
+  const size_t length = bytes.length;
+  if (length <= kShortCopy)
+    walkRows(
+        bytes.rows, [=](const Byte* s, Byte* d) { copyShort(s, d, length); }, src, dst);
+  else if (length >= kStringMove)
+    walkRows(
+        bytes.rows, [=](const Byte* s, Byte* d) { copyByString(s, d, length); }, src, dst);
   else
-    copyForwards(src, dst, bytes);
+    walkRows(
+        bytes.rows,
+        [=](const Byte* s, Byte* d) {
+          if (storesAliasLaterLoads(s, d))
+            copyBackwards(s, d, length);
+          else
+            copyForwards(s, d, length);
+        },
+        src, dst);
 }
 
-void copyRowManaged(const uint8_t* src, uint8_t* dst, size_t bytes, CacheUse use) {
+void copyRow(const uint8_t* src, uint8_t* dst, size_t bytes) { copyRows({src, 0}, {dst, 0}, {bytes, 1}); }
+
+namespace {
+
+void copyRowManaged(const Byte* src, Byte* dst, size_t bytes, CacheUse use) {
   constexpr size_t line = 64;
   if (bytes < line || !(use.streamingStores || use.streamingLoads)) return copyRow(src, dst, bytes);
   const size_t head = bytesToBoundary(src, line);
@@ -98,6 +111,13 @@ void copyRowManaged(const uint8_t* src, uint8_t* dst, size_t bytes, CacheUse use
         store32(dst + i, v);
     }
   copyShort(src, dst, bytes);
+}
+
+}  // namespace
+
+void copyRowsManaged(SourceRows src, TargetRows dst, Extent bytes, CacheUse use) {
+  walkRows(
+      bytes.rows, [=](const Byte* s, Byte* d) { copyRowManaged(s, d, bytes.length, use); }, src, dst);
 }
 
 }  // namespace lumi

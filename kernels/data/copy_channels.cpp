@@ -60,13 +60,6 @@ constexpr Control narrowControl(int first) {
   return c;
 }
 
-template <int sampleBytes>
-constexpr Control alphaMask() {
-  Control c{};
-  for (int j = 0; j < 16; ++j) c[j] = j % (4 * sampleBytes) < 3 * sampleBytes ? 0 : 0xFF;
-  return c;
-}
-
 // Eight pixels of 32-bit samples without their alpha. In each half, vector i is pixel i of four, turned to
 // where its samples stand in three vectors of four pixels.
 void narrowEight(const Byte* src, Byte* dst) {
@@ -86,23 +79,21 @@ void spreadEight(const Byte* src, Byte* dst) {
   store32(dst + 64, blendDwords<0b00100100>(load32(dst + 64), permuteHalves<1, 1>(turned, turned)));
 }
 
-}  // namespace
-
 template <int sampleBytes>
-void copyColourToAlphaRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
-  static constexpr Control control = widenControl<sampleBytes>(0), last = widenControl<sampleBytes>(4),
-                           alpha = alphaMask<sampleBytes>();
+[[gnu::always_inline]] inline void copyColourToAlphaRow(const Byte* src, Byte* dst, size_t pixels) {
+  static constexpr Control control = widenControl<sampleBytes>(0), last = widenControl<sampleBytes>(4);
+  static constexpr auto alpha = pixelMask<4 * sampleBytes, 3 * sampleBytes, 16>(0, 0xFF);
   for (; pixels >= kBlock<sampleBytes>; pixels -= kBlock<sampleBytes>, src += 48, dst += 64)
     for (int i = 0; i < 4; ++i) {
       const Bytes16 colour = i < 3 ? shuffleBytes(load16(src + 12 * i), vectorOf(control))
                                    : shuffleBytes(load16(src + 32), vectorOf(last));
-      store16(dst + 16 * i, bitOr(colour, bitAnd(load16(dst + 16 * i), vectorOf(alpha))));
+      store16(dst + 16 * i, bitOr(colour, bitAnd(load16(dst + 16 * i), load16(alpha.bytes))));
     }
   for (; pixels; --pixels, src += 3 * sampleBytes, dst += 4 * sampleBytes) move<3 * sampleBytes>(dst, src);
 }
 
 template <int sampleBytes>
-void copyColourFromAlphaRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
+[[gnu::always_inline]] inline void copyColourFromAlphaRow(const Byte* src, Byte* dst, size_t pixels) {
   if constexpr (sampleBytes == 4) {
     for (; pixels >= 8; pixels -= 8, src += 128, dst += 96) narrowEight(src, dst);
   } else {
@@ -123,7 +114,7 @@ void copyColourFromAlphaRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
 // is not the first: one pixel at least is left for the tail. Single dwords into four channels go one by
 // one: a vector holds too few of them to gain.
 template <int sampleBytes, int channels>
-void planeToChannelRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
+[[gnu::always_inline]] inline void planeToChannelRow(const Byte* src, Byte* dst, size_t pixels) {
   if constexpr (sampleBytes == 4 && channels == 3) {
     for (; pixels > 8; pixels -= 8, src += 32, dst += 96) spreadEight(src, dst);
   } else if constexpr (sampleBytes < 4) {
@@ -140,7 +131,7 @@ void planeToChannelRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
 }
 
 template <int channels>
-void duplicateRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
+[[gnu::always_inline]] inline void duplicateRow(const Byte* src, Byte* dst, size_t pixels) {
   static constexpr auto controls = spreadControls<1, channels>(true);
   for (; pixels >= 16; pixels -= 16, src += 16, dst += 16 * channels) {
     const Bytes16 samples = load16(src);
@@ -150,15 +141,37 @@ void duplicateRow(const uint8_t* src, uint8_t* dst, size_t pixels) {
     for (int c = 0; c < channels; ++c) *dst++ = *src;
 }
 
-#define LUMI_SAMPLES(sample)                                                    \
-  template void planeToChannelRow<sample, 3>(const uint8_t*, uint8_t*, size_t); \
-  template void planeToChannelRow<sample, 4>(const uint8_t*, uint8_t*, size_t); \
-  template void copyColourToAlphaRow<sample>(const uint8_t*, uint8_t*, size_t); \
-  template void copyColourFromAlphaRow<sample>(const uint8_t*, uint8_t*, size_t);
+}  // namespace
+
+template <int sampleBytes>
+void copyColourToAlphaRows(SourceRows src, TargetRows dst, Extent pixels) {
+  walkPixels(copyColourToAlphaRow<sampleBytes>, src, dst, pixels);
+}
+
+template <int sampleBytes>
+void copyColourFromAlphaRows(SourceRows src, TargetRows dst, Extent pixels) {
+  walkPixels(copyColourFromAlphaRow<sampleBytes>, src, dst, pixels);
+}
+
+template <int sampleBytes, int channels>
+void planeToChannelRows(SourceRows src, TargetRows dst, Extent pixels) {
+  walkPixels(planeToChannelRow<sampleBytes, channels>, src, dst, pixels);
+}
+
+template <int channels>
+void duplicateRows(SourceRows src, TargetRows dst, Extent pixels) {
+  walkPixels(duplicateRow<channels>, src, dst, pixels);
+}
+
+#define LUMI_SAMPLES(sample)                                                   \
+  template void planeToChannelRows<sample, 3>(SourceRows, TargetRows, Extent); \
+  template void planeToChannelRows<sample, 4>(SourceRows, TargetRows, Extent); \
+  template void copyColourToAlphaRows<sample>(SourceRows, TargetRows, Extent); \
+  template void copyColourFromAlphaRows<sample>(SourceRows, TargetRows, Extent);
 LUMI_SAMPLES(1)
 LUMI_SAMPLES(2)
 LUMI_SAMPLES(4)
-template void duplicateRow<3>(const uint8_t*, uint8_t*, size_t);
-template void duplicateRow<4>(const uint8_t*, uint8_t*, size_t);
+template void duplicateRows<3>(SourceRows, TargetRows, Extent);
+template void duplicateRows<4>(SourceRows, TargetRows, Extent);
 
 }  // namespace lumi

@@ -2,23 +2,22 @@
 // Row kernels between channel layouts.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
+#include "kernels/rows.hpp"
 
 namespace lumi {
 
 // Three samples of each pixel, to and from pixels of four whose last sample stays or is dropped.
 template <int sampleBytes>
-void copyColourToAlphaRow(const uint8_t* src, uint8_t* dst, size_t pixels);
+void copyColourToAlphaRows(SourceRows src, TargetRows dst, Extent pixels);
 template <int sampleBytes>
-void copyColourFromAlphaRow(const uint8_t* src, uint8_t* dst, size_t pixels);
+void copyColourFromAlphaRows(SourceRows src, TargetRows dst, Extent pixels);
 
 // A plane into one channel of pixels of `channels` samples; dst is at that channel's sample.
 template <int sampleBytes, int channels>
-void planeToChannelRow(const uint8_t* src, uint8_t* dst, size_t pixels);
+void planeToChannelRows(SourceRows src, TargetRows dst, Extent pixels);
 
 // One sample into every channel of a pixel.
 template <int channels>
-void duplicateRow(const uint8_t* src, uint8_t* dst, size_t pixels);
+void duplicateRows(SourceRows src, TargetRows dst, Extent pixels);
 
 }  // namespace lumi

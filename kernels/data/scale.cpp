@@ -9,18 +9,12 @@ namespace {
 
 using namespace simd;
 
-// A function of halves, 16 bytes of results, for blocks.
-template <typename S, typename D, typename F>
-struct InHalves : F {
-  Halves32 block(const Byte* p) const { return {F::half(p), F::half(p + kHalf / sizeof(D) * sizeof(S))}; }
-};
-
 // The byte in each place of the sample, with the top bit inverted for signed ones. Constants are made where
 // they are used: as members they would be read again after every store, which might have changed them.
 template <typename D>
 struct Widen {
   static U8 highBytes(U8 bytes) {
-    if constexpr (std::is_signed_v<D>) bytes = bytes ^ broadcast(Byte{0x80});
+    if constexpr (std::is_signed_v<D>) bytes = bytes ^ broadcast16(Byte{0x80});
     return bytes;
   }
   Bytes32 block(const Byte* p) const {
@@ -39,7 +33,7 @@ struct Widen<int32_t> {
                            kNextFour = {4, 4, 4, 4, 5, 5, 5, 5, 6, 6, 6, 6, 7, 7, 7, 7};
 
   static Bytes16 four(Bytes16 bytes, const Control& which) {
-    return bytesOf(S32{shuffleBytes(bytes, vectorOf(which))} ^ broadcast(INT32_MIN));
+    return bytesOf(S32{shuffleBytes(bytes, vectorOf(which))} ^ broadcast16(INT32_MIN));
   }
   Halves32 block(const Byte* p) const {
     const Bytes16 bytes = loadFew<8>(p);
@@ -56,19 +50,19 @@ struct Narrow {
   using W = std::make_signed_t<S>;
 
   static Samples<W> scaled(const Byte* p) {
-    Samples<W> w{load16(p)};
+    Samples<W> w{loadVector(p)};
     if constexpr (std::is_unsigned_v<S>) w = w ^ broadcast(std::numeric_limits<W>::min());
     return shiftRight<8 * sizeof(S) - 8>(w - (accurate ? nearest256th(w) : shiftRight<8>(w)));
   }
-  static S16 words(const Byte* p) {
+  static Samples<int16_t> words(const Byte* p) {
     if constexpr (sizeof(S) == sizeof(int16_t))
       return scaled(p);
     else
-      return narrowSaturated<int16_t>(scaled(p), scaled(p + kHalf));
+      return narrowSaturated<int16_t>(scaled(p), scaled(p + kVectorBytes));
   }
-  Bytes16 half(const Byte* p) const {
-    return bytesOf(narrowSaturated<int8_t>(words(p), words(p + kHalf / 2 * sizeof(S))) ^
-                   broadcast<int8_t>(INT8_MIN));
+  VectorBytes vector(const Byte* p) const {
+    const auto bytes = narrowSaturated<int8_t>(words(p), words(p + kVectorBytes / 2 * sizeof(S)));
+    return bytesOf(bytes ^ broadcast<int8_t>(INT8_MIN));
   }
 };
 
@@ -78,25 +72,34 @@ struct WidenToFloats {
   explicit WidenToFloats(LinearMap map)
       : factor(broadcastFloat<Floats8>(map.factor)), offset(broadcastFloat<Floats8>(map.offset)) {}
 
-  Bytes32 block(const Byte* p) const { return asBytes((floatsOf8Bytes(p) * factor + offset).v); }
+  Bytes32 block(const Byte* p) const { return bytesOf(floatsOf8Bytes(p) * factor + offset); }
   Bytes16 half(const Byte* p) const { return bytesOf(floatsOf4Bytes(p) * lowHalf(factor) + lowHalf(offset)); }
 };
 
+template <typename D>
 struct NarrowFloats {
   Floats8 factor, offset, limit = broadcastFloat<Floats8>(255);
 
   explicit NarrowFloats(LinearMap map)
       : factor(broadcastFloat<Floats8>(map.factor)), offset(broadcastFloat<Floats8>(map.offset)) {}
 
-  S16 words(const Byte* p) const {
-    const Ints8 v = rounded(limitedFromAbove(loadFloats8(p) * factor - offset, limit));
+  Ints8 at(const Byte* p, size_t i) const {
+    return rounded(min(limit, loadFloats8(p + i * kBlock) * factor - offset));
+  }
+  S16 words(const Byte* p, size_t i) const {
+    const Ints8 v = at(p, i);
     return narrowSaturated<int16_t>(lowHalf(v), highHalf(v));
   }
-  Bytes16 half(const Byte* p) const { return bytesOf(narrowSaturated<uint8_t>(words(p), words(p + kBlock))); }
+  VectorBytes vector(const Byte* p) const {
+    if constexpr (kVectorBytes == kBlock)
+      return bytesOf(narrowSaturated<D>(at(p, 0), at(p, 1), at(p, 2), at(p, 3)));
+    else
+      return bytesOf(narrowSaturated<D>(words(p, 0), words(p, 1)));
+  }
 };
 
 template <typename S, typename D, bool alpha, typename F>
-void run(const Byte* src, Byte* dst, size_t samples, const F& f, bool streaming) {
+void run(SourceRows src, TargetRows dst, Extent samples, const F& f, bool streaming) {
   if (streaming)
     runConversion<S, D, alpha, 4, Streaming>(src, dst, samples, f);
   else
@@ -106,22 +109,22 @@ void run(const Byte* src, Byte* dst, size_t samples, const F& f, bool streaming)
 }  // namespace
 
 template <typename D, bool alpha>
-void widenRow(const uint8_t* src, uint8_t* dst, size_t samples, bool streaming) {
+void widenRows(SourceRows src, TargetRows dst, Extent samples, bool streaming) {
   run<uint8_t, D, alpha>(src, dst, samples, Widen<D>(), streaming);
 }
 
 template <typename S, bool alpha>
-void narrowRow(const uint8_t* src, uint8_t* dst, size_t samples, bool accurate, bool streaming) {
+void narrowRows(SourceRows src, TargetRows dst, Extent samples, bool accurate, bool streaming) {
   if (accurate)
-    run<S, uint8_t, alpha>(src, dst, samples, InHalves<S, uint8_t, Narrow<S, true>>{}, streaming);
+    run<S, uint8_t, alpha>(src, dst, samples, Narrow<S, true>(), streaming);
   else
-    run<S, uint8_t, alpha>(src, dst, samples, InHalves<S, uint8_t, Narrow<S, false>>{}, streaming);
+    run<S, uint8_t, alpha>(src, dst, samples, Narrow<S, false>(), streaming);
 }
 
 LinearMap bytesToFloats(float lower, float upper) { return {(upper - lower) / 255, lower}; }
 
 template <bool alpha>
-void widenToFloatsRow(const uint8_t* src, uint8_t* dst, size_t samples, LinearMap map, bool streaming) {
+void widenToFloatsRows(SourceRows src, TargetRows dst, Extent samples, LinearMap map, bool streaming) {
   run<uint8_t, float, alpha>(src, dst, samples, WidenToFloats(map), streaming);
 }
 
@@ -131,20 +134,19 @@ LinearMap floatsToBytes(float lower, float upper) {
 }
 
 template <bool alpha>
-void narrowFloatsRow(const uint8_t* src, uint8_t* dst, size_t samples, LinearMap map) {
-  run<float, uint8_t, alpha>(src, dst, samples, InHalves<float, uint8_t, NarrowFloats>{NarrowFloats(map)},
-                             false);
+void narrowFloatsRows(SourceRows src, TargetRows dst, Extent samples, LinearMap map) {
+  run<float, uint8_t, alpha>(src, dst, samples, NarrowFloats<uint8_t>(map), false);
 }
 
-#define LUMI_SCALE(alpha)                                                             \
-  template void widenRow<uint16_t, alpha>(const Byte*, Byte*, size_t, bool);          \
-  template void widenRow<int16_t, alpha>(const Byte*, Byte*, size_t, bool);           \
-  template void widenRow<int32_t, alpha>(const Byte*, Byte*, size_t, bool);           \
-  template void narrowRow<uint16_t, alpha>(const Byte*, Byte*, size_t, bool, bool);   \
-  template void narrowRow<int16_t, alpha>(const Byte*, Byte*, size_t, bool, bool);    \
-  template void narrowRow<int32_t, alpha>(const Byte*, Byte*, size_t, bool, bool);    \
-  template void widenToFloatsRow<alpha>(const Byte*, Byte*, size_t, LinearMap, bool); \
-  template void narrowFloatsRow<alpha>(const Byte*, Byte*, size_t, LinearMap);
+#define LUMI_SCALE(alpha)                                                                  \
+  template void widenRows<uint16_t, alpha>(SourceRows, TargetRows, Extent, bool);          \
+  template void widenRows<int16_t, alpha>(SourceRows, TargetRows, Extent, bool);           \
+  template void widenRows<int32_t, alpha>(SourceRows, TargetRows, Extent, bool);           \
+  template void narrowRows<uint16_t, alpha>(SourceRows, TargetRows, Extent, bool, bool);   \
+  template void narrowRows<int16_t, alpha>(SourceRows, TargetRows, Extent, bool, bool);    \
+  template void narrowRows<int32_t, alpha>(SourceRows, TargetRows, Extent, bool, bool);    \
+  template void widenToFloatsRows<alpha>(SourceRows, TargetRows, Extent, LinearMap, bool); \
+  template void narrowFloatsRows<alpha>(SourceRows, TargetRows, Extent, LinearMap);
 LUMI_SCALE(false)
 LUMI_SCALE(true)
 

@@ -4,20 +4,19 @@
 // and dst do not overlap.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
+#include "kernels/rows.hpp"
 
 namespace lumi {
 
 // 8-bit samples to D, integers of more bits: 0 to the smallest, 255 to the largest, each step as wide.
 template <typename D, bool alpha>
-void widenRow(const uint8_t* src, uint8_t* dst, size_t samples, bool streaming);
+void widenRows(SourceRows src, TargetRows dst, Extent samples, bool streaming);
 
 // S, integers of more bits, to 8-bit samples. Accurate results are those of the nearest of the 256 values
 // that widening gives; fast ones differ from them at the last value before the step to the next result, for
 // the lower half of S.
 template <typename S, bool alpha>
-void narrowRow(const uint8_t* src, uint8_t* dst, size_t samples, bool accurate, bool streaming);
+void narrowRows(SourceRows src, TargetRows dst, Extent samples, bool accurate, bool streaming);
 
 // What floats are made of bytes by, and bytes of floats.
 struct LinearMap {
@@ -27,11 +26,11 @@ struct LinearMap {
 // byte * factor + offset, for 0 and 255 to become the bounds.
 LinearMap bytesToFloats(float lower, float upper);
 template <bool alpha>
-void widenToFloatsRow(const uint8_t* src, uint8_t* dst, size_t samples, LinearMap map, bool streaming);
+void widenToFloatsRows(SourceRows src, TargetRows dst, Extent samples, LinearMap map, bool streaming);
 
 // float * factor - offset, by the unit's rounding, limited to 0 to 255; NaN gives 0.
 LinearMap floatsToBytes(float lower, float upper);
 template <bool alpha>
-void narrowFloatsRow(const uint8_t* src, uint8_t* dst, size_t samples, LinearMap map);
+void narrowFloatsRows(SourceRows src, TargetRows dst, Extent samples, LinearMap map);
 
 }  // namespace lumi

@@ -16,7 +16,7 @@ template <int pixelBytes>
 constexpr bool kUniform = kVector % pixelBytes == 0;
 
 // Rows below one vector: overlapping stores of halves from both ends, all from the pattern's phase.
-void fillShort(const PixelPattern& p, Byte* dst, size_t bytes) {
+[[gnu::always_inline]] inline void fillShort(const PixelPattern& p, Byte* dst, size_t bytes) {
   const auto ends = [&](auto half) {
     constexpr size_t n = decltype(half)::value;
     move<n>(dst, p.bytes);
@@ -40,7 +40,7 @@ Bytes32 lastVector(const PixelPattern& p, size_t bytes) {
 // The first and the last vector go unaligned; between them the stores are aligned, at the phase that the
 // first one has reached. All of the pattern is read before the first store, which might be anywhere.
 template <int pixelBytes, typename Store>
-void fillLong(const PixelPattern& p, Byte* dst, size_t bytes) {
+[[gnu::always_inline]] inline void fillLong(const PixelPattern& p, Byte* dst, size_t bytes) {
   const size_t head = reachPastBoundary(dst, kVector);
   const Bytes32 first = load32(p.bytes), last = lastVector<pixelBytes>(p, bytes);
   Byte* d = dst + head;
@@ -82,17 +82,20 @@ void fillByString(const PixelPattern& p, Byte* dst, size_t bytes) {
 }  // namespace
 
 template <int pixelBytes>
-void fillRow(const PixelPattern& pattern, uint8_t* dst, size_t bytes, bool streaming) {
-  if (bytes < kVector) return fillShort(pattern, dst, bytes);
+void fillRows(const PixelPattern& pattern, TargetRows dst, Extent bytes, bool streaming) {
+  const size_t length = bytes.length;
+  const auto eachRow = [&](auto fill) { walkRows(bytes.rows, fill, dst); };
+  if (length < kVector) return eachRow([&](Byte* row) { fillShort(pattern, row, length); });
   if constexpr (4 % pixelBytes == 0)
-    if (bytes >= kStringFill) return fillByString<pixelBytes>(pattern, dst, bytes);
+    if (length >= kStringFill)
+      return eachRow([&](Byte* row) { fillByString<pixelBytes>(pattern, row, length); });
   if (streaming)
-    fillLong<pixelBytes, Streaming>(pattern, dst, bytes);
+    eachRow([&](Byte* row) { fillLong<pixelBytes, Streaming>(pattern, row, length); });
   else
-    fillLong<pixelBytes, Cached>(pattern, dst, bytes);
+    eachRow([&](Byte* row) { fillLong<pixelBytes, Cached>(pattern, row, length); });
 }
 
-#define LUMI_PIXEL(bytes) template void fillRow<bytes>(const PixelPattern&, uint8_t*, size_t, bool);
+#define LUMI_PIXEL(bytes) template void fillRows<bytes>(const PixelPattern&, TargetRows, Extent, bool);
 LUMI_PIXEL(1)
 LUMI_PIXEL(2)
 LUMI_PIXEL(3)

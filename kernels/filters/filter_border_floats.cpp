@@ -99,7 +99,7 @@ Floats8 floatsAt(const Byte* p) {
 template <typename T>
 void storeAs(Byte* dst, Floats8 sums) {
   constexpr float highest = std::numeric_limits<T>::max();
-  const Ints8 whole = rounded(limitedFromAbove(sums, broadcastFloat<Floats8>(highest)));
+  const Ints8 whole = rounded(min(broadcastFloat<Floats8>(highest), sums));
   if constexpr (sizeof(T) == 1) {
     const S16 words = narrowSaturated<int16_t>(lowHalf(whole), highHalf(whole));
     storeFirst8(dst, narrowSaturated<uint8_t>(words, words).v);

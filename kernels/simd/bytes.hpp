@@ -16,6 +16,27 @@ using Byte = uint8_t;
 using Bytes16 = __m128i;
 using Bytes32 = __m256i;
 
+// The bytes of the build's integer vectors: sixteen in the products. Wider builds give the same bits.
+#ifdef __AVX2__
+inline constexpr size_t kVectorBytes = 32;
+using VectorBytes = Bytes32;
+#else
+inline constexpr size_t kVectorBytes = 16;
+using VectorBytes = Bytes16;
+#endif
+
+// The register of so many bytes.
+template <size_t bytes>
+struct Register;
+template <>
+struct Register<16> {
+  using Type = Bytes16;
+};
+template <>
+struct Register<32> {
+  using Type = Bytes32;
+};
+
 inline Bytes16 load16(const Byte* p) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p)); }
 inline void store16(Byte* p, Bytes16 v) { _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v); }
 // Past the cache; p on a 16-byte boundary.
@@ -71,9 +92,7 @@ inline Bytes16 load16Once(const Byte* p) {
 
 // The first or the last bytes of a vector.
 inline void storeFirst8(Byte* p, Bytes16 v) { _mm_storel_epi64(reinterpret_cast<__m128i*>(p), v); }
-inline void storeLast8(Byte* p, Bytes16 v) {
-  _mm_storeh_pd(reinterpret_cast<double*>(p), _mm_castsi128_pd(v));
-}
+inline void storeLast8(Byte* p, Bytes16 v) { storeFirst8(p, _mm_unpackhi_epi64(v, v)); }
 inline uint32_t firstDword(Bytes16 v) { return static_cast<uint32_t>(_mm_cvtsi128_si32(v)); }
 inline uint32_t lastDword(Bytes16 v) { return static_cast<uint32_t>(_mm_extract_epi32(v, 3)); }
 
@@ -108,6 +127,18 @@ inline Bytes16 isZero(Bytes16 v) { return _mm_cmpeq_epi8(v, _mm_setzero_si128())
 // Whether the top bit of every byte is set.
 inline bool allSet(Bytes16 v) { return _mm_movemask_epi8(v) == 0xFFFF; }
 
+// The bytes of pixels over and over: `used` in the first bytes of each, `kept` in the others.
+template <size_t size>
+struct ByteMask {
+  alignas(32) Byte bytes[size];
+};
+template <size_t pixelBytes, size_t usedBytes, size_t size>
+constexpr ByteMask<size> pixelMask(Byte used = 0xFF, Byte kept = 0) {
+  ByteMask<size> mask{};
+  for (size_t i = 0; i < size; ++i) mask.bytes[i] = i % pixelBytes < usedBytes ? used : kept;
+  return mask;
+}
+
 // 32-byte vectors have no integer operations at this level; the float ones move and combine bits just
 // as well, and look at no value.
 inline Bytes32 asBytes(__m256 v) { return _mm256_castps_si256(v); }
@@ -129,6 +160,8 @@ inline Bytes16 highHalf(Bytes32 v) { return _mm256_extractf128_si256(v, 1); }
 struct Halves32 {
   Bytes16 low, high;
 };
+inline Bytes32 joined(Halves32 v) { return joined(v.low, v.high); }
+inline Bytes32 joined(Bytes32 v) { return v; }
 inline Halves32 ifThenElse(Bytes32 mask, Halves32 yes, Bytes32 no) {
   return {ifThenElse(lowHalf(mask), yes.low, lowHalf(no)),
           ifThenElse(highHalf(mask), yes.high, highHalf(no))};
@@ -201,6 +234,15 @@ inline TwoDwords4x4 transpose(const TwoDwords4x4& m) {
   return {{bytes(_mm256_unpacklo_pd(low01, low23)), bytes(_mm256_unpackhi_pd(low01, low23)),
            bytes(_mm256_unpacklo_pd(high01, high23)), bytes(_mm256_unpackhi_pd(high01, high23))}};
 }
+
+// A vector of the build.
+#ifdef __AVX2__
+inline Bytes32 loadVector(const Byte* p) { return load32(p); }
+#else
+inline Bytes16 loadVector(const Byte* p) { return load16(p); }
+#endif
+inline void storeVector(Byte* p, Bytes16 v) { store16(p, v); }
+inline void storeVector(Byte* p, Bytes32 v) { store32(p, v); }
 
 // How a kernel stores. Streaming destinations are on vector boundaries.
 struct Cached {

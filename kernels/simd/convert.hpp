@@ -6,9 +6,9 @@
 
 namespace lumi::simd {
 
-// The first samples of a vector in a wider type W, one that holds them all.
+// The first samples of a vector in a wider type W, one that holds them all: sixteen bytes of them.
 template <typename W, typename T>
-Samples<W> widen(Samples<T> x) {
+Samples16<W> widen(Samples16<T> x) {
   static_assert(sizeof(W) >= sizeof(T));
   if constexpr (sizeof(W) == sizeof(T)) {
     return {x.v};
@@ -23,89 +23,124 @@ Samples<W> widen(Samples<T> x) {
   }
 }
 
-// The first or the last eight bytes as words.
-inline U16 widenLow(U8 x) { return {_mm_unpacklo_epi8(x.v, _mm_setzero_si128())}; }
-inline U16 widenHigh(U8 x) { return {_mm_unpackhi_epi8(x.v, _mm_setzero_si128())}; }
-
-// As many T samples as a vector of W has, with every negative one made 0 if W is unsigned.
-template <typename T, typename W>
-Samples<W> loadAs(const Byte* p) {
-  Samples<T> x{loadFew<sizeof(T) * 16 / sizeof(W)>(p)};
-  if constexpr (std::is_signed_v<T> && std::is_unsigned_v<W>) x = max(x, broadcast<T>(0));
-  return widen<W>(x);
+// The first or the last eight of each sixteen bytes as words.
+template <size_t bytes>
+SamplesOf<uint16_t, bytes> widenLow(SamplesOf<uint8_t, bytes> x) {
+  return as<uint16_t>(interleaveLow(x, broadcastLike(x, uint8_t{0})));
+}
+template <size_t bytes>
+SamplesOf<uint16_t, bytes> widenHigh(SamplesOf<uint8_t, bytes> x) {
+  return as<uint16_t>(interleaveHigh(x, broadcastLike(x, uint8_t{0})));
 }
 
-// Two vectors at once.
-template <typename T>
-struct TwoSamples {
-  Samples<T> low, high;
-};
-template <typename T>
-TwoSamples<T> loadTwo(const Byte* p) {
-  const Bytes32 v = load32Once(p);
-  return {{lowHalf(v)}, {highHalf(v)}};
-}
-
-// Limited to a type D of half the size.
+// Limited to a type D of half the size. The instructions take their operands as signed.
 template <typename D>
-Samples<D> narrowSaturated(S32 a, S32 b) {
+Samples16<D> narrowSigned(S32 a, S32 b) {
   static_assert(sizeof(D) == 2);
   return {std::is_signed_v<D> ? _mm_packs_epi32(a.v, b.v) : _mm_packus_epi32(a.v, b.v)};
 }
 template <typename D>
-Samples<D> narrowSaturated(S16 a, S16 b) {
+Samples16<D> narrowSigned(S16 a, S16 b) {
   static_assert(sizeof(D) == 1);
   return {std::is_signed_v<D> ? _mm_packs_epi16(a.v, b.v) : _mm_packus_epi16(a.v, b.v)};
 }
-// The instructions take their operands as signed: what may have the top bit set is limited before.
-template <typename D, typename T>
-std::enable_if_t<std::is_unsigned_v<T>, Samples<D>> narrowSaturated(Samples<T> a, Samples<T> b) {
-  const auto limited = [](Samples<T> x) {
-    return Samples<std::make_signed_t<T>>{min(x, broadcast<T>(std::numeric_limits<D>::max())).v};
-  };
-  return narrowSaturated<D>(limited(a), limited(b));
+
+#ifdef __AVX2__
+// The same for 32 bytes: all of the first vector, then all of the second.
+inline Bytes32 inOrder(Bytes32 v) { return _mm256_permute4x64_epi64(v, 0xD8); }
+template <typename D>
+Samples32<D> narrowSigned(Samples32<int32_t> a, Samples32<int32_t> b) {
+  return {inOrder(std::is_signed_v<D> ? _mm256_packs_epi32(a.v, b.v) : _mm256_packus_epi32(a.v, b.v))};
+}
+template <typename D>
+Samples32<D> narrowSigned(Samples32<int16_t> a, Samples32<int16_t> b) {
+  return {inOrder(std::is_signed_v<D> ? _mm256_packs_epi16(a.v, b.v) : _mm256_packus_epi16(a.v, b.v))};
+}
+
+template <typename W, typename T>
+Samples32<W> widenTo32(Bytes16 x) {
+  if constexpr (std::is_signed_v<T>) {
+    if constexpr (sizeof(W) == 2) return {_mm256_cvtepi8_epi16(x)};
+    if constexpr (sizeof(T) == 1 && sizeof(W) == 4) return {_mm256_cvtepi8_epi32(x)};
+    if constexpr (sizeof(T) == 2) return {_mm256_cvtepi16_epi32(x)};
+  } else {
+    if constexpr (sizeof(W) == 2) return {_mm256_cvtepu8_epi16(x)};
+    if constexpr (sizeof(T) == 1 && sizeof(W) == 4) return {_mm256_cvtepu8_epi32(x)};
+    if constexpr (sizeof(T) == 2) return {_mm256_cvtepu16_epi32(x)};
+  }
+}
+#endif
+
+// As many T samples as a vector of W has, with every negative one made 0 if W is unsigned.
+template <typename T, typename W>
+Samples<W> loadAs(const Byte* p) {
+  constexpr bool limited = std::is_signed_v<T> && std::is_unsigned_v<W>;
+  if constexpr (sizeof(T) == sizeof(W)) {
+    const Samples<T> x{loadVector(p)};
+    return as<W>(limited ? max(x, broadcastLike(x, T{0})) : x);
+  } else {
+    Samples16<T> x{loadFew<kVectorBytes / sizeof(W) * sizeof(T)>(p)};
+    if constexpr (limited) x = max(x, broadcastLike(x, T{0}));
+#ifdef __AVX2__
+    return widenTo32<W, T>(x.v);
+#else
+    return widen<W>(x);
+#endif
+  }
+}
+
+template <typename D, typename T, size_t bytes>
+SamplesOf<D, bytes> narrowSaturated(SamplesOf<T, bytes> a, SamplesOf<T, bytes> b) {
+  if constexpr (std::is_signed_v<T>) {
+    return narrowSigned<D>(a, b);
+  } else {  // what may have the top bit set is limited before
+    const auto limited = [](SamplesOf<T, bytes> x) {
+      return as<std::make_signed_t<T>>(min(x, broadcastLike(x, T{std::numeric_limits<D>::max()})));
+    };
+    return narrowSigned<D>(limited(a), limited(b));
+  }
 }
 
 // As many vectors of type W as make one of D, limited to D.
-template <typename D, typename W>
-Samples<D> narrowSaturated(Samples<W> x) {
+template <typename D, typename W, size_t bytes>
+SamplesOf<D, bytes> narrowSaturated(SamplesOf<W, bytes> x) {
   static_assert(sizeof(D) == sizeof(W));
   if constexpr (std::is_same_v<D, W>)
     return x;
   else if constexpr (std::is_unsigned_v<W>)
-    return {min(x, broadcast<W>(std::numeric_limits<D>::max())).v};
+    return as<D>(min(x, broadcastLike(x, W{std::numeric_limits<D>::max()})));
   else
-    return {max(x, broadcast<W>(0)).v};
+    return as<D>(max(x, broadcastLike(x, W{0})));
 }
-template <typename D, typename W>
-Samples<D> narrowSaturated(TwoSamples<W> x) {
-  return narrowSaturated<D>(x.low, x.high);
-}
-template <typename D>
-Samples<D> narrowSaturated(S32 a, S32 b, S32 c, S32 d) {
-  return narrowSaturated<D>(narrowSaturated<int16_t>(a, b), narrowSaturated<int16_t>(c, d));
-}
-template <typename D, typename W>
-Samples<D> narrowSaturated(TwoSamples<W> a, TwoSamples<W> b) {
-  return narrowSaturated<D>(a.low, a.high, b.low, b.high);
-}
-template <typename D>
-Samples<D> narrowSaturated(U32 a, U32 b, U32 c, U32 d) {
+template <typename D, typename W, size_t bytes>
+SamplesOf<D, bytes> narrowSaturated(SamplesOf<W, bytes> a, SamplesOf<W, bytes> b, SamplesOf<W, bytes> c,
+                                    SamplesOf<W, bytes> d) {
   return narrowSaturated<D>(narrowSaturated<int16_t>(a, b), narrowSaturated<int16_t>(c, d));
 }
 
-// All ones where a is above b, both taken as signed.
-template <typename T>
-Samples<T> isAboveSigned(Samples<T> a, Samples<T> b) {
-  static_assert(sizeof(T) == 2 || sizeof(T) == 4);
-  return {sizeof(T) == 2 ? _mm_cmpgt_epi16(a.v, b.v) : _mm_cmpgt_epi32(a.v, b.v)};
+// As many vectors of S, one behind the other, as make one of a narrower D, limited to D.
+template <typename S, typename D>
+Samples<D> loadNarrow(const Byte* p) {
+  // Two vectors by one load.
+  const auto two = [](const Byte* q) {
+    struct {
+      Samples<S> first, second;
+    } both;
+    if constexpr (kVectorBytes == 16) {
+      const Bytes32 v = load32Once(q);
+      both = {{lowHalf(v)}, {highHalf(v)}};
+    } else {
+      both = {{loadVector(q)}, {loadVector(q + kVectorBytes)}};
+    }
+    return both;
+  };
+  const auto a = two(p);
+  if constexpr (2 * sizeof(D) == sizeof(S)) {
+    return narrowSaturated<D>(a.first, a.second);
+  } else {
+    const auto b = two(p + 2 * kVectorBytes);
+    return narrowSaturated<D>(a.first, a.second, b.first, b.second);
+  }
 }
-
-// |x| as an unsigned number of the same size.
-inline U16 magnitude(S16 x) { return {_mm_abs_epi16(x.v)}; }
-inline U32 magnitude(S32 x) { return {_mm_abs_epi32(x.v)}; }
-// x with its sign turned where s is negative, and 0 where s is 0.
-inline S16 withSign(S16 x, S16 s) { return {_mm_sign_epi16(x.v, s.v)}; }
-inline S32 withSign(S32 x, S32 s) { return {_mm_sign_epi32(x.v, s.v)}; }
 
 }  // namespace lumi::simd

@@ -7,11 +7,6 @@
 
 namespace lumi::simd {
 
-// (a * b) >> 16.
-inline S16 multiplyHigh(S16 a, S16 b) { return {_mm_mulhi_epi16(a.v, b.v)}; }
-// (a * b + 2^14) >> 15.
-inline S16 multiplyHighRounded(S16 a, S16 b) { return {_mm_mulhrs_epi16(a.v, b.v)}; }
-
 // Dwords or quadwords from addresses of their own.
 inline Bytes16 gatherDwords(const Byte* a, const Byte* b, const Byte* c, const Byte* d) {
   const auto dword = [](const Byte* p) {
@@ -58,13 +53,6 @@ Bytes16 insertWord(Bytes16 v, const Byte* p) {
   return _mm_insert_epi16(v, word, i);
 }
 
-struct Doubles4 {
-  __m256d v;
-};
-inline Doubles4 operator+(Doubles4 a, Doubles4 b) { return {_mm256_add_pd(a.v, b.v)}; }
-inline Doubles4 operator-(Doubles4 a, Doubles4 b) { return {_mm256_sub_pd(a.v, b.v)}; }
-inline Doubles4 operator*(Doubles4 a, Doubles4 b) { return {_mm256_mul_pd(a.v, b.v)}; }
-inline Bytes32 bytesOf(Doubles4 x) { return _mm256_castpd_si256(x.v); }
 inline Doubles4 doublesOf(Bytes32 v) { return {_mm256_castsi256_pd(v)}; }
 
 inline Floats8 load(const float* p) { return {_mm256_loadu_ps(p)}; }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Vectors of samples: sixteen bytes of integers, sixteen or thirty-two of floats. What an operation means is
-// the same for all of them; how it is done differs by type.
+// Vectors of integer samples. Samples<T> is as wide as the build's integer vectors, so that what is said of
+// it holds for every build; Samples16<T> is for code that thinks in sixteen bytes. What an operation means is
+// the same for all types; how it is done differs. Where sixteen bytes matter (interleaving, shuffles), wider
+// vectors are rows of sixteen bytes that do not mix.
 #pragma once
 
 #include <limits>
@@ -10,27 +12,32 @@
 
 namespace lumi::simd {
 
-template <typename T>
-struct Samples {
+template <typename T, size_t bytes>
+struct SamplesOf {
   static_assert(std::is_integral_v<T>);
-  Bytes16 v;
+  typename Register<bytes>::Type v;
 };
-using U8 = Samples<uint8_t>;
-using S8 = Samples<int8_t>;
-using U16 = Samples<uint16_t>;
-using S16 = Samples<int16_t>;
-using U32 = Samples<uint32_t>;
-using S32 = Samples<int32_t>;
+template <typename T>
+using Samples16 = SamplesOf<T, 16>;
+template <typename T>
+using Samples32 = SamplesOf<T, 32>;
+template <typename T>
+using Samples = SamplesOf<T, kVectorBytes>;
+using U8 = Samples16<uint8_t>;
+using S8 = Samples16<int8_t>;
+using U16 = Samples16<uint16_t>;
+using S16 = Samples16<int16_t>;
+using U32 = Samples16<uint32_t>;
+using S32 = Samples16<int32_t>;
 
-struct Floats4 {
-  __m128 v;
-};
-struct Floats8 {
-  __m256 v;
-};
+// The same bits as samples of another type.
+template <typename T, typename U, size_t bytes>
+SamplesOf<T, bytes> as(SamplesOf<U, bytes> x) {
+  return {x.v};
+}
 
 template <typename T>
-Samples<T> broadcast(T x) {
+Samples16<T> broadcast16(T x) {
   if constexpr (sizeof(T) == 1)
     return {_mm_set1_epi8(static_cast<char>(x))};
   else if constexpr (sizeof(T) == 2)
@@ -38,34 +45,52 @@ Samples<T> broadcast(T x) {
   else
     return {_mm_set1_epi32(static_cast<int>(x))};
 }
+// As wide as the vector, which only tells that.
+template <typename T, size_t bytes>
+SamplesOf<T, bytes> broadcastLike(SamplesOf<T, bytes>, T x) {
+  if constexpr (bytes == 16)
+    return broadcast16(x);
+  else
+    return {joined(broadcast16(x).v, broadcast16(x).v)};
+}
+template <typename T>
+Samples<T> broadcast(T x) {
+  return broadcastLike(Samples<T>(), x);
+}
+
+// A count of bits to shift by, as the instructions take it.
+struct Shift {
+  Bytes16 count;
+  explicit Shift(int bits) : count(_mm_cvtsi32_si128(bits)) {}
+};
 
 template <typename T>
-Samples<T> operator&(Samples<T> a, Samples<T> b) {
-  return {bitAnd(a.v, b.v)};
+Samples16<T> operator&(Samples16<T> a, Samples16<T> b) {
+  return {_mm_and_si128(a.v, b.v)};
 }
 template <typename T>
-Samples<T> operator|(Samples<T> a, Samples<T> b) {
-  return {bitOr(a.v, b.v)};
+Samples16<T> operator|(Samples16<T> a, Samples16<T> b) {
+  return {_mm_or_si128(a.v, b.v)};
 }
 template <typename T>
-Samples<T> operator^(Samples<T> a, Samples<T> b) {
+Samples16<T> operator^(Samples16<T> a, Samples16<T> b) {
   return {_mm_xor_si128(a.v, b.v)};
 }
 // b without the bits of a.
 template <typename T>
-Samples<T> andNot(Samples<T> a, Samples<T> b) {
+Samples16<T> andNot(Samples16<T> a, Samples16<T> b) {
   return {_mm_andnot_si128(a.v, b.v)};
 }
 
 // Sums and differences modulo the type.
 template <typename T>
-Samples<T> operator+(Samples<T> a, Samples<T> b) {
+Samples16<T> operator+(Samples16<T> a, Samples16<T> b) {
   if constexpr (sizeof(T) == 1) return {_mm_add_epi8(a.v, b.v)};
   if constexpr (sizeof(T) == 2) return {_mm_add_epi16(a.v, b.v)};
   if constexpr (sizeof(T) == 4) return {_mm_add_epi32(a.v, b.v)};
 }
 template <typename T>
-Samples<T> operator-(Samples<T> a, Samples<T> b) {
+Samples16<T> operator-(Samples16<T> a, Samples16<T> b) {
   if constexpr (sizeof(T) == 1) return {_mm_sub_epi8(a.v, b.v)};
   if constexpr (sizeof(T) == 2) return {_mm_sub_epi16(a.v, b.v)};
   if constexpr (sizeof(T) == 4) return {_mm_sub_epi32(a.v, b.v)};
@@ -73,7 +98,7 @@ Samples<T> operator-(Samples<T> a, Samples<T> b) {
 
 // All ones where it holds, else zero.
 template <typename T>
-Samples<T> isEqual(Samples<T> a, Samples<T> b) {
+Samples16<T> isEqual(Samples16<T> a, Samples16<T> b) {
   if constexpr (sizeof(T) == 1) return {_mm_cmpeq_epi8(a.v, b.v)};
   if constexpr (sizeof(T) == 2) return {_mm_cmpeq_epi16(a.v, b.v)};
   if constexpr (sizeof(T) == 4) return {_mm_cmpeq_epi32(a.v, b.v)};
@@ -95,39 +120,32 @@ inline S32 min(S32 a, S32 b) { return {_mm_min_epi32(a.v, b.v)}; }
 // Products of words, added up in pairs of neighbours.
 inline S32 multiplyAddPairs(S16 a, S16 b) { return {_mm_madd_epi16(a.v, b.v)}; }
 
+// (a * b) >> 16, and (a * b + 2^14) >> 15.
+inline S16 multiplyHigh(S16 a, S16 b) { return {_mm_mulhi_epi16(a.v, b.v)}; }
+inline S16 multiplyHighRounded(S16 a, S16 b) { return {_mm_mulhrs_epi16(a.v, b.v)}; }
+
 // Products of unsigned and signed bytes, added up in pairs of neighbours, limited to words.
 inline S16 multiplyAddPairs(U8 a, S8 b) { return {_mm_maddubs_epi16(a.v, b.v)}; }
 
 // The first, or the last, halves of two vectors, sample by sample in turn.
 template <typename T>
-Samples<T> interleaveLow(Samples<T> a, Samples<T> b) {
+Samples16<T> interleaveLow(Samples16<T> a, Samples16<T> b) {
   if constexpr (sizeof(T) == 1) return {_mm_unpacklo_epi8(a.v, b.v)};
   if constexpr (sizeof(T) == 2) return {_mm_unpacklo_epi16(a.v, b.v)};
   if constexpr (sizeof(T) == 4) return {_mm_unpacklo_epi32(a.v, b.v)};
 }
 template <typename T>
-Samples<T> interleaveHigh(Samples<T> a, Samples<T> b) {
+Samples16<T> interleaveHigh(Samples16<T> a, Samples16<T> b) {
   if constexpr (sizeof(T) == 1) return {_mm_unpackhi_epi8(a.v, b.v)};
   if constexpr (sizeof(T) == 2) return {_mm_unpackhi_epi16(a.v, b.v)};
   if constexpr (sizeof(T) == 4) return {_mm_unpackhi_epi32(a.v, b.v)};
 }
 
-template <typename T>
-Samples<T> isAtLeast(Samples<T> a, Samples<T> b) {
-  return isEqual(max(a, b), a);
-}
-
 // By samples: yes where the mask is all ones, no where it is zero.
 template <typename T>
-Samples<T> ifThenElse(Samples<T> mask, Samples<T> yes, Samples<T> no) {
-  return {ifThenElse(mask.v, yes.v, no.v)};
+Samples16<T> ifThenElse(Samples16<T> mask, Samples16<T> yes, Samples16<T> no) {
+  return {_mm_blendv_epi8(no.v, yes.v, mask.v)};
 }
-
-// A count of bits to shift by, as the instructions take it.
-struct Shift {
-  Bytes16 count;
-  explicit Shift(int bits) : count(_mm_cvtsi32_si128(bits)) {}
-};
 
 // Towards minus infinity for signed samples; counts beyond the type leave 0 or the sign.
 inline U16 operator>>(U16 a, Shift s) { return {_mm_srl_epi16(a.v, s.count)}; }
@@ -135,7 +153,7 @@ inline S16 operator>>(S16 a, Shift s) { return {_mm_sra_epi16(a.v, s.count)}; }
 inline U32 operator>>(U32 a, Shift s) { return {_mm_srl_epi32(a.v, s.count)}; }
 inline S32 operator>>(S32 a, Shift s) { return {_mm_sra_epi32(a.v, s.count)}; }
 template <typename T>
-Samples<T> operator<<(Samples<T> a, Shift s) {
+Samples16<T> operator<<(Samples16<T> a, Shift s) {
   static_assert(sizeof(T) > 1, "bytes have no shift of their own");
   if constexpr (sizeof(T) == 2) return {_mm_sll_epi16(a.v, s.count)};
   if constexpr (sizeof(T) == 4) return {_mm_sll_epi32(a.v, s.count)};
@@ -143,7 +161,7 @@ Samples<T> operator<<(Samples<T> a, Shift s) {
 
 // The same by a count that is known when compiled.
 template <int bits, typename T>
-Samples<T> shiftRight(Samples<T> a) {
+Samples16<T> shiftRight(Samples16<T> a) {
   static_assert(sizeof(T) > 1, "bytes have no shift of their own");
   if constexpr (sizeof(T) == 2)
     return {std::is_signed_v<T> ? _mm_srai_epi16(a.v, bits) : _mm_srli_epi16(a.v, bits)};
@@ -168,38 +186,52 @@ inline S32 ifNegativeThenElse(S32 mask, S32 yes, S32 no) {
   return {_mm_castps_si128(
       _mm_blendv_ps(_mm_castsi128_ps(no.v), _mm_castsi128_ps(yes.v), _mm_castsi128_ps(mask.v)))};
 }
+
+// All ones where a is above b, both taken as signed.
+template <typename T>
+Samples16<T> isAboveSigned(Samples16<T> a, Samples16<T> b) {
+  static_assert(sizeof(T) == 2 || sizeof(T) == 4);
+  return {sizeof(T) == 2 ? _mm_cmpgt_epi16(a.v, b.v) : _mm_cmpgt_epi32(a.v, b.v)};
+}
+
+// |x| as an unsigned number of the same size.
+inline U16 magnitude(S16 x) { return {_mm_abs_epi16(x.v)}; }
+inline U32 magnitude(S32 x) { return {_mm_abs_epi32(x.v)}; }
+// x with its sign turned where s is negative, and 0 where s is 0.
+inline S16 withSign(S16 x, S16 s) { return {_mm_sign_epi16(x.v, s.v)}; }
+inline S32 withSign(S32 x, S32 s) { return {_mm_sign_epi32(x.v, s.v)}; }
+
+}  // namespace lumi::simd
+
+#ifdef __AVX2__
+#include "kernels/simd/samples32.hpp"
+#endif
+
+namespace lumi::simd {
+
+// What follows is made of the above, in any width.
+
+template <typename T, size_t bytes>
+SamplesOf<T, bytes> isAtLeast(SamplesOf<T, bytes> a, SamplesOf<T, bytes> b) {
+  return isEqual(max(a, b), a);
+}
+
 // The limit on the side of a: 2^31 - 1 where it is not negative, -2^31 where it is.
-inline S32 limitBySign(S32 a) { return shiftRight<31>(a) ^ broadcast(INT32_MAX); }
+template <size_t bytes>
+SamplesOf<int32_t, bytes> limitBySign(SamplesOf<int32_t, bytes> a) {
+  return shiftRight<31>(a) ^ broadcastLike(a, INT32_MAX);
+}
 // A sum has left the type where its sign differs from that of both operands.
-inline S32 addSaturated(S32 a, S32 b) {
-  const S32 sum = a + b;
+template <size_t bytes>
+SamplesOf<int32_t, bytes> addSaturated(SamplesOf<int32_t, bytes> a, SamplesOf<int32_t, bytes> b) {
+  const auto sum = a + b;
   return ifNegativeThenElse(andNot(a ^ b, sum ^ a), limitBySign(a), sum);
 }
 // A difference, where the operands' signs differ and its own differs from the first one's.
-inline S32 subSaturated(S32 a, S32 b) {
-  const S32 difference = a - b;
+template <size_t bytes>
+SamplesOf<int32_t, bytes> subSaturated(SamplesOf<int32_t, bytes> a, SamplesOf<int32_t, bytes> b) {
+  const auto difference = a - b;
   return ifNegativeThenElse((a ^ b) & (difference ^ a), limitBySign(a), difference);
 }
-
-inline Floats4 operator+(Floats4 a, Floats4 b) { return {_mm_add_ps(a.v, b.v)}; }
-inline Floats8 operator+(Floats8 a, Floats8 b) { return {_mm256_add_ps(a.v, b.v)}; }
-inline Floats4 operator-(Floats4 a, Floats4 b) { return {_mm_sub_ps(a.v, b.v)}; }
-inline Floats8 operator-(Floats8 a, Floats8 b) { return {_mm256_sub_ps(a.v, b.v)}; }
-inline Floats4 operator*(Floats4 a, Floats4 b) { return {_mm_mul_ps(a.v, b.v)}; }
-inline Floats8 operator*(Floats8 a, Floats8 b) { return {_mm256_mul_ps(a.v, b.v)}; }
-
-// Sixteen bytes as samples of a type, and back.
-template <typename T>
-auto samplesOf(Bytes16 v) {
-  if constexpr (std::is_same_v<T, float>)
-    return Floats4{_mm_castsi128_ps(v)};
-  else
-    return Samples<T>{v};
-}
-template <typename T>
-Bytes16 bytesOf(Samples<T> s) {
-  return s.v;
-}
-inline Bytes16 bytesOf(Floats4 s) { return _mm_castps_si128(s.v); }
 
 }  // namespace lumi::simd

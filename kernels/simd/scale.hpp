@@ -14,8 +14,14 @@ inline Floats8 floatsOf8Bytes(const Byte* p) {
 }
 
 // a / 256 to the nearest, halves up.
-inline S16 nearest256th(S16 a) { return {_mm_mulhrs_epi16(a.v, _mm_set1_epi16(128))}; }
-inline S32 nearest256th(S32 a) { return shiftRight<1>(shiftRight<7>(a) + broadcast(1)); }
+template <size_t bytes>
+SamplesOf<int16_t, bytes> nearest256th(SamplesOf<int16_t, bytes> a) {
+  return multiplyHighRounded(a, broadcastLike(a, int16_t{128}));
+}
+template <size_t bytes>
+SamplesOf<int32_t, bytes> nearest256th(SamplesOf<int32_t, bytes> a) {
+  return shiftRight<1>(shiftRight<7>(a) + broadcastLike(a, 1));
+}
 
 inline Floats4 lowHalf(Floats8 a) { return {_mm256_castps256_ps128(a.v)}; }
 

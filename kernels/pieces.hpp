@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+// Pointwise rows that are shorter than a vector, or that overlap a source: one loop for all operations, which
+// makes a few samples at a time in copies of theirs.
+#pragma once
+
+#include "kernels/rows.hpp"
+#include "kernels/simd/bytes.hpp"
+
+namespace lumi {
+
+// A source image: its first row, bytes for each sample of the destination, and whether rows that share memory
+// with the destination's are done sample by sample.
+struct PieceSource {
+  SourceRows rows;
+  size_t sampleBytes;
+  bool mayOverlap;
+};
+
+// An operation without its type.
+struct Pieces {
+  size_t sampleBytes;  // of the destination
+  const PieceSource* sources;
+  int count;
+  const void* rule;
+  // A vector of results of the samples from byte `at` of the destination on, which lie where pieces point.
+  void (*make)(const void* rule, const uint8_t* const* pieces, size_t at, uint8_t* results);
+  // Row y, a vector or longer, that overlaps no source.
+  void (*runRow)(const void* rule, uint8_t* row, size_t bytes, int y);
+};
+
+// The most that a rule has: two operands, and what the destination holds.
+inline constexpr int kMostPieceSources = 3;
+// Of a wide vector's samples of a byte, each made from one of eight.
+inline constexpr size_t kPieceRoom = simd::kVectorBytes * 8;
+
+// Whether every row of the destination, of so many bytes, shares memory only with a source row that is the same
+// row. Other rows do not count: each is finished before the next begins.
+bool areApartInRange(TargetRows dst, size_t bytes, int rows, const PieceSource& source);
+
+inline bool areApart(TargetRows dst, size_t bytes, int rows, const PieceSource* sources, int count) {
+  for (int i = 0; i < count; ++i) {
+    const SourceRows src = sources[i].rows;
+    if (!sources[i].mayOverlap) continue;
+    // Where rows lie equally far apart in all images, the first ones tell for all.
+    const auto from = reinterpret_cast<uintptr_t>(src.first), to = reinterpret_cast<uintptr_t>(dst.first);
+    const uintptr_t distance = from < to ? to - from : from - to;
+    const bool apart = distance == 0 || distance >= bytes;
+    if (apart && (rows == 1 || src.step == dst.step)) continue;
+    if (!areApartInRange(dst, bytes, rows, sources[i])) return false;
+  }
+  return true;
+}
+
+void runInPieces(TargetRows dst, Extent samples, const Pieces& pieces);
+
+}  // namespace lumi

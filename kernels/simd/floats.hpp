@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+// Vectors of floats and doubles, and any sample type's vector as raw bytes.
+#pragma once
+
+#include "kernels/simd/samples.hpp"
+
+namespace lumi::simd {
+
+struct Floats4 {
+  __m128 v;
+};
+struct Floats8 {
+  __m256 v;
+};
+struct Doubles2 {
+  __m128d v;
+};
+struct Doubles4 {
+  __m256d v;
+};
+
+inline Floats4 operator+(Floats4 a, Floats4 b) { return {_mm_add_ps(a.v, b.v)}; }
+inline Floats8 operator+(Floats8 a, Floats8 b) { return {_mm256_add_ps(a.v, b.v)}; }
+inline Doubles2 operator+(Doubles2 a, Doubles2 b) { return {_mm_add_pd(a.v, b.v)}; }
+inline Doubles4 operator+(Doubles4 a, Doubles4 b) { return {_mm256_add_pd(a.v, b.v)}; }
+inline Floats4 operator-(Floats4 a, Floats4 b) { return {_mm_sub_ps(a.v, b.v)}; }
+inline Floats8 operator-(Floats8 a, Floats8 b) { return {_mm256_sub_ps(a.v, b.v)}; }
+inline Doubles2 operator-(Doubles2 a, Doubles2 b) { return {_mm_sub_pd(a.v, b.v)}; }
+inline Doubles4 operator-(Doubles4 a, Doubles4 b) { return {_mm256_sub_pd(a.v, b.v)}; }
+inline Floats4 operator*(Floats4 a, Floats4 b) { return {_mm_mul_ps(a.v, b.v)}; }
+inline Floats8 operator*(Floats8 a, Floats8 b) { return {_mm256_mul_ps(a.v, b.v)}; }
+inline Doubles2 operator*(Doubles2 a, Doubles2 b) { return {_mm_mul_pd(a.v, b.v)}; }
+inline Doubles4 operator*(Doubles4 a, Doubles4 b) { return {_mm256_mul_pd(a.v, b.v)}; }
+
+inline Floats4 operator&(Floats4 a, Floats4 b) { return {_mm_and_ps(a.v, b.v)}; }
+inline Floats8 operator&(Floats8 a, Floats8 b) { return {_mm256_and_ps(a.v, b.v)}; }
+inline Floats4 operator|(Floats4 a, Floats4 b) { return {_mm_or_ps(a.v, b.v)}; }
+inline Floats8 operator|(Floats8 a, Floats8 b) { return {_mm256_or_ps(a.v, b.v)}; }
+
+// Where either is not a number, and where both are zero, b.
+inline Floats4 min(Floats4 a, Floats4 b) { return {_mm_min_ps(a.v, b.v)}; }
+inline Floats8 min(Floats8 a, Floats8 b) { return {_mm256_min_ps(a.v, b.v)}; }
+inline Floats4 max(Floats4 a, Floats4 b) { return {_mm_max_ps(a.v, b.v)}; }
+inline Floats8 max(Floats8 a, Floats8 b) { return {_mm256_max_ps(a.v, b.v)}; }
+
+// Masks; false where either is not a number.
+inline Floats4 isAtLeast(Floats4 a, Floats4 b) { return {_mm_cmpge_ps(a.v, b.v)}; }
+inline Floats8 isAtLeast(Floats8 a, Floats8 b) { return {_mm256_cmp_ps(a.v, b.v, _CMP_GE_OS)}; }
+
+template <typename V>
+V broadcastFloat(float x) {
+  if constexpr (std::is_same_v<V, Floats8>)
+    return {_mm256_set1_ps(x)};
+  else
+    return {_mm_set1_ps(x)};
+}
+
+inline Floats8 loadFloats8(const Byte* p) { return {asFloats(load32(p))}; }
+inline Floats4 loadFloats4(const Byte* p) { return {_mm_castsi128_ps(load16(p))}; }
+
+// A vector as raw bytes, and back.
+template <typename T, size_t n>
+auto bytesOf(SamplesOf<T, n> s) {
+  return s.v;
+}
+inline Bytes16 bytesOf(Floats4 s) { return _mm_castps_si128(s.v); }
+inline Bytes32 bytesOf(Floats8 s) { return asBytes(s.v); }
+inline Bytes16 bytesOf(Doubles2 s) { return _mm_castpd_si128(s.v); }
+inline Bytes32 bytesOf(Doubles4 s) { return _mm256_castpd_si256(s.v); }
+template <typename T>
+auto samplesOf(Bytes16 v) {
+  if constexpr (std::is_same_v<T, float>)
+    return Floats4{_mm_castsi128_ps(v)};
+  else if constexpr (std::is_same_v<T, double>)
+    return Doubles2{_mm_castsi128_pd(v)};
+  else
+    return Samples16<T>{v};
+}
+template <typename T>
+auto samplesOf(Bytes32 v) {
+  if constexpr (std::is_same_v<T, float>)
+    return Floats8{asFloats(v)};
+  else if constexpr (std::is_same_v<T, double>)
+    return Doubles4{_mm256_castsi256_pd(v)};
+  else
+    return Samples32<T>{v};
+}
+
+}  // namespace lumi::simd
