@@ -3,28 +3,31 @@
 
 Held: the peers use nothing above AVX, as we do. Native: whatever the processor has. OpenCV and the C
 library read their limits at start-up, so each way is a run of its own; ours is timed in both, and every
-ratio is taken within one run.
+ratio is taken within one run. Reports can be made again from saved measurements, and two measurements
+compared by our own times.
 """
 
 import argparse
+import datetime
 import json
 import os
+import pathlib
+import re
 import subprocess
 import sys
+import textwrap
 import time
+
+ROOT = pathlib.Path(__file__).resolve().parents[1]
+sys.path.insert(0, str(ROOT / "tools"))
+
+import marked  # noqa: E402
+import report  # noqa: E402
 
 HELD = {
     "OPENCV_CPU_DISABLE": "FP16,FMA3,AVX2,AVX512-SKX",
     "GLIBC_TUNABLES": "glibc.cpu.hwcaps=-AVX2,-AVX512F,-AVX512VL,-AVX512BW,-AVX512CD,-AVX512DQ",
 }
-# Rows of the compact table, at full HD unless a size is given.
-SELECTED = ("fill 8u C1", "fill 8u C3", "fill masked 8u C1", "copy 8u C1", "copy 32f C1", "copy masked 8u C3",
-            "split 8u C3P3", "merge 8u P3C3", "channel 8u C3C1", "add 8u C1", "add 8u C1 256x32", "add 8u C1 scale 3",
-            "addC 8u C1", "add 32f C1", "convert 8u32f C1", "convert 32f8u C1", "scale 32f8u C1", "gray to bits 8u",
-            "border value 8u C1", "border edges 8u C3 256x32", "filter 8u C1 3x3", "filter 8u C1 5x5",
-            "filter 8u C3 5x5", "filter 32f C1 5x5", "resize nearest 8u C1 1280x720",
-            "resize nearest 8u C1 3840x2160", "resize linear 8u C1 1280x720", "resize linear 8u C1 3840x2160",
-            "resize linear 8u C3 1280x720", "resize linear 8u C4 1280x720", "resize linear 32f C1 1280x720")
 # A peer built as well for 32 bits as for 64 would lose about this much to the fewer registers.
 WORD_COST = 1.1
 
@@ -81,90 +84,32 @@ def add_bar(rows32, rows64):
             row["bar"] = {"ns": min(known), "ratio": min(known) / row["ours"]}
 
 
-def cells(row, has_bar):
-    def triple(result):
-        return [result["peer"], f'{result["ns"]:.4g}', f'{result["ratio"]:.2f}'] if result else ["-"] * 3
-    bar = [f'{row["bar"]["ratio"]:.2f}' if "bar" in row else "-"] if has_bar else []
-    return ([row["name"], row["size"], f'{row["ours"]:.4g}', f'{row["gbps"]:.1f}'] + triple(row["held"]) + bar +
-            triple(row["native"]) + [f'{100 * row["share"]:.0f}%'])
+def add_wide(rows, wide):
+    """Our time in the wider build, for comparison only: it takes part in no ratio."""
+    found = {(row["name"], f'{row["width"]}x{row["height"]}'): row for row in wide["rows"]}
+    for row in rows:
+        other = found.get((row["name"], row["size"]))
+        if other:
+            row["wide"] = other["ns"]["ours"] / (other["width"] * other["height"])
+            row["differs"].update(other["differs"])
 
 
-def table(rows):
-    has_bar = any("bar" in row for row in rows)
-    head = (["operation", "size", "ns/px", "GB/s", "held peer", "ns/px", "ratio"] + ["bar"] * has_bar +
-            ["native peer", "ns/px", "ratio", "limit"])
-    lines = [head] + [cells(row, has_bar) for row in rows]
-    widths = [max(len(line[i]) for line in lines) for i in range(len(head))]
-    texts = (0, 1, 4, head.index("native peer"))
-    return "\n".join("  ".join(cell.ljust(width) if i in texts else cell.rjust(width)
-                               for i, (cell, width) in enumerate(zip(line, widths))) for line in lines)
+def machine():
+    """The processor in a few words."""
+    with open("/proc/cpuinfo", encoding="utf-8") as file:
+        info = dict(re.findall(r"^(.*?)\s*:\s*(.*)$", file.read().split("\n\n")[0], re.M))
+    cache = pathlib.Path("/sys/devices/system/cpu/cpu0/cache/index3/size")
+    flags = info.get("flags", "").split()
+    vectors = 512 if "avx512f" in flags else 256
+    words = [f'{info.get("model name", "unknown processor")} of family {info.get("cpu family", "?")}',
+             f"{os.cpu_count()} cores", f"vectors of {vectors} bits"]
+    if cache.exists():
+        words.append(f"{int(cache.read_text(encoding='ascii').strip().rstrip('K')) // 1024} MiB of last-level cache")
+    return ", ".join(words)
 
 
-def markdown(words):
-    """A compact table: selected rows, ns a pixel and the ratios to the best peers."""
-    def title(row):
-        return row["name"] if row["size"] == "1920x1080" else f'{row["name"]} {row["size"]}'
-
-    def ratio(result):
-        return f'{result["ratio"]:.2f} ({result["peer"]})' if result else "-"
-    lines = ["| 1920x1080 unless said | word | ours, ns/px | GB/s | held peers | native peers |",
-             "|---|---|---|---|---|---|"]
-    for name in SELECTED:
-        for word, rows in words.items():
-            for row in rows:
-                if title(row) == name:
-                    lines.append(f'| {name} | {word} | {row["ours"]:.3g} | {row["gbps"]:.0f} | '
-                                 f'{ratio(row["held"])} | {ratio(row["native"])} |')
-    return "\n".join(lines)
-
-
-def plot(words, path):
-    """Ratios to the best held and native peer, one panel per word size, one row per operation and size."""
-    import matplotlib
-    matplotlib.use("Agg")
-    from matplotlib import pyplot
-    tallest = max(len(rows) for rows in words.values())
-    figure, panels = pyplot.subplots(1, len(words), figsize=(8 * len(words), 1.5 + 0.17 * tallest), squeeze=False)
-    for panel, (word, rows) in zip(panels[0], words.items()):
-        for kind, marker, colour in (("native", "o", "tab:orange"), ("held", "D", "tab:blue")):
-            points = [(row[kind]["ratio"], y) for y, row in enumerate(rows) if row[kind]]
-            ratios, places = [ratio for ratio, _ in points], [place for _, place in points]
-            panel.scatter(ratios, places, s=14, marker=marker, color=colour, label=f"best {kind} peer", zorder=3)
-        panel.axvline(1, color="black", linewidth=0.8)
-        panel.set_xscale("log")
-        panel.set_yticks(range(len(rows)), [f'{row["name"]}  {row["size"]}' for row in rows], fontsize=6)
-        panel.set_ylim(len(rows), -1)
-        panel.grid(axis="x", alpha=0.4)
-        panel.set_title(f"{word} bits")
-        panel.set_xlabel("time of the peer / time of lumi")
-        panel.legend(loc="upper right", fontsize=7)
-    figure.tight_layout()
-    figure.savefig(path, dpi=110)
-
-
-def report_differences(words):
-    """Names peers whose output is not ours without a reason given; they take part in no ratio."""
-    found = 0
-    for word, rows in words.items():
-        for row in rows:
-            for peer, reason in row["differs"].items():
-                found += reason == ""
-                if reason == "":
-                    print(f'bench: {peer} differs from ours ({word} bits, {row["name"]} {row["size"]})',
-                          file=sys.stderr)
-    return found
-
-
-def main():
-    parser = argparse.ArgumentParser(prog="scripts/bench", description="Times lumi against its peers.")
-    parser.add_argument("--filter", default="", metavar="REGEX", help='rows whose "operation size" matches')
-    parser.add_argument("--json", metavar="FILE", help="everything measured")
-    parser.add_argument("--plot", metavar="FILE.png", help="picture of the ratios")
-    parser.add_argument("--word", choices=("32", "64", "both"), default="both")
-    parser.add_argument("--quick", action="store_true", help="two sizes, half the time each")
-    parser.add_argument("--markdown", action="store_true", help="a compact table of selected rows")
-    options = parser.parse_args()
-
+def measure(options):
+    """Runs the programs; gives what --json saves."""
     words, libraries = {}, {}
     for word, preset in (("32", "x86-bench"), ("64", "x64-bench")):
         if options.word not in (word, "both"):
@@ -178,17 +123,118 @@ def main():
               file=sys.stderr)
     if len(words) == 2:
         add_bar(words["32"], words["64"])
+    if options.wide:
+        add_wide(words["64"], run("build/x64-v3-bench/bench/lumi_bench", options, False))
+    return {"date": datetime.date.today().isoformat(), "machine": machine(), "libraries": libraries, "rows": words}
 
+
+def load(path, pattern):
+    with open(path, encoding="utf-8") as file:
+        measured = json.load(file)
+    measured["rows"] = {word: [row for row in rows if re.search(pattern, report.title(row))]
+                        for word, rows in measured["rows"].items()}
+    return measured
+
+
+def about(measured):
+    """When, where and against what was measured, as far as the file says so."""
+    peers_of = next(iter(measured["libraries"].values()))["held"]
+    names = ", ".join(f'{library["name"]} {library["version"]}' for library in peers_of)
+    place = f'Measured on {measured["date"]}: {measured["machine"]}. ' if "machine" in measured else ""
+    return textwrap.fill(f"{place}Peers: {names}, and *loop*, the compiler's own loop at our level.", 120)
+
+
+def own_times(paths, pattern):
+    """Our best time of each row in any run of any file. The wider build is no product and does not count."""
+    best = {}
+    for path in paths:
+        for word, rows in load(path, pattern)["rows"].items():
+            for row in rows:
+                key = word, row["family"], report.title(row)
+                ns = min(times["ours"] for times in row["times"].values()) / report.pixels(row)
+                best[key] = min(ns, best.get(key, ns))
+    return best
+
+
+def compare(options):
+    """Lists the rows whose own time grew by more than the factor, and those that are gone; true if there are none."""
+    before, after = own_times(options.before, options.filter), own_times(options.after, options.filter)
+    common = [key for key in before if key in after]
+    change = {key: after[key] / before[key] for key in common}
+    slower = sorted((key for key in common if change[key] > options.factor), key=change.get, reverse=True)
+    for key in slower:
+        print(f'{change[key]:6.2f} times  {key[0]} bits  {key[2]}: {before[key]:.4g} -> {after[key]:.4g} ns/px')
+    gone = [key for key in before if key not in after]
+    for key in gone:
+        print(f"        gone  {key[0]} bits  {key[2]}")
+    faster = sum(ratio < 1 / options.factor for ratio in change.values())
+    print(f"{len(common)} rows: {len(slower)} slower and {faster} faster by more than {options.factor:g}; "
+          f"{len(gone)} gone, {len(after) - len(common)} new")
+    return not slower and not gone
+
+
+def report_differences(words):
+    """Names peers whose output is not ours without a reason given; they take part in no ratio."""
+    found = 0
+    for word, rows in words.items():
+        for row in rows:
+            for peer, reason in row["differs"].items():
+                found += reason == ""
+                if reason == "":
+                    print(f'bench: {peer} differs from ours ({word} bits, {report.title(row)})',
+                          file=sys.stderr)
+    return found
+
+
+def arguments():
+    parser = argparse.ArgumentParser(prog="scripts/bench", description="Times lumi against its peers.")
+    parser.add_argument("--filter", default="", metavar="REGEX", help='rows whose "operation size" matches')
+    parser.add_argument("--word", choices=("32", "64", "both"), default="both")
+    parser.add_argument("--quick", action="store_true", help="two sizes, half the time each")
+    parser.add_argument("--wide", action="store_true", help="our times in the x64-v3 build too")
+    parser.add_argument("--from", dest="saved", metavar="FILE", help="reports from a saved measurement: nothing is run")
+    parser.add_argument("--json", metavar="FILE", help="everything measured")
+    parser.add_argument("--markdown", action="store_true", help="the table of the README instead of all rows")
+    parser.add_argument("--readme", metavar="FILE.md", help="puts that table into a document")
+    parser.add_argument("--page", metavar="FILE.md", help="page of all rows")
+    parser.add_argument("--plot", metavar="FILE.png", help="picture of the ratios")
+    parser.add_argument("--before", nargs="+", metavar="FILE", help="compares our own times of saved measurements")
+    parser.add_argument("--after", nargs="+", metavar="FILE")
+    parser.add_argument("--factor", type=float, default=1.05, help="what counts as slower or faster (1.05)")
+    options = parser.parse_args()
+    if bool(options.before) != bool(options.after):
+        parser.error("--before and --after go together")
+    if options.wide and options.word == "32":
+        parser.error("--wide stands beside 64 bits")
+    return options
+
+
+def main():
+    options = arguments()
+    if options.before:
+        return 0 if compare(options) else 1
+    measured = load(options.saved, options.filter) if options.saved else measure(options)
+    words = measured["rows"]
     if options.json:
         with open(options.json, "w", encoding="utf-8") as file:
-            json.dump({"libraries": libraries, "rows": words}, file, indent=1)
+            json.dump(measured, file, indent=1)
+    if not any(words.values()):
+        print("bench: no such rows", file=sys.stderr)
+        return 1
     if options.markdown:
-        print(markdown(words))
-    else:
+        print(report.markdown(words))
+    elif not options.saved:
         for word, rows in words.items():
-            print(f"\n{word} bits\n{table(rows)}")
-    if options.plot and any(words.values()):
-        plot(words, options.plot)
+            print(f"\n{word} bits\n{report.table(rows)}")
+    if options.readme:
+        readme = pathlib.Path(options.readme)
+        text = marked.replaced(readme.read_text(encoding="utf-8"), "benchmarks",
+                               f"{about(measured)}\n\n{report.markdown(words)}")
+        readme.write_text(text, encoding="utf-8")
+    if options.page:
+        pathlib.Path(options.page).write_text(report.page(words, about(measured)), encoding="utf-8")
+    if options.plot:
+        report.plot(words, options.plot)
     return 1 if report_differences(words) else 0
 
 

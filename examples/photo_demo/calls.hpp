@@ -9,7 +9,7 @@
 #include <chrono>
 #include <vector>
 
-#include "../check.hpp"
+#include "check.hpp"
 
 struct Call {
   const char* name;

@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <memory>
 #include <new>
-#include <type_traits>
 #include <variant>
 
 template <int channels, typename Sample = Lum8u>
@@ -27,17 +26,12 @@ class Image {
   const Sample* data() const { return first_.get(); }
 
  private:
+  // Rows of bytes serve every type: they start on multiples of 64.
   Sample* allocate() {
-    if constexpr (std::is_same_v<Sample, Lum16u>) return lumiMalloc_16u_C3(size_.width, size_.height, &step_);
-    if constexpr (std::is_same_v<Sample, Lum32f>) return lumiMalloc_32f_C3(size_.width, size_.height, &step_);
-    if constexpr (std::is_same_v<Sample, Lum8u>) {
-      constexpr auto allocateMember = channels == 1   ? lumiMalloc_8u_C1
-                                      : channels == 3 ? lumiMalloc_8u_C3
-                                                      : lumiMalloc_8u_C4;
-      return allocateMember(size_.width, size_.height, &step_);
-    }
+    constexpr int pixel = channels * int{sizeof(Sample)};
+    return reinterpret_cast<Sample*>(lumiMalloc_8u_C1(size_.width * pixel, size_.height, &step_));
   }
-  // In samples; rows of lumi's memory start on whole ones.
+  // In samples.
   ptrdiff_t offset(int x, int y) const {
     return ptrdiff_t{y} * (step_ / ptrdiff_t{sizeof(Sample)}) + ptrdiff_t{x} * channels;
   }

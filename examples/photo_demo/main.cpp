@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // photo_demo [picture.png|picture.jpg|-] [folder]
-// Works on a photo by calls of lumi, tells what each of them takes, and writes the results as PNG files with
-// a sheet that shows them all. Without a picture, or with "-", it draws a scene of its own.
+// Works on a photo by calls of lumi, tells what each of them takes, and writes the results as PNG files: a
+// folder and a sheet for each home, and an index with some pictures of every home. Without a picture, or with
+// "-", it draws a scene of its own.
 #include <algorithm>
 #include <cstdio>
 #include <exception>
@@ -12,6 +13,7 @@
 #include <stdexcept>
 #include <string>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "panels.hpp"
@@ -40,10 +42,6 @@ void tell(const char* title, const Calls& calls) {
   }
 }
 
-std::string fileName(size_t number, const char* name) {
-  return (number < 10 ? "0" : "") + std::to_string(number) + '-' + name + ".png";
-}
-
 // Whole numbers of pixels are left out to make a picture fit on a card.
 Colour thumbnail(const AnyImage& image) {
   constexpr int width = 420, height = 420;
@@ -62,6 +60,35 @@ void createFolder(const fs::path& folder) {
   }
 }
 
+std::vector<Card> makePanels(const Families& families, const Colour& photo, const fs::path& folder) {
+  std::vector<Card> cards;
+  for (const auto& [family, panels] : families) {
+    int place = 0;
+    for (const Panel& panel : panels) {
+      Calls calls;
+      const AnyImage image = panel.make(photo, calls);
+      tell(panel.title, calls);
+      writePicture((folder / (family + '-' + panel.file + ".png")).string(), image);
+      cards.push_back({panel.title, timing(calls.list().back()), thumbnail(image), place++});
+    }
+  }
+  return cards;
+}
+
+// A row of cards for the index: the first of each family, an even choice where there are too many of these,
+// and further ones where there are too few.
+std::vector<Card> chosen(std::vector<Card> cards) {
+  std::stable_sort(cards.begin(), cards.end(),
+                   [](const Card& a, const Card& b) { return a.place < b.place; });
+  const auto firsts =
+      std::count_if(cards.begin(), cards.end(), [](const Card& card) { return card.place == 0; });
+  const size_t count = std::min(cards.size(), size_t{kColumns});
+  const size_t pool = std::max(static_cast<size_t>(firsts), count);
+  std::vector<Card> row;
+  for (size_t i = 0; i < count; ++i) row.push_back(std::move(cards[(2 * i + 1) * pool / (2 * count)]));
+  return row;
+}
+
 void run(const std::string& path, const fs::path& folder) {
   const bool own = path.empty() || path == "-";
   const std::string name = own ? "test scene" : fs::path(path).filename().string();
@@ -69,21 +96,24 @@ void run(const std::string& path, const fs::path& folder) {
   createFolder(folder);
 
   const LumLibraryVersion& version = *lumiGetLibVersion();
+  const std::string heading = std::string("lumi ") + version.versionText;
   const std::string about = name + ", " + std::to_string(photo.size().width) + " x " +
                             std::to_string(photo.size().height) + " pixels, " +
                             std::to_string(8 * sizeof(void*)) + "-bit build";
   std::printf("%s %s\n%s\n", version.name, version.versionText, about.c_str());
-  std::vector<Card> cards;
-  for (const Panel& panel : panels()) {
-    Calls calls;
-    const AnyImage image = panel.make(photo, calls);
-    tell(panel.title, calls);
-    writePicture((folder / fileName(cards.size() + 1, panel.file)).string(), image);
-    cards.push_back({panel.title, timing(calls.list().back()), thumbnail(image)});
+  std::vector<Section> index;
+  for (const auto& [home, families] : homes()) {
+    createFolder(folder / home);
+    std::printf("%s\n", home.c_str());
+    std::vector<Section> sheet(1);
+    sheet[0].cards = makePanels(families, photo, folder / home);
+    writePicture((folder / (home + ".png")).string(), makeSheet(heading + ": " + home, about, sheet));
+    index.push_back({home, chosen(std::move(sheet[0].cards))});
   }
-  const std::string sheet = (folder / "sheet.png").string();
-  writePicture(sheet, makeSheet(std::string("lumi ") + version.versionText, about, cards));
-  std::printf("All pictures side by side: %s\n", sheet.c_str());
+  const std::string file = (folder / "index.png").string();
+  writePicture(file, makeSheet(heading, about, index));
+  std::printf("Some pictures of each home: %s; beside it a sheet and a folder with all pictures of each\n",
+              file.c_str());
 }
 
 }  // namespace
