@@ -96,7 +96,7 @@ class ByScale {
   explicit ByScale(const FilterRounding& r) : scale_(broadcastFloat<Floats4>(r.scale)) {}
 
   S32 operator()(S32 sum) const {
-    return rounded(limitedFromAbove(floatsOf(sum) * scale_, broadcastFloat<Floats4>(INT16_MAX)));
+    return roundedToEven(limitedFromAbove(floatsOf(sum) * scale_, broadcastFloat<Floats4>(INT16_MAX)));
   }
 
  private:

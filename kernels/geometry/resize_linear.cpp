@@ -18,7 +18,6 @@ namespace {
 
 using namespace simd;
 
-constexpr int kQ14 = 1 << 14;
 constexpr size_t kLanes = 8, kStep = 16;
 
 // A block makes eight elements: of eight columns, or of two pixels.

@@ -32,6 +32,8 @@ using BlendElement = typename Blend<T>::Element;
 template <typename T>
 using BlendWeight = typename Blend<T>::Weight;
 
+inline constexpr int kQ14 = 1 << 14;  // the weight 1 of bytes
+
 // The columns of a tile: each lies between a source column and the next. Indices never descend; rows begin
 // with source column `origin`. Read is from the first column to the one after the last.
 template <typename T>

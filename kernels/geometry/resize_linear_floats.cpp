@@ -28,7 +28,7 @@ template <typename T>
 T finished(BlendElement<T> x) {
   if constexpr (std::is_integral_v<T>)
     return static_cast<T>(
-        std::clamp<int>(roundedOne(x), std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
+        std::clamp<int>(roundedToEven(x), std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
   else
     return x;
 }
@@ -142,7 +142,7 @@ inline Bytes32 finishedBytes(Floats8 x, float) { return bytesOf(x); }
 inline Bytes32 finishedBytes(Doubles4 x, double) { return bytesOf(x); }
 template <typename T>
 Bytes16 finishedBytes(Floats8 x, T) {
-  const Ints8 rounds = rounded(x);
+  const Ints8 rounds = roundedToEven(x);
   return narrowSaturated<T>(lowHalf(rounds), highHalf(rounds)).v;
 }
 
