@@ -94,10 +94,13 @@ class ColumnBlender<uint8_t, channels> {
  private:
   template <int n>
   void blendEach(const uint8_t* const (&src)[n], int16_t* const (&rows)[n]) const;
+  template <int n, int unit>
+  void blendGathered(const uint8_t* const (&src)[n], int16_t* const (&rows)[n]) const;
 
   const uint8_t* blocks_;
   size_t blockCount_;
   size_t wholeLoads_;  // blocks from the first one on that are loaded in whole vectors
+  int unit_;           // bytes that blocks count source distances in
 };
 
 // The second stage: first + (second - first) * weight, rounded as the type wants it.
