@@ -27,10 +27,13 @@ LumStatus wholeSteps(int srcStep, int dstStep) {
   return ((srcStep | dstStep) & kMask) != 0 ? lumStatusBadStep : lumStatusOk;
 }
 
-template <typename Plan>
+// A linear plan also has to hold weights of the kind that samples of type T are weighed with.
+template <typename T, typename Plan>
 LumStatus madeFor(const Plan& plan, LumiInterpolationType interpolation) {
-  return plan.antialiasing == 0 && plan.interpolation == interpolation ? lumStatusOk
-                                                                       : lumStatusUnsupportedMode;
+  const bool weighs =
+      interpolation != lumInterpLinear || plan.horizontal.template weights<BlendWeight<T>>() != nullptr;
+  return plan.antialiasing == 0 && plan.interpolation == interpolation && weighs ? lumStatusOk
+                                                                                 : lumStatusUnsupportedMode;
 }
 
 LumStatus borderTaken(BorderMode border) {
@@ -46,7 +49,7 @@ LumStatus runFault(const T* src, int srcStep, const T* dst, int dstStep, LumiPoi
                    LumiInterpolationType interpolation) {
   if (LumStatus fault = firstFault(pointers(src, dst, object, buffer), notZero(tile))) return fault;
   return firstFault(identity(*plan), size(tile), wholeSteps<T>(srcStep, dstStep), offsetInside(*plan, offset),
-                    madeFor(*plan, interpolation));
+                    madeFor<T>(*plan, interpolation));
 }
 
 // A part of one axis of the destination.

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "frame/check.hpp"
+#include "kernels/geometry/resize_linear.hpp"
 
 namespace lumi {
 namespace {
@@ -95,17 +96,16 @@ int64_t superEntries(int32_t srcSize, int32_t dstSize) {
 }
 
 // Taps of an antialiasing axis, for `base` of them where the axis does not shrink.
-int64_t antialiasingTaps(double ratio, int base) {
-  return ratio > 1 ? 2 * static_cast<int64_t>(std::ceil(base * ratio)) : base;
+int64_t antialiasingTaps(int32_t src, int32_t dst, uint32_t base) {
+  return src > dst ? 2 * static_cast<int64_t>(std::ceil(Ratio(src, dst).times(base))) : base;
 }
 
 PlanBytes antialiasingBytes(LumiInterpolationType interpolation, LumiSize src, LumiSize dst, int64_t padded) {
-  const int base = interpolation == lumInterpLinear ? 2 : interpolation == lumInterpCubic ? 4 : 6;
-  const double ratioX = static_cast<double>(src.width) / dst.width;
-  const double ratioY = static_cast<double>(src.height) / dst.height;
-  int64_t object = 4 * padded + al32(int64_t{4} * dst.width * antialiasingTaps(ratioX, base)) +
-                   al32(int64_t{4} * dst.height * antialiasingTaps(ratioY, base)) + kHeaderRoom;
-  if (interpolation == lumInterpLinear && ratioX <= 1.0) object += al32(int64_t{4} * dst.width);
+  const uint32_t base = interpolation == lumInterpLinear ? 2 : interpolation == lumInterpCubic ? 4 : 6;
+  int64_t object = 4 * padded + al32(int64_t{4} * dst.width * antialiasingTaps(src.width, dst.width, base)) +
+                   al32(int64_t{4} * dst.height * antialiasingTaps(src.height, dst.height, base)) +
+                   kHeaderRoom;
+  if (interpolation == lumInterpLinear && src.width <= dst.width) object += al32(int64_t{4} * dst.width);
   return {object, 8 * padded + kInitSize};
 }
 
@@ -175,15 +175,16 @@ void begin(Plan& plan, LumiSize src, LumiSize dst, LumiInterpolationType interpo
   setSizes(plan.horizontal, src.width, dst.width);
 }
 
-template <typename Axis>
-double ratioOf(const Axis& axis) {
-  return static_cast<double>(axis.reducedSrc) / static_cast<double>(axis.reducedDst);
+// trunc(fraction * 2^14 + 1e-7).
+uint16_t q14Of(double fraction) {
+  const double scaled = fraction * kQ14, below = std::floor(scaled);
+  return static_cast<uint16_t>(below + (sumReaches(scaled, 1e-7, below + 1) ? 1 : 0));
 }
 
 // Weights as a run wants them.
 template <bool isHorizontal>
 void putWeight(Lum16u* table, int32_t i, double fraction) {
-  const auto c = static_cast<Lum16u>(fraction * kQ14 + 1e-7);
+  const uint16_t c = q14Of(fraction);
   if constexpr (isHorizontal) {
     table[2 * i] = static_cast<Lum16u>(kQ14 - c);
     table[2 * i + 1] = c;
@@ -191,27 +192,35 @@ void putWeight(Lum16u* table, int32_t i, double fraction) {
     table[i] = c;
   }
 }
-template <bool isHorizontal, typename Float>
-void putWeight(Float* table, int32_t i, double fraction) {
-  table[i] = static_cast<Float>(fraction);
+template <bool isHorizontal>
+void putWeight(Lum32f* table, int32_t i, double fraction) {
+  table[i] = roundedToFloat(fraction);
 }
+template <bool isHorizontal>
+void putWeight(Lum64f* table, int32_t i, double fraction) {
+  table[i] = fraction;
+}
+
+// The centre of pixel i is at (i + 1/2) times the ratio.
+double centreOf(const Ratio& ratio, int32_t i) { return ratio.halfTimes(2 * static_cast<uint32_t>(i) + 1); }
 
 template <bool isHorizontal, typename W, typename Axis>
 void fillLinear(Axis& axis) {
-  const double ratio = ratioOf(axis);
+  const Ratio ratio(axis.reducedSrc, axis.reducedDst);
   W* const weights = axis.template weights<W>();
   for (int32_t i = 0; i < axis.dstSize; ++i) {
-    const double centre = (i + 0.5) * ratio - 0.5, index = std::floor(centre);
-    axis.index[i] = static_cast<int32_t>(index);
-    putWeight<isHorizontal>(weights, i, centre - index);
-    if (centre < 0) ++axis.low;
-    if (centre >= axis.srcSize - 1) ++axis.high;
+    const Between position = betweenPixels(centreOf(ratio, i));
+    const auto index = static_cast<int32_t>(position.index);
+    axis.index[i] = index;
+    putWeight<isHorizontal>(weights, i, position.fraction);
+    if (index < 0) ++axis.low;
+    if (index >= axis.srcSize - 1) ++axis.high;
   }
 }
 
 void fillNearest(ResizeAxis& axis) {
-  const double ratio = ratioOf(axis);
-  for (int32_t i = 0; i < axis.dstSize; ++i) axis.index[i] = static_cast<int32_t>((i + 0.5) * ratio - 1e-10);
+  const Ratio ratio(axis.reducedSrc, axis.reducedDst);
+  for (int32_t i = 0; i < axis.dstSize; ++i) axis.index[i] = nearestIndex(centreOf(ratio, i));
 }
 
 }  // namespace
@@ -250,7 +259,7 @@ LumStatus initNearest(LumiSize srcSize, LumiSize dstSize, Opaque* object) {
 
 template <typename Sample, typename Opaque>
 LumStatus initLinear(LumiSize srcSize, LumiSize dstSize, Opaque* object) {
-  using W = Weight<Sample>;
+  using W = BlendWeight<Sample>;
   constexpr int kColumnWeights = sizeof(W) == 2 ? 2 : 1;
   if (LumStatus fault = firstFault(pointers(object), notZero(srcSize, dstSize), atLeast(srcSize, 1),
                                    atLeast(dstSize, 1), atLeast(srcSize, 2)))

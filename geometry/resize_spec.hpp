@@ -3,27 +3,10 @@
 #pragma once
 
 #include "frame/object.hpp"
+#include "geometry/positions.hpp"
 #include "lumi/types.h"
 
 namespace lumi {
-
-// What linear interpolation of a sample type weighs with: Q14 integers for bytes, else floats.
-template <typename T>
-struct WeightOf {
-  using Type = Lum32f;
-};
-template <>
-struct WeightOf<Lum8u> {
-  using Type = Lum16u;
-};
-template <>
-struct WeightOf<Lum64f> {
-  using Type = Lum64f;
-};
-template <typename T>
-using Weight = typename WeightOf<T>::Type;
-
-inline constexpr int kQ14 = 16384;
 
 // Pointers of an axis are null where the plan has no such table.
 struct ResizeAxis {
@@ -121,8 +104,8 @@ auto planAt(Opaque* object) {
 // The source position where destination position x starts: floor(x * s) with the ratio s in double precision.
 template <typename Axis>
 int32_t sourceStart(const Axis& axis, int32_t x) {
-  const double ratio = static_cast<double>(axis.reducedSrc) / static_cast<double>(axis.reducedDst);
-  return static_cast<int32_t>(x * ratio);  // not negative: truncated is floor
+  const Ratio ratio(axis.reducedSrc, axis.reducedDst);
+  return static_cast<int32_t>(ratio.times(static_cast<uint32_t>(x)));  // not negative: truncated is floor
 }
 
 // A destination rectangle without what is beyond the destination; its offset lies inside.

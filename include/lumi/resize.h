@@ -289,7 +289,8 @@ LumStatus lumiResizeNearest_8u_C4R(const Lum8u* src, int srcStep, Lum8u* dst, in
  *   lumStatusBadSize (-6)            the tile's width or height is below 1
  *   lumStatusBadStep (-14)           a step is not a multiple of the sample's size
  *   lumStatusOutOfRange (-11)        dstOffset lies outside the destination
- *   lumStatusUnsupportedMode (-9999) the plan was not made by lumiResizeLinearInit
+ *   lumStatusUnsupportedMode (-9999) the plan was not made by lumiResizeLinearInit, or with weights of another
+ *                                    kind: integers for 8u, floats for 16u, 16s and 32f
  *   lumStatusBadBorder (-225)        bit 3 of border is set, or one above bit 7
  *   lumStatusUnsupportedMode (-9999) its low three bits are neither lumiBorderReplicate nor lumiBorderInMemory
  *   lumStatusSizeAboveSpec (48)      done; the tile is wider or higher than the whole destination. A tile that

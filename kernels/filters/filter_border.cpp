@@ -96,7 +96,7 @@ class ByScale {
   explicit ByScale(const FilterRounding& r) : scale_(broadcastFloat<Floats4>(r.scale)) {}
 
   S32 operator()(S32 sum) const {
-    return rounded(min(broadcastFloat<Floats4>(INT16_MAX), floatsOf(sum) * scale_));
+    return roundedToEven(min(broadcastFloat<Floats4>(INT16_MAX), floatsOf(sum) * scale_));
   }
 
  private:

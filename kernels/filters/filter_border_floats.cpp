@@ -99,12 +99,12 @@ Floats8 floatsAt(const Byte* p) {
 template <typename T>
 void storeAs(Byte* dst, Floats8 sums) {
   constexpr float highest = std::numeric_limits<T>::max();
-  const Ints8 whole = rounded(min(broadcastFloat<Floats8>(highest), sums));
+  const Ints8 integers = roundedToEven(min(broadcastFloat<Floats8>(highest), sums));
   if constexpr (sizeof(T) == 1) {
-    const S16 words = narrowSaturated<int16_t>(lowHalf(whole), highHalf(whole));
+    const S16 words = narrowSaturated<int16_t>(lowHalf(integers), highHalf(integers));
     storeFirst8(dst, narrowSaturated<uint8_t>(words, words).v);
   } else {
-    store16(dst, narrowSaturated<T>(lowHalf(whole), highHalf(whole)).v);
+    store16(dst, narrowSaturated<T>(lowHalf(integers), highHalf(integers)).v);
   }
 }
 
@@ -174,7 +174,7 @@ float sumAt(const FilterTaps& taps, FilterSource src) {
 }
 
 // Ties to even. A float plus a half is exact here, but for some below a half.
-int roundedToEven(float magnitude) {
+int roundedMagnitude(float magnitude) {
   if (!(magnitude > 0.5F)) return 0;
   const int result = truncated(magnitude + 0.5F);
   return static_cast<float>(result) - magnitude == 0.5F ? result & ~1 : result;
@@ -190,7 +190,7 @@ T sampleOf(float x, int mode) {
     if (x >= static_cast<float>(Limits::max())) return Limits::max();
     if (x <= static_cast<float>(Limits::min())) return Limits::min();
     if (mode == 0) return static_cast<T>(truncated(x));
-    if (mode == 1) return static_cast<T>(x < 0 ? -roundedToEven(-x) : roundedToEven(x));
+    if (mode == 1) return static_cast<T>(x < 0 ? -roundedMagnitude(-x) : roundedMagnitude(x));
     return static_cast<T>(truncated(x < 0 ? x - 0.5F : x + 0.5F));
   }
 }

@@ -69,7 +69,7 @@ struct HalvesOfWords {
   }
   static void block(const Byte* first, const Byte* second, Byte* dst) {
     const Floats8 sums = floatsOf(joined(sum(first, second), sum(first + 16, second + 16)));
-    const Ints8 means = rounded(sums * broadcastWide(0.25F));
+    const Ints8 means = roundedToEven(sums * broadcastWide(0.25F));
     store16(dst, narrowSaturated<T>(lowHalf(means), highHalf(means)).v);
   }
 };

@@ -18,7 +18,6 @@ namespace {
 
 using namespace simd;
 
-constexpr int kQ14 = 1 << 14;
 constexpr size_t kLanes = 8, kStep = 16;
 
 // A block makes eight elements: of eight columns, or of two pixels.
@@ -38,7 +37,7 @@ struct WindowBlock {
 template <int channels>
 struct GatherBlock {
   int16_t weights[kLanes];
-  int32_t offsets[kColumns<channels>];
+  int32_t distances[kColumns<channels>];  // from the row's start
 };
 
 // One or two rows, which share their columns' blocks.
@@ -86,42 +85,50 @@ void setWeights(Block& block, const TileColumns<uint8_t>& columns, size_t x) {
   }
 }
 
-// Blocks that reach beyond the last column repeat it.
-template <int channels>
-int32_t offsetOf(const TileColumns<uint8_t>& columns, size_t x) {
-  return (columns.index[std::min(x, columns.count - 1)] - columns.origin) * channels;
+// The source column from the row's start on; blocks that reach beyond the last one repeat it.
+int32_t columnOf(const TileColumns<uint8_t>& columns, size_t x) {
+  return columns.index[std::min(x, columns.count - 1)] - columns.origin;
 }
 
+// A pixel at a distance in units of so many bytes. Columns fit 32 bits, but not the bytes of long rows: their
+// distances are columns. Of four channels they always are, for a processor's addresses have that factor.
+template <int unit>
+const Byte* pixelAt(const Byte* src, int32_t distance) {
+  return src + static_cast<ptrdiff_t>(distance) * unit;
+}
+template <int channels>
+inline constexpr int kUnit = channels == 4 ? 4 : 1;
+
 bool suitsWindows(const TileColumns<uint8_t>& columns) {
-  const auto reach = [&](size_t x, size_t last) {
-    return offsetOf<1>(columns, last) + 2 - offsetOf<1>(columns, x);
-  };
-  if (reach(0, columns.count) < static_cast<int32_t>(kStep)) return false;
+  constexpr auto kMostBetween = static_cast<int32_t>(kStep) - 2;  // of the first and the last pair's columns
+  const auto between = [&](size_t x, size_t last) { return columnOf(columns, last) - columnOf(columns, x); };
+  if (between(0, columns.count) < kMostBetween) return false;
   for (size_t x = 0; x < columns.count; x += kLanes)
-    if (reach(x, x + kLanes - 1) > static_cast<int32_t>(kStep)) return false;
+    if (between(x, x + kLanes - 1) > kMostBetween) return false;
   return true;
 }
 
 void makeWindows(const TileColumns<uint8_t>& columns, uint8_t* scratch) {
-  const int32_t last = offsetOf<1>(columns, columns.count) + 2 - static_cast<int32_t>(kStep);
+  const int32_t last = columnOf(columns, columns.count) - (static_cast<int32_t>(kStep) - 2);
   for (size_t i = 0, x = 0; x < columns.count; ++i, x += kLanes) {
     WindowBlock block;
     setWeights<1>(block, columns, x);
-    block.offset = std::min(offsetOf<1>(columns, x), last);
+    block.offset = std::min(columnOf(columns, x), last);
     int16_t at[kLanes];
     for (size_t lane = 0; lane < kLanes; ++lane)
-      at[lane] = static_cast<int16_t>(0x0101 * (offsetOf<1>(columns, x + lane) - block.offset) + 0x0100);
+      at[lane] = static_cast<int16_t>(0x0101 * (columnOf(columns, x + lane) - block.offset) + 0x0100);
     move<sizeof at>(block.control.data(), reinterpret_cast<const Byte*>(at));
     put(scratch, i, block);
   }
 }
 
 template <int channels>
-void makeGathers(const TileColumns<uint8_t>& columns, uint8_t* scratch) {
+void makeGathers(const TileColumns<uint8_t>& columns, int unit, uint8_t* scratch) {
   for (size_t i = 0, x = 0; x < columns.count; ++i, x += kColumns<channels>) {
     GatherBlock<channels> block;
     setWeights<channels>(block, columns, x);
-    for (size_t k = 0; k < kColumns<channels>; ++k) block.offsets[k] = offsetOf<channels>(columns, x + k);
+    for (size_t k = 0; k < kColumns<channels>; ++k)
+      block.distances[k] = columnOf(columns, x + k) * (channels / unit);
     put(scratch, i, block);
   }
 }
@@ -144,52 +151,56 @@ void blendWindows(Sources<n> src, Elements<n> rows, const uint8_t* blocks, size_
   }
 }
 
-// Pixels and their right neighbours as pairs of samples.
+// Two pixels and their right neighbours as pairs of samples.
 template <int channels>
-Bytes16 gathered(const Byte* src, const int32_t* offsets) {
+Bytes16 neighbours(const Byte* first, const Byte* second) {
+  constexpr Control kPairs = channels == 3 ? Control{0, 3, 1, 4, 2, 5, 8, 11, 9, 12, 10, 13, 6, 6, 6, 6}
+                                           : Control{0, 4, 1, 5, 2, 6, 3, 7, 8, 12, 9, 13, 10, 14, 11, 15};
+  return shuffleBytes(gatherQuadwords(first, second), vectorOf(kPairs));
+}
+
+template <int channels, int unit>
+Bytes16 gathered(const Byte* src, const int32_t* distances) {
   if constexpr (channels == 1) {
     Bytes16 v = _mm_setzero_si128();
-    v = insertWord<0>(v, src + offsets[0]);
-    v = insertWord<1>(v, src + offsets[1]);
-    v = insertWord<2>(v, src + offsets[2]);
-    v = insertWord<3>(v, src + offsets[3]);
-    v = insertWord<4>(v, src + offsets[4]);
-    v = insertWord<5>(v, src + offsets[5]);
-    v = insertWord<6>(v, src + offsets[6]);
-    return insertWord<7>(v, src + offsets[7]);
+    v = insertWord<0>(v, src + distances[0]);
+    v = insertWord<1>(v, src + distances[1]);
+    v = insertWord<2>(v, src + distances[2]);
+    v = insertWord<3>(v, src + distances[3]);
+    v = insertWord<4>(v, src + distances[4]);
+    v = insertWord<5>(v, src + distances[5]);
+    v = insertWord<6>(v, src + distances[6]);
+    return insertWord<7>(v, src + distances[7]);
   } else {
-    constexpr Control kPairs = channels == 3 ? Control{0, 3, 1, 4, 2, 5, 8, 11, 9, 12, 10, 13, 6, 6, 6, 6}
-                                             : Control{0, 4, 1, 5, 2, 6, 3, 7, 8, 12, 9, 13, 10, 14, 11, 15};
-    return shuffleBytes(gatherQuadwords(src + offsets[0], src + offsets[1]), vectorOf(kPairs));
+    return neighbours<channels>(pixelAt<unit>(src, distances[0]), pixelAt<unit>(src, distances[1]));
   }
 }
 
-template <int channels, int n>
+template <int channels, int unit, int n>
 void blendGathers(Sources<n> src, Elements<n> rows, const uint8_t* blocks, size_t first, size_t end) {
   using Block = GatherBlock<channels>;
   for (size_t i = first; i < end; ++i) {
     const uint8_t* const block = blocks + i * sizeof(Block);
-    int32_t offsets[kColumns<channels>];
-    move<sizeof offsets>(reinterpret_cast<Byte*>(offsets), block + offsetof(Block, offsets));
+    int32_t distances[kColumns<channels>];
+    move<sizeof distances>(reinterpret_cast<Byte*>(distances), block + offsetof(Block, distances));
     for (size_t k = 0; k < n; ++k)
-      rows.store(k, i * kUsed<channels>, blendPairs(gathered<channels>(src[k], offsets), block));
+      rows.store(k, i * kUsed<channels>, blendPairs(gathered<channels, unit>(src[k], distances), block));
   }
 }
 
 // The last 3-channel pixels end less than eight bytes after their start: each is copied apart.
-template <int n>
+template <int unit, int n>
 void blendLast(Sources<n> src, Elements<n> rows, const uint8_t* blocks, size_t first, size_t end) {
   using Block = GatherBlock<3>;
   for (size_t i = first; i < end; ++i) {
     const uint8_t* const block = blocks + i * sizeof(Block);
-    int32_t offsets[2];
-    move<sizeof offsets>(reinterpret_cast<Byte*>(offsets), block + offsetof(Block, offsets));
+    int32_t distances[2];
+    move<sizeof distances>(reinterpret_cast<Byte*>(distances), block + offsetof(Block, distances));
     for (size_t k = 0; k < n; ++k) {
       Byte pixels[16] = {};
-      move<6>(pixels, src[k] + offsets[0]);
-      move<6>(pixels + 8, src[k] + offsets[1]);
-      constexpr int32_t kCopied[2] = {0, 8};
-      rows.store(k, i * kUsed<3>, blendPairs(gathered<3>(pixels, kCopied), block));
+      move<6>(pixels, pixelAt<unit>(src[k], distances[0]));
+      move<6>(pixels + 8, pixelAt<unit>(src[k], distances[1]));
+      rows.store(k, i * kUsed<3>, blendPairs(neighbours<3>(pixels, pixels + 8), block));
     }
   }
 }
@@ -237,34 +248,41 @@ template <int channels>
 ColumnBlender<uint8_t, channels>::ColumnBlender(const TileColumns<uint8_t>& columns, uint8_t* scratch)
     : blocks_(scratch),
       blockCount_((columns.count + kColumns<channels> - 1) / kColumns<channels>),
-      wholeLoads_(blockCount_) {
+      wholeLoads_(blockCount_),
+      unit_(kUnit<channels>) {
   if (channels == 1 && suitsWindows(columns)) {
     makeWindows(columns, scratch);
     return;
   }
-  makeGathers<channels>(columns, scratch);
   if (channels == 1) wholeLoads_ = 0;
   if (channels == 3) {
+    if (columnOf(columns, columns.count) > INT32_MAX / channels) unit_ = channels;
     const int32_t* const end = columns.index + columns.count;
     const int32_t last = end[-1];
     const auto beforeLast = static_cast<size_t>(std::lower_bound(columns.index, end, last) - columns.index);
     wholeLoads_ = beforeLast / kColumns<channels>;
   }
+  makeGathers<channels>(columns, unit_, scratch);
+}
+
+template <int channels>
+template <int n, int unit>
+[[gnu::always_inline]] inline void ColumnBlender<uint8_t, channels>::blendGathered(
+    const uint8_t* const (&src)[n], int16_t* const (&rows)[n]) const {
+  const size_t whole = channels == 1 ? blockCount_ : wholeLoads_;
+  blendGathers<channels, unit, n>(src, {rows}, blocks_, 0, whole);
+  if constexpr (channels == 3) blendLast<unit, n>(src, {rows}, blocks_, whole, blockCount_);
 }
 
 template <int channels>
 template <int n>
-void ColumnBlender<uint8_t, channels>::blendEach(const uint8_t* const (&src)[n],
-                                                 int16_t* const (&rows)[n]) const {
-  if constexpr (channels == 1) {
-    if (wholeLoads_ != 0)
-      blendWindows<n>(src, {rows}, blocks_, blockCount_);
-    else
-      blendGathers<1, n>(src, {rows}, blocks_, 0, blockCount_);
-  } else {
-    blendGathers<channels, n>(src, {rows}, blocks_, 0, wholeLoads_);
-    if constexpr (channels == 3) blendLast<n>(src, {rows}, blocks_, wholeLoads_, blockCount_);
-  }
+[[gnu::always_inline]] inline void ColumnBlender<uint8_t, channels>::blendEach(
+    const uint8_t* const (&src)[n], int16_t* const (&rows)[n]) const {
+  if constexpr (channels == 1)
+    if (wholeLoads_ != 0) return blendWindows<n>(src, {rows}, blocks_, blockCount_);
+  if constexpr (channels == 3)
+    if (unit_ == channels) return blendGathered<n, channels>(src, rows);
+  blendGathered<n, kUnit<channels>>(src, rows);
 }
 
 template <int channels>
@@ -284,16 +302,16 @@ void ColumnBlender<uint8_t, channels>::blendOnce(const uint8_t* src, const TileC
   if constexpr (channels == 1) {
     for (; x + 4 <= columns.count; x += 4) {
       Bytes16 pairs = dwordsOf(0, 0, 0);
-      pairs = insertWord<0>(pairs, src + offsetOf<1>(columns, x));
-      pairs = insertWord<1>(pairs, src + offsetOf<1>(columns, x + 1));
-      pairs = insertWord<2>(pairs, src + offsetOf<1>(columns, x + 2));
-      pairs = insertWord<3>(pairs, src + offsetOf<1>(columns, x + 3));
+      pairs = insertWord<0>(pairs, src + columnOf(columns, x));
+      pairs = insertWord<1>(pairs, src + columnOf(columns, x + 1));
+      pairs = insertWord<2>(pairs, src + columnOf(columns, x + 2));
+      pairs = insertWord<3>(pairs, src + columnOf(columns, x + 3));
       const auto* const weights = reinterpret_cast<const Byte*>(columns.weights + 2 * x);
       storePixel<4>(dst + x, blendQ14(pairs, load16(weights)));
     }
   }
   for (; x < columns.count; ++x) {
-    const Byte* const pixel = src + offsetOf<channels>(columns, x);
+    const Byte* const pixel = pixelAt<channels>(src, columnOf(columns, x));
     storePixel<channels>(dst + x * channels,
                          blendPixels<channels>(pixel, pixel + channels, columns.weights[2 * x + 1]));
   }

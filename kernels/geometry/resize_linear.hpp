@@ -32,6 +32,8 @@ using BlendElement = typename Blend<T>::Element;
 template <typename T>
 using BlendWeight = typename Blend<T>::Weight;
 
+inline constexpr int kQ14 = 1 << 14;  // the weight 1 of bytes
+
 // The columns of a tile: each lies between a source column and the next. Indices never descend; rows begin
 // with source column `origin`. Read is from the first column to the one after the last.
 template <typename T>
@@ -92,10 +94,13 @@ class ColumnBlender<uint8_t, channels> {
  private:
   template <int n>
   void blendEach(const uint8_t* const (&src)[n], int16_t* const (&rows)[n]) const;
+  template <int n, int unit>
+  void blendGathered(const uint8_t* const (&src)[n], int16_t* const (&rows)[n]) const;
 
   const uint8_t* blocks_;
   size_t blockCount_;
   size_t wholeLoads_;  // blocks from the first one on that are loaded in whole vectors
+  int unit_;           // bytes that blocks count source distances in
 };
 
 // The second stage: first + (second - first) * weight, rounded as the type wants it.

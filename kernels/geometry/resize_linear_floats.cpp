@@ -28,7 +28,7 @@ template <typename T>
 T finished(BlendElement<T> x) {
   if constexpr (std::is_integral_v<T>)
     return static_cast<T>(
-        std::clamp<int>(roundedOne(x), std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
+        std::clamp<int>(roundedToEven(x), std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
   else
     return x;
 }
@@ -142,14 +142,18 @@ inline Bytes32 finishedBytes(Floats8 x, float) { return bytesOf(x); }
 inline Bytes32 finishedBytes(Doubles4 x, double) { return bytesOf(x); }
 template <typename T>
 Bytes16 finishedBytes(Floats8 x, T) {
-  const Ints8 rounds = rounded(x);
+  const Ints8 rounds = roundedToEven(x);
   return narrowSaturated<T>(lowHalf(rounds), highHalf(rounds)).v;
 }
 
 // Windows begin at a block's first column, or where a row's last window can begin.
 template <typename W, typename T>
+int32_t lastWindow(const TileColumns<T>& columns) {
+  return columns.index[columns.count - 1] - (W::kSpan - 2);
+}
+template <typename W, typename T>
 int32_t windowStart(const TileColumns<T>& columns, size_t x) {
-  return std::min(columns.index[x], columns.index[columns.count - 1] + 2 - W::kSpan);
+  return std::min(columns.index[x], lastWindow<W>(columns));
 }
 template <typename T>
 size_t windowBlock(const TileColumns<T>& columns, size_t x) {
@@ -161,7 +165,7 @@ bool suitsWindows(const TileColumns<T>& columns) {
   constexpr size_t kLanes = Gather<T>::kLanes;
   if (columns.count < kLanes || windowStart<W>(columns, 0) < columns.index[0]) return false;
   const auto fits = [&](size_t first) {
-    return columns.index[first + 3] + 2 - windowStart<W>(columns, first) <= W::kSpan;
+    return columns.index[first + 3] - windowStart<W>(columns, first) <= W::kSpan - 2;
   };
   for (size_t x = 0; x < columns.count; x += kLanes) {
     const size_t block = windowBlock(columns, x);
@@ -187,7 +191,7 @@ void blendWindows(const Byte* base, const TileColumns<T>& columns, const uint8_t
   const int32_t* const index = columns.index;
   const float* const weights = columns.weights;
   const size_t count = columns.count;
-  const int32_t lastStart = index[count - 1] + 2 - W::kSpan;
+  const int32_t lastStart = lastWindow<W>(columns);
   const auto window = [=](size_t x) {
     return base + static_cast<ptrdiff_t>(std::min(index[x], lastStart)) * static_cast<ptrdiff_t>(sizeof(T));
   };

@@ -32,6 +32,7 @@ bool suitsWindows(const int32_t* index, size_t columns, size_t pixelBytes) {
   if (pixelBytes > 2) return false;  // single moves are as fast
   const size_t each = kBlock / pixelBytes;
   if (columns < each || reach(index, columns, pixelBytes) < kBlock) return false;
+  if (reach(index, columns, pixelBytes) > INT32_MAX / 2) return false;  // windows lie at 32-bit distances
   for (size_t x = 0; x < columns; x += each)
     if (reach(index + std::min(x, columns - each), each, pixelBytes) > kReach) return false;
   return true;
@@ -109,7 +110,7 @@ size_t pickDwords(const Byte* base, Byte* dst, const int32_t* index, size_t colu
   const auto at = [&](size_t x) { return base + static_cast<ptrdiff_t>(index[x]) * 4; };
   size_t x = 0;
   if (isClose)
-    for (; x + 4 <= columns && index[x] + 3 <= index[columns - 1]; x += 4)
+    for (; x + 4 <= columns && index[columns - 1] - index[x] >= 3; x += 4)
       store16(dst + x * 4, pickNear(at(x), index + x));
   for (; x + 4 <= columns; x += 4) store16(dst + x * 4, gatherDwords(at(x), at(x + 1), at(x + 2), at(x + 3)));
   return x;

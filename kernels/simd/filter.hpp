@@ -3,7 +3,7 @@
 #pragma once
 
 #include "kernels/simd/convert.hpp"
-#include "kernels/simd/rounding.hpp"
+#include "kernels/simd/ties_to_even.hpp"
 
 namespace lumi::simd {
 

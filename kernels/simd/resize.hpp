@@ -3,7 +3,7 @@
 #pragma once
 
 #include "kernels/simd/convert.hpp"
-#include "kernels/simd/rounding.hpp"
+#include "kernels/simd/ties_to_even.hpp"
 
 namespace lumi::simd {
 
@@ -98,8 +98,5 @@ S32 highWords(Bytes16 v) {
   static_assert(sizeof(T) == 2);
   return {std::is_signed_v<T> ? _mm_srai_epi32(v, 16) : _mm_srli_epi32(v, 16)};
 }
-
-// One sample, by the rounding control; limited to 32 bits like a vector's.
-inline int roundedOne(float x) { return _mm_cvtss_si32(_mm_set_ss(x)); }
 
 }  // namespace lumi::simd

@@ -275,8 +275,10 @@ struct Plans {
   Plans(const std::string& type, LumiSize src, LumiSize dst)
       : linear("Linear", type, src, dst),
         other(type == "64f" ? "Linear" : "Nearest", type == "64f" ? "8u" : type, src, dst),
+        otherWeights("Linear", type == "8u" ? "16u" : "8u", src, dst),
         foreign(4096, 0) {}
-  PlanMemory linear, other;   // of 64f the other one carries another identifier
+  PlanMemory linear, other;  // of 64f the other one carries another identifier
+  PlanMemory otherWeights;
   std::vector<Byte> foreign;  // no plan at all
 };
 
@@ -384,6 +386,8 @@ TEST(ResizeSpec, RunsTestInOrder) {
         if (type != "64f") {
           const void* otherKind = isLinear ? plans.other.at : plans.linear.at;
           faults.push_back({lumStatusUnsupportedMode, [=](NamedCall& c) { c.pointer("object", otherKind); }});
+          const void* weights = plans.otherWeights.at;
+          faults.push_back({lumStatusUnsupportedMode, [=](NamedCall& c) { c.pointer("object", weights); }});
         }
         if (isLinear) {
           for (int border : {1 | 8, 6 | 8, 8, 1 | 256, 6 | INT32_MIN})
@@ -395,6 +399,31 @@ TEST(ResizeSpec, RunsTestInOrder) {
         if (HasFatalFailure()) return;
       }
   EXPECT_EQ(testcore::counts().allocations, 0);
+}
+
+// A plan serves every sample type that it has weights for: runs by it make what runs by the type's own make.
+TEST(ResizeSpec, PlansServeTypesOfTheSameWeights) {
+  const std::vector<std::string> all = {"8u", "16u", "16s", "32f"};
+  const LumiSize src{9, 7}, dst{13, 5};
+  for (const std::string kind : {"Nearest", "Linear"})
+    for (const std::string& planned : all)
+      for (const std::string& type : all) {
+        const bool mixes = kind == "Nearest" || (planned == "8u") == (type == "8u");
+        const PlanMemory own(kind, type, src, dst), other(kind, planned, src, dst);
+        std::vector<Byte> image(9 * 7 * 4), scratch(4096), first(13 * 5 * 4), second(first.size());
+        for (size_t i = 0; i < image.size(); ++i) image[i] = static_cast<Byte>(i % 60);
+        const auto run = [&](const void* plan, std::vector<Byte>& result) {
+          NamedCall call = apply(kind, type, 1, {0, 0}, dst, plan, scratch.data());
+          return call.image("src", image.data(), 36).image("dst", result.data(), 52).run();
+        };
+        ASSERT_EQ(run(own.at, first), lumStatusOk);
+        ASSERT_EQ(run(other.at, second), mixes ? lumStatusOk : lumStatusUnsupportedMode)
+            << kind << " " << type << " by a plan of " << planned;
+        if (mixes)
+          ASSERT_TRUE(first == second) << kind << " " << type << " by a plan of " << planned;
+        else
+          ASSERT_TRUE(second == std::vector<Byte>(second.size()));
+      }
 }
 
 // What an antialiasing Init makes is for other runs: word 4 of a plan.
