@@ -4,6 +4,7 @@
 
 #include "arithmetic/scaling.hpp"
 #include "dispatch/copy.hpp"
+#include "dispatch/set.hpp"
 #include "frame/check.hpp"
 #include "frame/constant.hpp"
 #include "frame/streaming.hpp"
@@ -81,6 +82,12 @@ LumStatus combine(const T* src, int srcStep, T* srcDst, int srcDstStep, LumiSize
 template <typename T, typename Layout>
 constexpr bool kCopiesAtZero = std::is_integral_v<T>&& std::is_same_v<Layout, C1>;
 
+// Sums of unsigned samples are all at the maximum where a factor shifts every bit out of a constant that is
+// not zero: a fill, which reads no source.
+template <typename Op, typename T, typename Layout>
+constexpr bool kFillsWhenShiftedOut =
+    std::is_same_v<Op, Add>&& std::is_unsigned_v<T>&& std::is_same_v<Layout, C1>;
+
 // Rows of three 16-bit complex samples bypass the cache where both images together span a mebibyte and are
 // not the same; no fence follows.
 template <typename T, typename Layout>
@@ -102,6 +109,9 @@ LumStatus combineConstant(const T* src, int srcStep, Value value, T* dst, int ds
     if (scaleFactor == 0 && value == 0)
       return src == dst && srcStep == dstStep ? lumStatusOk
                                               : call::CopyR<T, C1>(src, srcStep, dst, dstStep, roi);
+  if constexpr (kFillsWhenShiftedOut<Op, T, Layout>)
+    if (scaleFactor < 0 && scaling->bits == std::numeric_limits<T>::digits && value != 0)
+      return call::SetR<T, C1>(std::numeric_limits<T>::max(), dst, dstStep, roi);
   constexpr int alpha = kAlpha<T, Layout>;
   constexpr bool ofThree = Layout::kStored == 3;
   const PixelPattern constant = patternOf<T, Layout>(value);

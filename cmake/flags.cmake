@@ -7,11 +7,22 @@ target_compile_options(lumi_warnings INTERFACE
   -Wformat=2 -Wvla
   $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wextra-semi>)
 
+# The products are for AVX. A library for wider integer vectors, made of the same sources, gives the same bits: it may
+# stand beside the 64-bit one, in the loader's folder for processors that have them. No products are fused there
+# either.
+set(LUMI_LEVEL avx CACHE STRING "Processor level: avx, the products', or v3 (x86-64-v3 without fused products)")
+set_property(CACHE LUMI_LEVEL PROPERTY STRINGS avx v3)
+if(LUMI_LEVEL STREQUAL v3)
+  set(LUMI_LEVEL_OPTIONS -mavx2 -mno-fma)
+else()
+  set(LUMI_LEVEL_OPTIONS -mavx -mno-avx2 -mno-fma -mno-bmi -mno-bmi2)
+endif()
+
 # One processor level in both word sizes. Scalar floats stay off the x87 unit and are never contracted,
 # so that results do not change with the word size; 32-bit callers may have a badly aligned stack.
 add_library(lumi_level INTERFACE)
 target_compile_options(lumi_level INTERFACE
-  $<$<COMPILE_LANGUAGE:C,CXX>:-mavx -mno-avx2 -mno-fma -mno-bmi -mno-bmi2 -mfpmath=sse -ffp-contract=off>
+  $<$<COMPILE_LANGUAGE:C,CXX>:${LUMI_LEVEL_OPTIONS} -mfpmath=sse -ffp-contract=off>
   $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-mno-avx256-split-unaligned-load -mno-avx256-split-unaligned-store>
   $<$<COMPILE_LANGUAGE:CXX>:-fno-exceptions -fno-rtti>)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)

@@ -32,10 +32,10 @@ struct Runs {
 
   const bool far;
 
-  explicit Runs(LumiSize whole) : far(bytesMoved(whole, kBytes) > kFar) {}
+  explicit Runs(LumiSize all) : far(bytesMoved(all, kBytes) > kFar) {}
 
-  RowShape shapeOf(Frame frame, int width) const {
-    return {static_cast<size_t>(frame.left), static_cast<size_t>(width), static_cast<size_t>(frame.right),
+  RowShape shapeOf(Margins margins, int width) const {
+    return {static_cast<size_t>(margins.left), static_cast<size_t>(width), static_cast<size_t>(margins.right),
             far};
   }
   static void extend(const Byte* first, const Byte* last, const Byte* src, Byte* dst, const RowShape& shape) {
@@ -65,36 +65,36 @@ Rows<B> startingAt(Rows<B> image, int y) {
   return {image.row(y), image.step};
 }
 
-// An image in a larger one: rows of the first from its own first pixel on, of the second from the frame's
-// left edge; both count from the image's first row.
-struct Framed {
+// An image in a larger one: rows of the first from its own first pixel on, of the second from the left edge;
+// both count from the image's first row.
+struct Extended {
   LumiSize roi;
-  Frame frame;
-  Rows<Byte> image, whole;
+  Margins margins;
+  Rows<Byte> image, all;
 
-  LumiSize wholeRoi() const {
-    return {frame.left + roi.width + frame.right, frame.top + roi.height + frame.bottom};
+  LumiSize fullRoi() const {
+    return {margins.left + roi.width + margins.right, margins.top + roi.height + margins.bottom};
   }
 };
 
-Framed framed(Rows<Byte> image, LumiSize roi, Frame frame, size_t leftBytes) {
-  return {roi, frame, image, {image.first - leftBytes, image.step}};
+Extended extended(Rows<Byte> image, LumiSize roi, Margins margins, size_t leftBytes) {
+  return {roi, margins, image, {image.first - leftBytes, image.step}};
 }
 
-Rows<Byte> placeOfImage(Rows<Byte> whole, Frame frame, size_t leftBytes) {
-  return {whole.row(frame.top) + leftBytes, whole.step};
+Rows<Byte> placeOfImage(Rows<Byte> all, Margins margins, size_t leftBytes) {
+  return {all.row(margins.top) + leftBytes, all.step};
 }
 
 template <typename T, typename Layout, typename Value>
 LumStatus copyConstBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst, int dstStep, LumiSize dstRoi,
                           int top, int left, Value value) {
   if (LumStatus fault = firstFault(pointers(src, dst), steps(srcStep, dstStep), size(srcRoi), size(dstRoi),
-                                   frame(srcRoi, dstRoi, top, left), pointers(value)))
+                                   inside(srcRoi, dstRoi, top, left), pointers(value)))
     return fault;
   using Run = Runs<T, Layout>;
-  const Frame sides = Frame::around(srcRoi, dstRoi, top, left);
+  const Margins sides = Margins::around(srcRoi, dstRoi, top, left);
   const PixelPattern pattern = patternOf<T, Layout>(value);
-  const auto fillWhole = [&](Byte* d) { Run::fill(pattern, d, dstRoi.width); };
+  const auto fillRow = [&](Byte* d) { Run::fill(pattern, d, dstRoi.width); };
   const Run run(dstRoi);
   const RowShape shape = run.shapeOf(sides, srcRoi.width);
   const bool shortSides = Run::isShort(left) && Run::isShort(sides.right);
@@ -105,66 +105,67 @@ LumStatus copyConstBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst, in
     run.move(s, image, srcRoi.width);
     Run::fill(pattern, image + Run::bytes(srcRoi.width), sides.right);
   };
-  const Rows<Byte> whole = rows(dst, dstStep);
-  walkRows(top, fillWhole, whole);
-  walkRows(srcRoi.height, extend, rows(src, srcStep), startingAt(whole, top));
-  walkRows(sides.bottom, fillWhole, startingAt(whole, top + srcRoi.height));
+  const Rows<Byte> all = rows(dst, dstStep);
+  walkRows(top, fillRow, all);
+  walkRows(srcRoi.height, extend, rows(src, srcStep), startingAt(all, top));
+  walkRows(sides.bottom, fillRow, startingAt(all, top + srcRoi.height));
   if (Run::mayStream(dstRoi.width)) storeFence();
   return lumStatusOk;
 }
 
 // The first row is finished before the rows above are copied from it; `src` may be the image itself.
 template <typename Run>
-void replicate(Rows<const Byte> src, const Framed& dst) {
+void replicate(Rows<const Byte> src, const Extended& dst) {
   const int width = dst.roi.width, height = dst.roi.height;
-  const Run run(dst.wholeRoi());
-  const RowShape shape = run.shapeOf(dst.frame, width);
+  const Run run(dst.fullRoi());
+  const RowShape shape = run.shapeOf(dst.margins, width);
   const auto extend = [&](const Byte* s, Byte* d) { Run::extend(s, s + Run::bytes(width - 1), s, d, shape); };
   const auto copyOver = [&](int from, int to, int count) {
-    const Byte* const finished = dst.whole.row(from);
+    const Byte* const finished = dst.all.row(from);
     walkRows(
-        count, [&](Byte* d) { run.move(finished, d, dst.wholeRoi().width); }, startingAt(dst.whole, to));
+        count, [&](Byte* d) { run.move(finished, d, dst.fullRoi().width); }, startingAt(dst.all, to));
   };
   extend(src.row(0), dst.image.row(0));
-  copyOver(0, -dst.frame.top, dst.frame.top);
+  copyOver(0, -dst.margins.top, dst.margins.top);
   walkRows(height - 1, extend, startingAt(src, 1), startingAt(dst.image, 1));
-  copyOver(height - 1, height, dst.frame.bottom);
+  copyOver(height - 1, height, dst.margins.bottom);
 }
 
 // Rows outside are copied from the image outwards, each from the row one period nearer.
 template <typename Run>
-void wrap(Rows<const Byte> src, const Framed& dst) {
+void wrap(Rows<const Byte> src, const Extended& dst) {
   const int width = dst.roi.width, height = dst.roi.height;
-  const Run run(dst.wholeRoi());
+  const Run run(dst.fullRoi());
   walkRows(
       height,
       [&](const Byte* s, Byte* d) {
         run.move(s, d, width);
-        wrapRow(s, d, Run::bytes(width), Run::bytes(dst.frame.left), Run::bytes(dst.frame.right));
+        wrapRow(s, d, Run::bytes(width), Run::bytes(dst.margins.left), Run::bytes(dst.margins.right));
       },
       src, dst.image);
-  const auto copyWhole = [&](const Byte* s, Byte* d) { run.move(s, d, dst.wholeRoi().width); };
-  const auto upwardsFrom = [&](int y) { return Rows<Byte>{dst.whole.row(y), -dst.whole.step}; };
-  walkRows(dst.frame.top, copyWhole, upwardsFrom(height - 1), upwardsFrom(-1));
-  walkRows(dst.frame.bottom, copyWhole, dst.whole, startingAt(dst.whole, height));
+  const auto copyFullRow = [&](const Byte* s, Byte* d) { run.move(s, d, dst.fullRoi().width); };
+  const auto upwardsFrom = [&](int y) { return Rows<Byte>{dst.all.row(y), -dst.all.step}; };
+  walkRows(dst.margins.top, copyFullRow, upwardsFrom(height - 1), upwardsFrom(-1));
+  walkRows(dst.margins.bottom, copyFullRow, dst.all, startingAt(dst.all, height));
 }
 
 template <typename Run, typename T, typename Extend>
-void extendCopy(const T* src, int srcStep, LumiSize srcRoi, T* dst, int dstStep, Frame sides, Extend extend) {
+void extendCopy(const T* src, int srcStep, LumiSize srcRoi, T* dst, int dstStep, Margins sides,
+                Extend extend) {
   const size_t leftBytes = Run::bytes(sides.left);
   extend(rows(src, srcStep),
-         framed(placeOfImage(rows(dst, dstStep), sides, leftBytes), srcRoi, sides, leftBytes));
+         extended(placeOfImage(rows(dst, dstStep), sides, leftBytes), srcRoi, sides, leftBytes));
 }
 
 template <typename Run, typename T, typename Extend>
 LumStatus extendInPlace(T* image, int step, LumiSize srcRoi, LumiSize dstRoi, int top, int left,
                         Extend extend) {
   if (LumStatus fault = firstFault(pointers(image), steps(step), size(srcRoi), size(dstRoi),
-                                   frame(srcRoi, dstRoi, top, left)))
+                                   inside(srcRoi, dstRoi, top, left)))
     return fault;
   const Rows<Byte> place = rows(image, step);
-  const Frame sides = Frame::around(srcRoi, dstRoi, top, left);
-  extend(Rows<const Byte>{place.first, place.step}, framed(place, srcRoi, sides, Run::bytes(left)));
+  const Margins sides = Margins::around(srcRoi, dstRoi, top, left);
+  extend(Rows<const Byte>{place.first, place.step}, extended(place, srcRoi, sides, Run::bytes(left)));
   return lumStatusOk;
 }
 
@@ -179,10 +180,10 @@ LumStatus copyReplicateBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst
                               LumiSize dstRoi, int top, int left) {
   if (src == dst) return replicateBorderInPlace<T, Layout>(dst, dstStep, srcRoi, dstRoi, top, left);
   if (LumStatus fault = firstFault(pointers(src, dst), steps(srcStep, dstStep), size(srcRoi), size(dstRoi),
-                                   frame(srcRoi, dstRoi, top, left)))
+                                   inside(srcRoi, dstRoi, top, left)))
     return fault;
   using Run = Runs<T, Layout>;
-  extendCopy<Run>(src, srcStep, srcRoi, dst, dstStep, Frame::around(srcRoi, dstRoi, top, left),
+  extendCopy<Run>(src, srcStep, srcRoi, dst, dstStep, Margins::around(srcRoi, dstRoi, top, left),
                   replicate<Run>);
   return lumStatusOk;
 }
@@ -198,11 +199,11 @@ template <typename T, typename Layout>
 LumStatus copyWrapBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst, int dstStep, LumiSize dstRoi,
                          int top, int left) {
   if (LumStatus fault = firstFault(pointers(src, dst), steps(srcStep, dstStep), size(srcRoi), size(dstRoi),
-                                   frame(srcRoi, dstRoi, top, left)))
+                                   inside(srcRoi, dstRoi, top, left)))
     return fault;
   if (src == dst) return wrapBorderInPlace<T, Layout>(dst, dstStep, srcRoi, dstRoi, top, left);
   using Run = Runs<T, Layout>;
-  extendCopy<Run>(src, srcStep, srcRoi, dst, dstStep, Frame::around(srcRoi, dstRoi, top, left), wrap<Run>);
+  extendCopy<Run>(src, srcStep, srcRoi, dst, dstStep, Margins::around(srcRoi, dstRoi, top, left), wrap<Run>);
   return lumStatusOk;
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Borders: what a border type asks for, and the frame between an image and a larger one around it.
+// Borders: what a border type asks for, and the margins between an image and a larger one around it.
 #pragma once
 
 #include "lumi/types.h"
@@ -38,21 +38,21 @@ class BorderMode {
 };
 
 // How far a larger image reaches beyond the one inside it, in pixels.
-struct Frame {
+struct Margins {
   int left, top, right, bottom;
 
-  // For sizes that check::frame has passed: no difference is negative, so none overflows.
-  static constexpr Frame around(LumiSize image, LumiSize whole, int top, int left) {
-    return {left, top, whole.width - image.width - left, whole.height - image.height - top};
+  // For sizes that check::inside has passed: no difference is negative, so none overflows.
+  static constexpr Margins around(LumiSize image, LumiSize larger, int top, int left) {
+    return {left, top, larger.width - image.width - left, larger.height - image.height - top};
   }
 };
 
 namespace check {
 
 // Whether an image of positive size lies inside the larger one at this place.
-constexpr LumStatus frame(LumiSize image, LumiSize whole, int top, int left) {
-  const bool fits = top >= 0 && left >= 0 && whole.width >= int64_t{image.width} + left &&
-                    whole.height >= int64_t{image.height} + top;
+constexpr LumStatus inside(LumiSize image, LumiSize larger, int top, int left) {
+  const bool fits = top >= 0 && left >= 0 && larger.width >= int64_t{image.width} + left &&
+                    larger.height >= int64_t{image.height} + top;
   return fits ? lumStatusOk : lumStatusBadSize;
 }
 

@@ -51,11 +51,21 @@ constexpr LumStatus range(Lum32f lower, Lum32f upper) {
 // Of the first bit of an image of bits.
 constexpr LumStatus bitOffset(int offset) { return offset < 0 ? lumStatusBadSize : lumStatusOk; }
 
-// The first status that is not zero.
-template <typename... Status>
-constexpr LumStatus firstFault(Status... results) {
+template <typename Check>
+constexpr LumStatus resultOf(const Check& check) {
+  if constexpr (std::is_invocable_v<Check>)
+    return check();
+  else
+    return check;
+}
+
+// The first status that is not zero. What looks into memory is given as a function, which is called when its
+// turn comes: not before the pointers that lead there have passed.
+//   firstFault(pointers(object), [=] { return identity(*objectAt<Plan>(object)); })
+template <typename... Check>
+constexpr LumStatus firstFault(const Check&... checks) {
   LumStatus first = lumStatusOk;
-  static_cast<void>(((first = results) || ...));
+  static_cast<void>(((first = resultOf(checks)) || ...));
   return first;
 }
 

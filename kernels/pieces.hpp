@@ -33,8 +33,8 @@ inline constexpr int kMostPieceSources = 3;
 // Of a wide vector's samples of a byte, each made from one of eight.
 inline constexpr size_t kPieceRoom = simd::kVectorBytes * 8;
 
-// Whether every row of the destination, of so many bytes, shares memory only with a source row that is the same
-// row. Other rows do not count: each is finished before the next begins.
+// Whether every row of the destination, of so many bytes, shares memory only with a source row that is the
+// same row. Other rows do not count: each is finished before the next begins.
 bool areApartInRange(TargetRows dst, size_t bytes, int rows, const PieceSource& source);
 
 inline bool areApart(TargetRows dst, size_t bytes, int rows, const PieceSource* sources, int count) {

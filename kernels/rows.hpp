@@ -53,7 +53,8 @@ template <typename Kernel, typename... Image>
 
 // The same for a row kernel of one source and one destination.
 template <typename RowKernel>
-[[gnu::always_inline]] inline void walkPixels(RowKernel&& kernel, SourceRows src, TargetRows dst, Extent pixels) {
+[[gnu::always_inline]] inline void walkPixels(RowKernel&& kernel, SourceRows src, TargetRows dst,
+                                              Extent pixels) {
   walkRows(
       pixels.rows, [&](const uint8_t* s, uint8_t* d) { kernel(s, d, pixels.length); }, src, dst);
 }

@@ -41,20 +41,42 @@ Samples32<T> isEqual(Samples32<T> a, Samples32<T> b) {
   if constexpr (sizeof(T) == 4) return {_mm256_cmpeq_epi32(a.v, b.v)};
 }
 
-inline Samples32<uint8_t> max(Samples32<uint8_t> a, Samples32<uint8_t> b) { return {_mm256_max_epu8(a.v, b.v)}; }
+inline Samples32<uint8_t> max(Samples32<uint8_t> a, Samples32<uint8_t> b) {
+  return {_mm256_max_epu8(a.v, b.v)};
+}
 inline Samples32<int8_t> max(Samples32<int8_t> a, Samples32<int8_t> b) { return {_mm256_max_epi8(a.v, b.v)}; }
-inline Samples32<uint16_t> max(Samples32<uint16_t> a, Samples32<uint16_t> b) { return {_mm256_max_epu16(a.v, b.v)}; }
-inline Samples32<int16_t> max(Samples32<int16_t> a, Samples32<int16_t> b) { return {_mm256_max_epi16(a.v, b.v)}; }
-inline Samples32<uint32_t> max(Samples32<uint32_t> a, Samples32<uint32_t> b) { return {_mm256_max_epu32(a.v, b.v)}; }
-inline Samples32<int32_t> max(Samples32<int32_t> a, Samples32<int32_t> b) { return {_mm256_max_epi32(a.v, b.v)}; }
-inline Samples32<uint8_t> min(Samples32<uint8_t> a, Samples32<uint8_t> b) { return {_mm256_min_epu8(a.v, b.v)}; }
+inline Samples32<uint16_t> max(Samples32<uint16_t> a, Samples32<uint16_t> b) {
+  return {_mm256_max_epu16(a.v, b.v)};
+}
+inline Samples32<int16_t> max(Samples32<int16_t> a, Samples32<int16_t> b) {
+  return {_mm256_max_epi16(a.v, b.v)};
+}
+inline Samples32<uint32_t> max(Samples32<uint32_t> a, Samples32<uint32_t> b) {
+  return {_mm256_max_epu32(a.v, b.v)};
+}
+inline Samples32<int32_t> max(Samples32<int32_t> a, Samples32<int32_t> b) {
+  return {_mm256_max_epi32(a.v, b.v)};
+}
+inline Samples32<uint8_t> min(Samples32<uint8_t> a, Samples32<uint8_t> b) {
+  return {_mm256_min_epu8(a.v, b.v)};
+}
 inline Samples32<int8_t> min(Samples32<int8_t> a, Samples32<int8_t> b) { return {_mm256_min_epi8(a.v, b.v)}; }
-inline Samples32<uint16_t> min(Samples32<uint16_t> a, Samples32<uint16_t> b) { return {_mm256_min_epu16(a.v, b.v)}; }
-inline Samples32<int16_t> min(Samples32<int16_t> a, Samples32<int16_t> b) { return {_mm256_min_epi16(a.v, b.v)}; }
-inline Samples32<uint32_t> min(Samples32<uint32_t> a, Samples32<uint32_t> b) { return {_mm256_min_epu32(a.v, b.v)}; }
-inline Samples32<int32_t> min(Samples32<int32_t> a, Samples32<int32_t> b) { return {_mm256_min_epi32(a.v, b.v)}; }
+inline Samples32<uint16_t> min(Samples32<uint16_t> a, Samples32<uint16_t> b) {
+  return {_mm256_min_epu16(a.v, b.v)};
+}
+inline Samples32<int16_t> min(Samples32<int16_t> a, Samples32<int16_t> b) {
+  return {_mm256_min_epi16(a.v, b.v)};
+}
+inline Samples32<uint32_t> min(Samples32<uint32_t> a, Samples32<uint32_t> b) {
+  return {_mm256_min_epu32(a.v, b.v)};
+}
+inline Samples32<int32_t> min(Samples32<int32_t> a, Samples32<int32_t> b) {
+  return {_mm256_min_epi32(a.v, b.v)};
+}
 
-inline Samples32<int32_t> multiplyAddPairs(Samples32<int16_t> a, Samples32<int16_t> b) { return {_mm256_madd_epi16(a.v, b.v)}; }
+inline Samples32<int32_t> multiplyAddPairs(Samples32<int16_t> a, Samples32<int16_t> b) {
+  return {_mm256_madd_epi16(a.v, b.v)};
+}
 
 inline Samples32<int16_t> multiplyHigh(Samples32<int16_t> a, Samples32<int16_t> b) {
   return {_mm256_mulhi_epi16(a.v, b.v)};
@@ -63,7 +85,9 @@ inline Samples32<int16_t> multiplyHighRounded(Samples32<int16_t> a, Samples32<in
   return {_mm256_mulhrs_epi16(a.v, b.v)};
 }
 
-inline Samples32<int16_t> multiplyAddPairs(Samples32<uint8_t> a, Samples32<int8_t> b) { return {_mm256_maddubs_epi16(a.v, b.v)}; }
+inline Samples32<int16_t> multiplyAddPairs(Samples32<uint8_t> a, Samples32<int8_t> b) {
+  return {_mm256_maddubs_epi16(a.v, b.v)};
+}
 
 template <typename T>
 Samples32<T> interleaveLow(Samples32<T> a, Samples32<T> b) {
@@ -83,10 +107,18 @@ Samples32<T> ifThenElse(Samples32<T> mask, Samples32<T> yes, Samples32<T> no) {
   return {_mm256_blendv_epi8(no.v, yes.v, mask.v)};
 }
 
-inline Samples32<uint16_t> operator>>(Samples32<uint16_t> a, Shift s) { return {_mm256_srl_epi16(a.v, s.count)}; }
-inline Samples32<int16_t> operator>>(Samples32<int16_t> a, Shift s) { return {_mm256_sra_epi16(a.v, s.count)}; }
-inline Samples32<uint32_t> operator>>(Samples32<uint32_t> a, Shift s) { return {_mm256_srl_epi32(a.v, s.count)}; }
-inline Samples32<int32_t> operator>>(Samples32<int32_t> a, Shift s) { return {_mm256_sra_epi32(a.v, s.count)}; }
+inline Samples32<uint16_t> operator>>(Samples32<uint16_t> a, Shift s) {
+  return {_mm256_srl_epi16(a.v, s.count)};
+}
+inline Samples32<int16_t> operator>>(Samples32<int16_t> a, Shift s) {
+  return {_mm256_sra_epi16(a.v, s.count)};
+}
+inline Samples32<uint32_t> operator>>(Samples32<uint32_t> a, Shift s) {
+  return {_mm256_srl_epi32(a.v, s.count)};
+}
+inline Samples32<int32_t> operator>>(Samples32<int32_t> a, Shift s) {
+  return {_mm256_sra_epi32(a.v, s.count)};
+}
 template <typename T>
 Samples32<T> operator<<(Samples32<T> a, Shift s) {
   static_assert(sizeof(T) > 1, "bytes have no shift of their own");
@@ -103,17 +135,34 @@ Samples32<T> shiftRight(Samples32<T> a) {
     return {std::is_signed_v<T> ? _mm256_srai_epi32(a.v, bits) : _mm256_srli_epi32(a.v, bits)};
 }
 
-inline Samples32<uint8_t> averageUp(Samples32<uint8_t> a, Samples32<uint8_t> b) { return {_mm256_avg_epu8(a.v, b.v)}; }
-inline Samples32<uint16_t> averageUp(Samples32<uint16_t> a, Samples32<uint16_t> b) { return {_mm256_avg_epu16(a.v, b.v)}; }
+inline Samples32<uint8_t> averageUp(Samples32<uint8_t> a, Samples32<uint8_t> b) {
+  return {_mm256_avg_epu8(a.v, b.v)};
+}
+inline Samples32<uint16_t> averageUp(Samples32<uint16_t> a, Samples32<uint16_t> b) {
+  return {_mm256_avg_epu16(a.v, b.v)};
+}
 
-inline Samples32<uint8_t> addSaturated(Samples32<uint8_t> a, Samples32<uint8_t> b) { return {_mm256_adds_epu8(a.v, b.v)}; }
-inline Samples32<uint16_t> addSaturated(Samples32<uint16_t> a, Samples32<uint16_t> b) { return {_mm256_adds_epu16(a.v, b.v)}; }
-inline Samples32<int16_t> addSaturated(Samples32<int16_t> a, Samples32<int16_t> b) { return {_mm256_adds_epi16(a.v, b.v)}; }
-inline Samples32<uint8_t> subSaturated(Samples32<uint8_t> a, Samples32<uint8_t> b) { return {_mm256_subs_epu8(a.v, b.v)}; }
-inline Samples32<uint16_t> subSaturated(Samples32<uint16_t> a, Samples32<uint16_t> b) { return {_mm256_subs_epu16(a.v, b.v)}; }
-inline Samples32<int16_t> subSaturated(Samples32<int16_t> a, Samples32<int16_t> b) { return {_mm256_subs_epi16(a.v, b.v)}; }
+inline Samples32<uint8_t> addSaturated(Samples32<uint8_t> a, Samples32<uint8_t> b) {
+  return {_mm256_adds_epu8(a.v, b.v)};
+}
+inline Samples32<uint16_t> addSaturated(Samples32<uint16_t> a, Samples32<uint16_t> b) {
+  return {_mm256_adds_epu16(a.v, b.v)};
+}
+inline Samples32<int16_t> addSaturated(Samples32<int16_t> a, Samples32<int16_t> b) {
+  return {_mm256_adds_epi16(a.v, b.v)};
+}
+inline Samples32<uint8_t> subSaturated(Samples32<uint8_t> a, Samples32<uint8_t> b) {
+  return {_mm256_subs_epu8(a.v, b.v)};
+}
+inline Samples32<uint16_t> subSaturated(Samples32<uint16_t> a, Samples32<uint16_t> b) {
+  return {_mm256_subs_epu16(a.v, b.v)};
+}
+inline Samples32<int16_t> subSaturated(Samples32<int16_t> a, Samples32<int16_t> b) {
+  return {_mm256_subs_epi16(a.v, b.v)};
+}
 
-inline Samples32<int32_t> ifNegativeThenElse(Samples32<int32_t> mask, Samples32<int32_t> yes, Samples32<int32_t> no) {
+inline Samples32<int32_t> ifNegativeThenElse(Samples32<int32_t> mask, Samples32<int32_t> yes,
+                                             Samples32<int32_t> no) {
   return {_mm256_castps_si256(
       _mm256_blendv_ps(_mm256_castsi256_ps(no.v), _mm256_castsi256_ps(yes.v), _mm256_castsi256_ps(mask.v)))};
 }
@@ -126,7 +175,11 @@ Samples32<T> isAboveSigned(Samples32<T> a, Samples32<T> b) {
 
 inline Samples32<uint16_t> magnitude(Samples32<int16_t> x) { return {_mm256_abs_epi16(x.v)}; }
 inline Samples32<uint32_t> magnitude(Samples32<int32_t> x) { return {_mm256_abs_epi32(x.v)}; }
-inline Samples32<int16_t> withSign(Samples32<int16_t> x, Samples32<int16_t> s) { return {_mm256_sign_epi16(x.v, s.v)}; }
-inline Samples32<int32_t> withSign(Samples32<int32_t> x, Samples32<int32_t> s) { return {_mm256_sign_epi32(x.v, s.v)}; }
+inline Samples32<int16_t> withSign(Samples32<int16_t> x, Samples32<int16_t> s) {
+  return {_mm256_sign_epi16(x.v, s.v)};
+}
+inline Samples32<int32_t> withSign(Samples32<int32_t> x, Samples32<int32_t> s) {
+  return {_mm256_sign_epi32(x.v, s.v)};
+}
 
 }  // namespace lumi::simd
