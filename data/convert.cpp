@@ -2,7 +2,6 @@
 // Change of sample type: plain, from floats by a round mode, with a scale factor.
 #include "lumi/convert.h"
 
-#include <algorithm>
 #include <cstring>
 #include <limits>
 #include <type_traits>
@@ -106,7 +105,8 @@ LumStatus convertFloatsScaledInPlace(D* srcDst, int step, LumiSize roi, LumRound
 }
 
 // Scale factors above the first give 0 everywhere; below the second, the limit on the sample's side. They are
-// given, not derived: some results inside and outside them would be others.
+// given, not derived: some results inside and outside them would be others. None of the first exceeds the
+// bits of a sample, beyond which nothing is left by the formula either.
 struct ScaleLimits {
   int zeroAbove, extremeBelow;
 };
@@ -114,12 +114,12 @@ struct ScaleLimits {
 template <typename S, typename D>
 constexpr ScaleLimits scaleLimits() {
   if (std::is_same_v<S, Lum8u>) return {8, -6};
-  if (std::is_same_v<S, Lum16s>) return {17, -6};
+  if (std::is_same_v<S, Lum16s>) return {16, -6};
   if (std::is_same_v<S, Lum16u>) return std::is_same_v<D, Lum8s> ? ScaleLimits{15, -6} : ScaleLimits{16, -14};
-  if (std::is_same_v<S, Lum32s>) return {std::is_same_v<D, Lum16s> ? 32 : 33, -14};
+  if (std::is_same_v<S, Lum32s>) return {32, -14};
   if (std::is_same_v<D, Lum32s>) return {32, -30};
   if (sizeof(D) == 1) return {15, -6};
-  return {std::is_same_v<D, Lum16s> ? 31 : 33, -15};
+  return {std::is_same_v<D, Lum16s> ? 31 : 32, -15};
 }
 
 // Inside the limits. Multiplied by 2^n, where 2^n - 1 is the highest value, every sample but 0 is beyond it.
@@ -136,9 +136,7 @@ template <typename S, typename D, typename Layout>
 LumStatus convertScaled(const S* src, int srcStep, D* dst, int dstStep, LumiSize roi, LumRoundMode mode,
                         int scaleFactor) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi))) return fault;
-  // With a bit more than the source has, nothing is left either.
-  constexpr int zeroAbove = std::min<int>(scaleLimits<S, D>().zeroAbove, 8 * sizeof(S));
-  if (scaleFactor > zeroAbove) return fillZero<D, Layout>(dst, dstStep, roi);
+  if (scaleFactor > scaleLimits<S, D>().zeroAbove) return fillZero<D, Layout>(dst, dstStep, roi);
   const Rescaling how = rescaling<S, D>(mode, scaleFactor);
   runSamples<Layout>(src, srcStep, dst, dstStep, roi, [&](SourceRows s, TargetRows d, Extent samples) {
     convertScaledRows<S, D>(s, d, samples, how);

@@ -49,8 +49,8 @@ void addPair(Sums<vectors>& sums, const int16_t*, const Byte* a, const Byte* b, 
 template <int vectors, typename T>
 void addSingle(Sums<vectors>& sums, const T*, const Byte* a, S16 taps) {
   for (int i = 0; i < vectors; ++i) {
-    const auto x = widen<uint32_t>(
-        Samples<std::make_unsigned_t<T>>{loadFew<4 * sizeof(T)>(a + 4 * sizeof(T) * static_cast<size_t>(i))});
+    const auto x = widen<uint32_t>(Samples16<std::make_unsigned_t<T>>{
+        loadFew<4 * sizeof(T)>(a + 4 * sizeof(T) * static_cast<size_t>(i))});
     sums.at[i] = sums.at[i] + multiplyAddPairs({x.v}, taps);
   }
 }
@@ -77,11 +77,11 @@ template <int vectors, typename T>
 class ByShift {
  public:
   explicit ByShift(const FilterRounding& r)
-      : shift_(r.shift), mask_(broadcast<int32_t>(r.mask)), bias_(broadcast<int32_t>(r.half - 1)) {}
+      : shift_(r.shift), mask_(broadcast16<int32_t>(r.mask)), bias_(broadcast16<int32_t>(r.half - 1)) {}
 
   S32 operator()(S32 sum) const {
     const S32 quotient = sum >> shift_;
-    const S32 rest = (sum & mask_) + bias_ + (quotient & broadcast<int32_t>(1));
+    const S32 rest = (sum & mask_) + bias_ + (quotient & broadcast16<int32_t>(1));
     return quotient + (rest >> shift_);
   }
 
@@ -145,7 +145,7 @@ template <int vectors>
     const Byte* p = src.first + y * src.step;
     for (int x = taps.columns; x > 1; x -= 2, p += 2 * src.channels)
       add({loadFew<8 * vectors>(p)}, {loadFew<8 * vectors>(p + src.channels)});
-    if (taps.columns % 2) add({loadFew<8 * vectors>(p)}, broadcast<uint8_t>(0));
+    if (taps.columns % 2) add({loadFew<8 * vectors>(p)}, broadcast16<uint8_t>(0));
   }
   return sums;
 }
@@ -155,12 +155,12 @@ class WordsByShift {
  public:
   explicit WordsByShift(const FilterRounding& r)
       : shift_(r.shift),
-        mask_(broadcast(static_cast<int16_t>(r.mask))),
-        bias_(broadcast(static_cast<int16_t>(r.half - 1))) {}
+        mask_(broadcast16(static_cast<int16_t>(r.mask))),
+        bias_(broadcast16(static_cast<int16_t>(r.half - 1))) {}
 
   S16 operator()(S16 sum) const {
     const S16 quotient = sum >> shift_;
-    const S16 rest = (sum & mask_) + bias_ + (quotient & broadcast<int16_t>(1));
+    const S16 rest = (sum & mask_) + bias_ + (quotient & broadcast16<int16_t>(1));
     return quotient + (rest >> shift_);
   }
 

@@ -90,7 +90,7 @@ Floats8 floatsAt(const Byte* p) {
   } else {
     const auto half = [](const Byte* q) {
       return S32{
-          widen<std::conditional_t<std::is_signed_v<T>, int32_t, uint32_t>>(Samples<T>{loadFew<8>(q)}).v};
+          widen<std::conditional_t<std::is_signed_v<T>, int32_t, uint32_t>>(Samples16<T>{loadFew<8>(q)}).v};
     };
     return floatsOf(joined(half(p), half(p + 8)));
   }

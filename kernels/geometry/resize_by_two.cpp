@@ -28,10 +28,10 @@ struct Halves<uint8_t, channels> {
   static constexpr size_t kStored = 16, kUsed = channels == 3 ? 12 : 16;
 
   static S16 mean(const Byte* first, const Byte* second) {
-    const S8 ones = broadcast<int8_t>(1);
+    const S8 ones = broadcast16<int8_t>(1);
     const S16 sum = multiplyAddPairs(U8{neighbours<channels>(load16(first))}, ones) +
                     multiplyAddPairs(U8{neighbours<channels>(load16(second))}, ones);
-    return multiplyHighRounded(sum, broadcast<int16_t>(1 << 13));
+    return multiplyHighRounded(sum, broadcast16<int16_t>(1 << 13));
   }
   static void block(const Byte* first, const Byte* second, Byte* dst) {
     const Bytes16 v = narrowSaturated<uint8_t>(mean(first, second), mean(first + kUsed, second + kUsed)).v;
@@ -53,7 +53,7 @@ struct Halves<uint8_t, 4> {
     const U8 lowerLeft{evenPixels<4>(c, d)}, lowerRight{oddDwords(c, d)};
     const U8 upper = averageUp(upperLeft, upperRight), lower = averageUp(lowerLeft, lowerRight);
     const U8 roundedUp = (upperLeft ^ upperRight) | (lowerLeft ^ lowerRight);
-    const U8 excess = roundedUp & (upper ^ lower) & broadcast<uint8_t>(1);
+    const U8 excess = roundedUp & (upper ^ lower) & broadcast16<uint8_t>(1);
     store16(dst, (averageUp(upper, lower) - excess).v);
   }
 };
@@ -109,12 +109,13 @@ struct Doubles<uint8_t, channels> {
   // Sums of both rows with a bias; where the weights are 16 times as large, they fill all 16 bits.
   static TwoRows sums(U8 first, U8 second, S8 weights, int16_t bias) {
     const S16 p = multiplyAddPairs(first, weights), q = multiplyAddPairs(second, weights);
-    const S16 sum = p + q + broadcast(bias);
+    const S16 sum = p + q + broadcast16(bias);
     return {sum + (p + p), sum + (q + q)};
   }
   // The results next to the left samples are the low bytes, those next to the right ones the high bytes.
   static Bytes16 inOrder(S16 left, S16 right) {
-    const Bytes16 words = bitOr((U16{left.v} >> Shift(4)).v, bitAnd(right.v, broadcast<uint16_t>(0xFF00).v));
+    const Bytes16 words =
+        bitOr((U16{left.v} >> Shift(4)).v, bitAnd(right.v, broadcast16<uint16_t>(0xFF00).v));
     if constexpr (channels == 1) return words;
     constexpr Control kPixels =
         channels == 3 ? Control{0, 2, 4, 1, 3, 5, 6, 8, 10, 7, 9, 11, kZero, kZero, kZero, kZero}
@@ -125,8 +126,8 @@ struct Doubles<uint8_t, channels> {
 
   static void block(const Byte* first, const Byte* second, Byte* nearFirst, Byte* nearSecond) {
     const U8 a = pairs(first), b = pairs(second);
-    const TwoRows left = sums(a, b, {broadcast<int16_t>(0x0103).v}, 8);
-    const TwoRows right = sums(a, b, {broadcast<int16_t>(0x3010).v}, 8 * 16);
+    const TwoRows left = sums(a, b, {broadcast16<int16_t>(0x0103).v}, 8);
+    const TwoRows right = sums(a, b, {broadcast16<int16_t>(0x3010).v}, 8 * 16);
     store16(nearFirst, inOrder(left.nearFirst, right.nearFirst));
     store16(nearSecond, inOrder(left.nearSecond, right.nearSecond));
   }

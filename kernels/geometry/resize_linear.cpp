@@ -65,7 +65,7 @@ Bytes16 weightsOf(const TileColumns<uint8_t>& columns, size_t x) {
   const auto* const pairs = reinterpret_cast<const Byte*>(columns.weights + 2 * x);
   const S16 c =
       narrowSaturated<int16_t>(highWords<int16_t>(load16(pairs)), highWords<int16_t>(load16(pairs + 16)));
-  return (broadcast<int16_t>(0) - (c + c)).v;
+  return (broadcast16<int16_t>(0) - (c + c)).v;
 }
 
 template <int channels, typename Block>
@@ -135,8 +135,8 @@ void makeGathers(const TileColumns<uint8_t>& columns, int unit, uint8_t* scratch
 
 // Pairs of a sample and its right neighbour to elements.
 S16 blendPairs(Bytes16 pairs, const uint8_t* weights) {
-  const S8 difference{broadcast<int16_t>(static_cast<int16_t>(0xC040)).v};  // 64, -64
-  const S16 first = multiplyAddPairs(U8{pairs}, S8{broadcast<int16_t>(64).v});
+  const S8 difference{broadcast16<int16_t>(static_cast<int16_t>(0xC040)).v};  // 64, -64
+  const S16 first = multiplyAddPairs(U8{pairs}, S8{broadcast16<int16_t>(64).v});
   return first + multiplyHighRounded(multiplyAddPairs(U8{pairs}, difference), {load16(weights)});
 }
 
@@ -210,7 +210,7 @@ Bytes16 blendQ6(const int16_t* nearer, const int16_t* farther, S16 weight) {
   const auto half = [&](size_t at) -> S16 {
     const S16 p{load16(reinterpret_cast<const Byte*>(nearer + at))};
     const S16 q{load16(reinterpret_cast<const Byte*>(farther + at))};
-    return multiplyHighRounded(p + multiplyHigh(p - q, weight), broadcast<int16_t>(512));  // (x + 32) >> 6
+    return multiplyHighRounded(p + multiplyHigh(p - q, weight), broadcast16<int16_t>(512));  // (x + 32) >> 6
   };
   return narrowSaturated<uint8_t>(half(0), half(kLanes)).v;
 }
@@ -219,13 +219,13 @@ Bytes16 blendQ6(const int16_t* nearer, const int16_t* farther, S16 weight) {
 // half.
 int roundedQ14(int sum) { return (sum + (sum >> 14 & 1) + (1 << 13)) >> 14; }
 S32 roundedQ14(S32 sum) {
-  return shiftRight<14>(sum + (shiftRight<14>(sum) & broadcast(1)) + broadcast(1 << 13));
+  return shiftRight<14>(sum + (shiftRight<14>(sum) & broadcast16(1)) + broadcast16(1 << 13));
 }
 
 // Of four pairs of samples.
 uint32_t blendQ14(Bytes16 pairs, Bytes16 weights) {
   const S32 sum = multiplyAddPairs(S16{widen<uint16_t>(U8{pairs}).v}, S16{weights});
-  const S16 words = narrowSaturated<int16_t>(roundedQ14(sum), broadcast(0));
+  const S16 words = narrowSaturated<int16_t>(roundedQ14(sum), broadcast16(0));
   return firstDword(narrowSaturated<uint8_t>(words, words).v);
 }
 
@@ -234,7 +234,7 @@ template <int channels>
 uint32_t blendPixels(const Byte* first, const Byte* second, int c) {
   if constexpr (channels == 1) return static_cast<uint32_t>(roundedQ14(*first * (kQ14 - c) + *second * c));
   const U8 a{dwordsOf(loadDword<channels>(first), 0, 0)}, b{dwordsOf(loadDword<channels>(second), 0, 0)};
-  return blendQ14(interleaveLow(a, b).v, broadcast(kQ14 - c + (c << 16)).v);
+  return blendQ14(interleaveLow(a, b).v, broadcast16(kQ14 - c + (c << 16)).v);
 }
 
 template <int channels>
@@ -334,7 +334,7 @@ void blendRows<uint8_t>(const int16_t* first, const int16_t* second, uint16_t c,
                         size_t samples) {
   const bool nearsSecond = c > kQ14 / 2;
   const int16_t *const nearer = nearsSecond ? second : first, *const farther = nearsSecond ? first : second;
-  const S16 weight = broadcast(static_cast<int16_t>(-4 * (nearsSecond ? kQ14 - c : c)));
+  const S16 weight = broadcast16(static_cast<int16_t>(-4 * (nearsSecond ? kQ14 - c : c)));
   const auto blockAt = [=](size_t i) { return blendQ6(nearer + i, farther + i, weight); };
   if (samples >= kStep) {
     for (size_t i = 0; i + kStep <= samples; i += kStep) store16(dst + i, blockAt(i));

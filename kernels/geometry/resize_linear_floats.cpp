@@ -55,7 +55,7 @@ struct Gather {
             floatsOf(joined(highWords<T>(low), highWords<T>(high)))};
   }
   // Four samples.
-  static Floats4 pixel(const Byte* p) { return floatsOf(widen<int32_t>(Samples<T>{loadFew<8>(p)})); }
+  static Floats4 pixel(const Byte* p) { return floatsOf(widen<int32_t>(Samples16<T>{loadFew<8>(p)})); }
   static Floats4 weight(float w) { return broadcastFloat<Floats4>(w); }
 };
 
@@ -106,7 +106,7 @@ struct Window<float, span> {
   static uint32_t control(int32_t at) { return static_cast<uint32_t>(at - 4); }
   static Floats8 blend(const Byte* low, const Byte* high, const Byte* controls, Floats8 weights) {
     const Bytes16 a = load16Once(controls), b = load16Once(controls + 16);
-    const Bytes16 one = broadcast(1).v;
+    const Bytes16 one = broadcast16(1).v;
     const Bytes32 at = joined(a, b), next = joined((S32{a} + S32{one}).v, (S32{b} + S32{one}).v);
     const Bytes32 first = joined(load16(low), load16(high));
     if constexpr (span == 4) return blended(floatsAt(first, at), floatsAt(first, next), weights);

@@ -56,13 +56,13 @@ bool isTwice(const int32_t* index, size_t columns) {
 
 // Four columns as distances from another.
 S32 fourFrom(const int32_t* index, int32_t first) {
-  return S32{load16(reinterpret_cast<const Byte*>(index))} - broadcast(first);
+  return S32{load16(reinterpret_cast<const Byte*>(index))} - broadcast16(first);
 }
 
 // The bytes of sixteen columns of one byte, or of eight of two, counted from the column `first`.
 U8 bytesFrom(const int32_t* index, size_t pixelBytes, int32_t first) {
   const S16 low = narrowSaturated<int16_t>(fourFrom(index, first), fourFrom(index + 4, first));
-  if (pixelBytes == 2) return {(low + low + (low << Shift(9)) + broadcast<int16_t>(0x0100)).v};
+  if (pixelBytes == 2) return {(low + low + (low << Shift(9)) + broadcast16<int16_t>(0x0100)).v};
   const S16 high = narrowSaturated<int16_t>(fourFrom(index + 8, first), fourFrom(index + 12, first));
   return narrowSaturated<uint8_t>(low, high);
 }
@@ -72,8 +72,8 @@ Windows windowsOf(const int32_t* index, size_t pixelBytes, int32_t origin, int32
   const int32_t first = std::min(index[0], end - block / pixel), start = (first - origin) * pixel;
   Windows w{start, std::min(start + block, (end - origin) * pixel - block), {}};
   const U8 bytes = bytesFrom(index, pixelBytes, first);
-  const U8 isBehind = isEqual(max(bytes, broadcast<Byte>(kBlock)), bytes);
-  const U8 overlap = broadcast(static_cast<Byte>(start + block - w.second));
+  const U8 isBehind = isEqual(max(bytes, broadcast16<Byte>(kBlock)), bytes);
+  const U8 overlap = broadcast16(static_cast<Byte>(start + block - w.second));
   store16(w.control.data(), (bytes + (isBehind & overlap)).v);
   return w;
 }
@@ -84,8 +84,8 @@ Bytes16 blockOf(const Byte* src, const Byte* windows) {
   move<8>(reinterpret_cast<Byte*>(&w), windows);
   const Bytes16 control = load16(windows + offsetof(Windows, control));
   const Bytes16 first =
-      shuffleBytes(load16(src + w.first), addSaturated(U8{control}, broadcast<Byte>(0x70)).v);
-  const Bytes16 second = shuffleBytes(load16(src + w.second), (U8{control} - broadcast<Byte>(kBlock)).v);
+      shuffleBytes(load16(src + w.first), addSaturated(U8{control}, broadcast16<Byte>(0x70)).v);
+  const Bytes16 second = shuffleBytes(load16(src + w.second), (U8{control} - broadcast16<Byte>(kBlock)).v);
   return bitOr(first, second);
 }
 
@@ -133,7 +133,7 @@ size_t pickTwice(const Byte* src, Byte* dst, size_t columns) {
   constexpr size_t kEach = 2 * kBlock / pixel;
   size_t x = 0;
   for (; x + kEach <= columns; x += kEach, src += kBlock) {
-    const Samples<Pixel> v{load16Once(src)};
+    const Samples16<Pixel> v{load16Once(src)};
     store32(dst + x * pixel, joined(interleaveLow(v, v).v, interleaveHigh(v, v).v));
   }
   return x;

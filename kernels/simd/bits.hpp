@@ -30,13 +30,13 @@ auto thresholdOf(T x) {
   if constexpr (std::is_same_v<T, float>)
     return Floats8{_mm256_set1_ps(x)};
   else
-    return broadcast(x);
+    return broadcast16(x);
 }
 
 // Bit k tells whether sample k at p is not above the threshold; of eight samples, the bits behind theirs are
 // anything. NaN is not above, nor is anything above it.
 template <typename T>
-Samples<T> notAbove(Samples<T> v, Samples<T> threshold) {
+Samples16<T> notAbove(Samples16<T> v, Samples16<T> threshold) {
   return isEqual(min(v, threshold), v);
 }
 inline uint32_t notAbove8(const Byte* p, U8 threshold) {

@@ -92,7 +92,10 @@ inline Bytes16 load16Once(const Byte* p) {
 
 // The first or the last bytes of a vector.
 inline void storeFirst8(Byte* p, Bytes16 v) { _mm_storel_epi64(reinterpret_cast<__m128i*>(p), v); }
-inline void storeLast8(Byte* p, Bytes16 v) { storeFirst8(p, _mm_unpackhi_epi64(v, v)); }
+inline void storeLast8(Byte* p, Bytes16 v) {
+  _mm_storeh_pi(reinterpret_cast<__m64*>(p),
+                _mm_castsi128_ps(v));  // _pd would be a store of an aligned double
+}
 inline uint32_t firstDword(Bytes16 v) { return static_cast<uint32_t>(_mm_cvtsi128_si32(v)); }
 inline uint32_t lastDword(Bytes16 v) { return static_cast<uint32_t>(_mm_extract_epi32(v, 3)); }
 

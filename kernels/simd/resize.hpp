@@ -18,7 +18,7 @@ inline Bytes16 gatherDwords(const Byte* a, const Byte* b, const Byte* c, const B
       _mm_insert_epi32(_mm_insert_epi32(_mm_cvtsi32_si128(dword(a)), dword(b), 1), dword(c), 2), dword(d), 3);
 }
 inline Bytes16 gatherQuadwords(const Byte* a, const Byte* b) {
-  return _mm_castpd_si128(_mm_loadh_pd(_mm_castsi128_pd(loadFew<8>(a)), reinterpret_cast<const double*>(b)));
+  return _mm_castps_si128(_mm_loadh_pi(_mm_castsi128_ps(loadFew<8>(a)), reinterpret_cast<const __m64*>(b)));
 }
 // Dwords index[0..3] - index[0], which are 0 to 3, of the four at p.
 inline Bytes16 pickNear(const Byte* p, const int32_t* index) {
