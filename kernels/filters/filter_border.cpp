@@ -17,185 +17,201 @@ using namespace simd;
 
 constexpr size_t kPairBytes = 16;
 
-// Sums of 4 * vectors samples.
-template <int vectors>
+// Sums of `vectors` vectors. Samples of a pair of columns are interleaved by sixteen bytes, and so are the
+// sums until they are narrowed.
+template <int vectors, size_t bytes>
 struct Sums {
-  S32 at[vectors] = {};
+  SamplesOf<int32_t, bytes> at[vectors] = {};
+
+  void add(int i, SamplesOf<int16_t, bytes> pairs, SamplesOf<int16_t, bytes> taps) {
+    at[i] = at[i] + multiplyAddPairs(pairs, taps);
+  }
 };
 
-// Adds the products of a pair of columns a and b, each of 4 * vectors samples.
-template <int vectors>
-void addPair(Sums<vectors>& sums, const uint8_t*, const Byte* a, const Byte* b, S16 taps) {
-  const U8 x{loadFew<4 * vectors>(a)}, y{loadFew<4 * vectors>(b)};
-  const U8 low = interleaveLow(x, y);
-  sums.at[0] = sums.at[0] + multiplyAddPairs(wordsLow(low), taps);
-  sums.at[1] = sums.at[1] + multiplyAddPairs(wordsHigh(low), taps);
-  if constexpr (vectors == 4) {
-    const U8 high = interleaveHigh(x, y);
-    sums.at[2] = sums.at[2] + multiplyAddPairs(wordsLow(high), taps);
-    sums.at[3] = sums.at[3] + multiplyAddPairs(wordsHigh(high), taps);
-  }
+// How a block of so many samples is done: in vectors as wide as the build has where it fills four of them.
+template <int samples>
+inline constexpr size_t kBlockVector = samples * sizeof(int32_t) >= 4 * kVectorBytes ? kVectorBytes : 16;
+
+// A pair of taps, all over a vector.
+template <size_t bytes>
+SamplesOf<int16_t, bytes> tapsAt(const Byte* packed) {
+  if constexpr (bytes == 16)
+    return {load16(packed)};
+  else
+    return {joined(load16(packed), load16(packed))};
 }
-template <int vectors>
-void addPair(Sums<vectors>& sums, const int16_t*, const Byte* a, const Byte* b, S16 taps) {
-  for (int i = 0; i < vectors; i += 2) {
-    const S16 x{load16(a + 8 * i)}, y{load16(b + 8 * i)};
-    sums.at[i] = sums.at[i] + multiplyAddPairs(interleaveLow(x, y), taps);
-    sums.at[i + 1] = sums.at[i + 1] + multiplyAddPairs(interleaveHigh(x, y), taps);
+
+// A column of an odd kernel has no partner; what lies there may be behind the image.
+struct NoColumn {};
+
+template <size_t bytes, typename T>
+auto partnerOf(const Byte* p, T) {
+  return loadSamples<bytes, T>(p);
+}
+template <size_t bytes, typename T>
+auto partnerOf(NoColumn, T zero) {
+  return broadcastLike(decltype(loadSamples<bytes, T>(nullptr))(), zero);
+}
+
+inline const Byte* partnerAt(const Byte* p, size_t bytes) { return p + bytes; }
+inline NoColumn partnerAt(NoColumn, size_t) { return {}; }
+
+// Adds the products of columns a and b.
+template <typename T, int vectors, size_t bytes, typename Partner>
+void addPair(Sums<vectors, bytes>& sums, const Byte* a, Partner b, SamplesOf<int16_t, bytes> taps) {
+  if constexpr (sizeof(T) == 1) {
+    constexpr size_t loaded = vectors * bytes / 4;
+    const auto x = loadSamples<loaded, uint8_t>(a), y = partnerOf<loaded>(b, uint8_t{0});
+    const auto low = interleaveLow(x, y);
+    sums.add(0, wordsLow(low), taps);
+    sums.add(1, wordsHigh(low), taps);
+    if constexpr (vectors == 4) {
+      const auto high = interleaveHigh(x, y);
+      sums.add(2, wordsLow(high), taps);
+      sums.add(3, wordsHigh(high), taps);
+    }
+  } else {
+    for (int i = 0; i < vectors; i += 2) {
+      const size_t at = bytes / 2 * static_cast<size_t>(i);
+      const auto x = loadSamples<bytes, int16_t>(a + at);
+      const auto y = partnerOf<bytes>(partnerAt(b, at), int16_t{0});
+      sums.add(i, interleaveLow(x, y), taps);
+      sums.add(i + 1, interleaveHigh(x, y), taps);
+    }
   }
 }
 
-// The last column of an odd kernel: its partner's tap is 0, but it may lie behind the image.
-template <int vectors, typename T>
-void addSingle(Sums<vectors>& sums, const T*, const Byte* a, S16 taps) {
-  for (int i = 0; i < vectors; ++i) {
-    const auto x = widen<uint32_t>(Samples16<std::make_unsigned_t<T>>{
-        loadFew<4 * sizeof(T)>(a + 4 * sizeof(T) * static_cast<size_t>(i))});
-    sums.at[i] = sums.at[i] + multiplyAddPairs({x.v}, taps);
-  }
-}
-
-template <int vectors, typename T>
-[[gnu::always_inline]] inline Sums<vectors> sumsOf(const FilterTaps& taps, FilterSource src) {
-  constexpr const T* type = nullptr;
+template <typename T, int vectors, size_t bytes>
+[[gnu::always_inline]] inline Sums<vectors, bytes> sumsOf(const FilterTaps& taps, FilterSource src) {
   const ptrdiff_t column = src.channels * static_cast<ptrdiff_t>(sizeof(T));
   const Byte* packed = reinterpret_cast<const Byte*>(taps.packed);
-  Sums<vectors> sums;
+  Sums<vectors, bytes> sums;
   for (int y = 0; y < taps.rows; ++y) {
     const Byte* p = src.first + y * src.step;
     for (int x = taps.columns; x > 1; x -= 2, p += 2 * column, packed += kPairBytes)
-      addPair(sums, type, p, p + column, {load16(packed)});
+      addPair<T>(sums, p, p + column, tapsAt<bytes>(packed));
     if (taps.columns % 2 == 0) continue;
-    addSingle(sums, type, p, {load16(packed)});
+    addPair<T>(sums, p, NoColumn(), tapsAt<bytes>(packed));
     packed += kPairBytes;
   }
   return sums;
 }
 
 // Divided by a power of two, to nearest, ties to even. The part below the quotient is rounded by itself: with
-// the whole sum the bias could leave the type.
+// the whole sum the bias could leave the type. Words do for shifts of up to 14.
+template <typename T>
 class ByShift {
  public:
   explicit ByShift(const FilterRounding& r)
-      : shift_(r.shift), mask_(broadcast16<int32_t>(r.mask)), bias_(broadcast16<int32_t>(r.half - 1)) {}
+      : shift_(r.shift),
+        mask_(broadcast(static_cast<T>(r.mask))),
+        bias_(broadcast(static_cast<T>(r.half - 1))) {}
 
-  S32 operator()(S32 sum) const {
-    const S32 quotient = sum >> shift_;
-    const S32 rest = (sum & mask_) + bias_ + (quotient & broadcast16<int32_t>(1));
+  template <size_t bytes>
+  SamplesOf<T, bytes> operator()(SamplesOf<T, bytes> sum) const {
+    const auto quotient = sum >> shift_;
+    const auto rest =
+        (sum & firstOf<bytes>(mask_)) + firstOf<bytes>(bias_) + (quotient & broadcastLike(sum, T{1}));
     return quotient + (rest >> shift_);
   }
 
  private:
   Shift shift_;
-  S32 mask_, bias_;
+  Samples<T> mask_, bias_;
 };
 
 // Multiplied by the divisor's reciprocal. What is above every sample is limited, so that it fits an integer.
 class ByScale {
  public:
-  explicit ByScale(const FilterRounding& r) : scale_(broadcastFloat<Floats4>(r.scale)) {}
+  explicit ByScale(const FilterRounding& r) : scale_(r.scale) {}
 
-  S32 operator()(S32 sum) const {
-    return roundedToEven(min(broadcastFloat<Floats4>(INT16_MAX), floatsOf(sum) * scale_));
+  template <size_t bytes>
+  SamplesOf<int32_t, bytes> operator()(SamplesOf<int32_t, bytes> sum) const {
+    const auto x = floatsOf(sum);
+    using V = std::decay_t<decltype(x)>;
+    return roundedToEven(min(broadcastFloat<V>(INT16_MAX), x * broadcastFloat<V>(scale_)));
+  }
+  template <size_t bytes>
+  SamplesOf<int16_t, bytes> operator()(SamplesOf<int16_t, bytes> sum) const {
+    const auto sign = shiftRight<15>(sum);
+    return narrowInterleaved<int16_t>((*this)(as<int32_t>(interleaveLow(sum, sign))),
+                                      (*this)(as<int32_t>(interleaveHigh(sum, sign))));
   }
 
  private:
-  Floats4 scale_;
+  float scale_;
 };
 
-template <int vectors, typename T, typename Divide>
-void storeSums(Byte* dst, const Sums<vectors>& sums, const T*, const Divide& divide) {
-  for (int i = 0; i < vectors; i += 2) {
-    const S16 words = narrowSaturated<int16_t>(divide(sums.at[i]), divide(sums.at[i + 1]));
-    if constexpr (sizeof(T) == 2)
-      store16(dst + 8 * i, words.v);
-    else
-      storeFirst8(dst + 4 * i, narrowSaturated<uint8_t>(words, words).v);
+template <typename T, int vectors, size_t bytes, typename Divide>
+void storeSums(Byte* dst, const Sums<vectors, bytes>& sums, const Divide& divide) {
+  const auto words = [&](int i) {
+    return narrowInterleaved<int16_t>(divide(sums.at[i]), divide(sums.at[i + 1]));
+  };
+  if constexpr (sizeof(T) == 2) {
+    for (int i = 0; i < vectors; i += 2) storeVector(dst + bytes / 2 * static_cast<size_t>(i), words(i).v);
+  } else if constexpr (vectors == 4) {
+    storeVector(dst, narrowInterleaved<uint8_t>(words(0), words(2)).v);
+  } else {
+    storeFirst8(dst, narrowInterleaved<uint8_t>(words(0), words(0)).v);
   }
 }
 
 template <typename T, typename Divide>
 void filterBlocks(const FilterTaps& taps, FilterSource src, Byte* dst, size_t samples, const Divide& divide) {
-  inBlocks<16, 8>(samples, [&](auto count, size_t i) {
-    constexpr int vectors = decltype(count)::value / 4;
-    constexpr const T* type = nullptr;
+  inVectorBlocks(samples, [&](auto count, size_t i) {
+    constexpr size_t bytes = kBlockVector<decltype(count)::value>;
+    constexpr int vectors = decltype(count)::value * 4 / static_cast<int>(bytes);
     const size_t at = i * sizeof(T);
-    storeSums(dst + at, sumsOf<vectors, T>(taps, src.at(at)), type, divide);
+    storeSums<T>(dst + at, sumsOf<T, vectors, bytes>(taps, src.at(at)), divide);
   });
 }
 
 // Sums of 8-bit samples in words, for taps that are bytes and so small that no sum leaves a word.
-template <int vectors>
+template <int vectors, size_t bytes>
 struct WordSums {
-  S16 at[vectors] = {};
+  SamplesOf<int16_t, bytes> at[vectors] = {};
 };
 
-template <int vectors>
-[[gnu::always_inline]] inline WordSums<vectors> wordSumsOf(const FilterTaps& taps, FilterSource src) {
+template <int vectors, size_t bytes>
+[[gnu::always_inline]] inline WordSums<vectors, bytes> wordSumsOf(const FilterTaps& taps, FilterSource src) {
+  constexpr size_t loaded = vectors * bytes / 2;
   const Byte* packed = reinterpret_cast<const Byte*>(taps.packed);
-  WordSums<vectors> sums;
-  const auto add = [&](U8 x, U8 y) {
-    const S16 pair{load16(packed)};
-    const S8 factors = simd::narrowSaturated<int8_t>(pair, pair);
+  WordSums<vectors, bytes> sums;
+  const auto add = [&](const Byte* a, auto partner) {
+    const auto x = loadSamples<loaded, uint8_t>(a), y = partnerOf<loaded>(partner, uint8_t{0});
+    const auto pair = tapsAt<bytes>(packed);
+    const auto factors = narrowInterleaved<int8_t>(pair, pair);
     sums.at[0] = sums.at[0] + multiplyAddPairs(interleaveLow(x, y), factors);
     if constexpr (vectors == 2) sums.at[1] = sums.at[1] + multiplyAddPairs(interleaveHigh(x, y), factors);
     packed += kPairBytes;
   };
   for (int y = 0; y < taps.rows; ++y) {
     const Byte* p = src.first + y * src.step;
-    for (int x = taps.columns; x > 1; x -= 2, p += 2 * src.channels)
-      add({loadFew<8 * vectors>(p)}, {loadFew<8 * vectors>(p + src.channels)});
-    if (taps.columns % 2) add({loadFew<8 * vectors>(p)}, broadcast16<uint8_t>(0));
+    for (int x = taps.columns; x > 1; x -= 2, p += 2 * src.channels) add(p, p + src.channels);
+    if (taps.columns % 2) add(p, NoColumn());
   }
   return sums;
 }
 
-// As ByShift, for shifts of up to 14: the rest of a division fits a word.
-class WordsByShift {
- public:
-  explicit WordsByShift(const FilterRounding& r)
-      : shift_(r.shift),
-        mask_(broadcast16(static_cast<int16_t>(r.mask))),
-        bias_(broadcast16(static_cast<int16_t>(r.half - 1))) {}
-
-  S16 operator()(S16 sum) const {
-    const S16 quotient = sum >> shift_;
-    const S16 rest = (sum & mask_) + bias_ + (quotient & broadcast16<int16_t>(1));
-    return quotient + (rest >> shift_);
+struct AsTheyAre {
+  template <size_t bytes>
+  SamplesOf<int16_t, bytes> operator()(SamplesOf<int16_t, bytes> sum) const {
+    return sum;
   }
-
- private:
-  Shift shift_;
-  S16 mask_, bias_;
-};
-
-struct WordsAsTheyAre {
-  S16 operator()(S16 sum) const { return sum; }
-};
-
-class WordsByScale {
- public:
-  explicit WordsByScale(const FilterRounding& r) : scale_(r) {}
-
-  S16 operator()(S16 sum) const {
-    return narrowSaturated<int16_t>(scale_(widen<int32_t>(sum)), scale_(widen<int32_t>(upperHalf(sum))));
-  }
-
- private:
-  ByScale scale_;
 };
 
 template <typename Divide>
 void filterWordSums(const FilterTaps& taps, FilterSource src, Byte* dst, size_t samples,
                     const Divide& divide) {
-  inBlocks<16, 8>(samples, [&](auto count, size_t i) {
-    constexpr int vectors = decltype(count)::value / 8;
-    const WordSums<vectors> sums = wordSumsOf<vectors>(taps, src.at(i));
-    const S16 first = divide(sums.at[0]);
+  inVectorBlocks(samples, [&](auto count, size_t i) {
+    constexpr size_t bytes = kBlockVector<decltype(count)::value>;
+    constexpr int vectors = decltype(count)::value * 2 / static_cast<int>(bytes);
+    const auto sums = wordSumsOf<vectors, bytes>(taps, src.at(i));
+    const auto first = divide(sums.at[0]);
     if constexpr (vectors == 2)
-      store16(dst + i, narrowSaturated<uint8_t>(first, divide(sums.at[1])).v);
+      storeVector(dst + i, narrowInterleaved<uint8_t>(first, divide(sums.at[1])).v);
     else
-      storeFirst8(dst + i, narrowSaturated<uint8_t>(first, first).v);
+      storeFirst8(dst + i, narrowInterleaved<uint8_t>(first, first).v);
   });
 }
 
@@ -264,7 +280,7 @@ template <typename T>
 void filterWide(const FilterTaps& taps, const FilterRounding& rounding, FilterSource src, uint8_t* dst,
                 size_t samples) {
   if (rounding.shift > 0)
-    filterBlocks<T>(taps, src, dst, samples, ByShift(rounding));
+    filterBlocks<T>(taps, src, dst, samples, ByShift<int32_t>(rounding));
   else
     filterBlocks<T>(taps, src, dst, samples, ByScale(rounding));
 }
@@ -274,11 +290,11 @@ void filterWideSmall(const FilterTaps& taps, const FilterRounding& rounding, Fil
   if (rounding.shift > kMostWordShift)
     filterWide<uint8_t>(taps, rounding, src, dst, samples);
   else if (rounding.shift > 0)
-    filterWordSums(taps, src, dst, samples, WordsByShift(rounding));
+    filterWordSums(taps, src, dst, samples, ByShift<int16_t>(rounding));
   else if (rounding.divisorKind == FilterRounding::One)
-    filterWordSums(taps, src, dst, samples, WordsAsTheyAre());
+    filterWordSums(taps, src, dst, samples, AsTheyAre());
   else
-    filterWordSums(taps, src, dst, samples, WordsByScale(rounding));
+    filterWordSums(taps, src, dst, samples, ByScale(rounding));
 }
 
 template <typename T>
@@ -294,7 +310,7 @@ void filterNarrow(const FilterTaps& taps, const FilterRounding& rounding, Filter
   if (packed && samples >= 8 && asWide) return filterWide<T>(taps, rounding, src, dst, samples);
   if (packed && samples >= 8)
     return inBlocks<8, 8>(samples, [&](auto, size_t first) {
-      const Sums<2> sums = sumsOf<2, T>(taps, src.at(first * sizeof(T)));
+      const auto sums = sumsOf<T, 2, 16>(taps, src.at(first * sizeof(T)));
       int32_t each[8];
       for (int i = 0; i < 2; ++i) store16(reinterpret_cast<Byte*>(each + 4 * i), sums.at[i].v);
       for (size_t i = 0; i < 8; ++i) store(first + i, each[i]);

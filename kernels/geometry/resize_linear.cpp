@@ -134,17 +134,51 @@ void makeGathers(const TileColumns<uint8_t>& columns, int unit, uint8_t* scratch
 }
 
 // Pairs of a sample and its right neighbour to elements.
-S16 blendPairs(Bytes16 pairs, const uint8_t* weights) {
-  const S8 difference{broadcast16<int16_t>(static_cast<int16_t>(0xC040)).v};  // 64, -64
-  const S16 first = multiplyAddPairs(U8{pairs}, S8{broadcast16<int16_t>(64).v});
-  return first + multiplyHighRounded(multiplyAddPairs(U8{pairs}, difference), {load16(weights)});
+template <size_t bytes>
+SamplesOf<int16_t, bytes> blendPairs(SamplesOf<uint8_t, bytes> pairs, SamplesOf<int16_t, bytes> weights) {
+  const auto sumsWith = [=](int16_t twoFactors) {
+    return multiplyAddPairs(pairs, as<int8_t>(broadcastLike(weights, twoFactors)));
+  };
+  return sumsWith(64) + multiplyHighRounded(sumsWith(static_cast<int16_t>(0xC040)), weights);  // 64, -64
 }
+S16 blendPairs(Bytes16 pairs, const uint8_t* weights) { return blendPairs(U8{pairs}, S16{load16(weights)}); }
+
+int32_t offsetOf(const uint8_t* block) {
+  int32_t offset = 0;
+  move<4>(reinterpret_cast<Byte*>(&offset), block + offsetof(WindowBlock, offset));
+  return offset;
+}
+
+#ifdef __AVX2__
+// Two blocks at once, as many as there are pairs of them; returns the blocks done.
+template <int n>
+size_t blendTwoWindows(Sources<n> src, Elements<n> rows, const uint8_t* blocks, size_t count) {
+  size_t i = 0;
+  for (; i + 2 <= count; i += 2, blocks += 2 * sizeof(WindowBlock)) {
+    const uint8_t* const next = blocks + sizeof(WindowBlock);
+    const auto both = [=](size_t at) { return joined(load16(blocks + at), load16(next + at)); };
+    const Bytes32 control = both(offsetof(WindowBlock, control));
+    const Samples32<int16_t> weights{both(offsetof(WindowBlock, weights))};
+    const int32_t first = offsetOf(blocks), second = offsetOf(next);
+    for (size_t k = 0; k < n; ++k) {
+      const Bytes32 windows = joined(load16(src[k] + first), load16(src[k] + second));
+      const Samples32<uint8_t> pairs{shuffleBytes(windows, control)};
+      store32(reinterpret_cast<Byte*>(rows.rows[k] + i * kLanes), blendPairs(pairs, weights).v);
+    }
+  }
+  return i;
+}
+#endif
 
 template <int n>
 void blendWindows(Sources<n> src, Elements<n> rows, const uint8_t* blocks, size_t count) {
-  for (size_t i = 0; i < count; ++i, blocks += sizeof(WindowBlock)) {
-    int32_t offset = 0;
-    move<4>(reinterpret_cast<Byte*>(&offset), blocks + offsetof(WindowBlock, offset));
+  size_t i = 0;
+#ifdef __AVX2__
+  i = blendTwoWindows<n>(src, rows, blocks, count);
+  blocks += i * sizeof(WindowBlock);
+#endif
+  for (; i < count; ++i, blocks += sizeof(WindowBlock)) {
+    const int32_t offset = offsetOf(blocks);
     const Bytes16 control = load16(blocks + offsetof(WindowBlock, control));
     for (size_t k = 0; k < n; ++k)
       rows.store(k, i * kLanes, blendPairs(shuffleBytes(load16(src[k] + offset), control), blocks));
@@ -205,14 +239,17 @@ void blendLast(Sources<n> src, Elements<n> rows, const uint8_t* blocks, size_t f
   }
 }
 
-// Sixteen samples of the destination from two rows of Q6.
-Bytes16 blendQ6(const int16_t* nearer, const int16_t* farther, S16 weight) {
-  const auto half = [&](size_t at) -> S16 {
-    const S16 p{load16(reinterpret_cast<const Byte*>(nearer + at))};
-    const S16 q{load16(reinterpret_cast<const Byte*>(farther + at))};
-    return multiplyHighRounded(p + multiplyHigh(p - q, weight), broadcast16<int16_t>(512));  // (x + 32) >> 6
+// As many samples of the destination as a vector has, from two rows of Q6.
+template <size_t bytes>
+SamplesOf<uint8_t, bytes> blendQ6(const int16_t* nearer, const int16_t* farther,
+                                  SamplesOf<int16_t, bytes> weight) {
+  const auto words = [&](size_t at) {
+    const auto p = loadSamples<bytes, int16_t>(reinterpret_cast<const Byte*>(nearer + at)),
+               q = loadSamples<bytes, int16_t>(reinterpret_cast<const Byte*>(farther + at));
+    return multiplyHighRounded(p + multiplyHigh(p - q, weight),
+                               broadcastLike(p, int16_t{512}));  // (x + 32) >> 6
   };
-  return narrowSaturated<uint8_t>(half(0), half(kLanes)).v;
+  return narrowSaturated<uint8_t>(words(0), words(bytes / sizeof(int16_t)));
 }
 
 // Both stages at once. The sums have 14 fraction bits; an odd integer part rounds up from a unit below its
@@ -334,10 +371,14 @@ void blendRows<uint8_t>(const int16_t* first, const int16_t* second, uint16_t c,
                         size_t samples) {
   const bool nearsSecond = c > kQ14 / 2;
   const int16_t *const nearer = nearsSecond ? second : first, *const farther = nearsSecond ? first : second;
-  const S16 weight = broadcast16(static_cast<int16_t>(-4 * (nearsSecond ? kQ14 - c : c)));
-  const auto blockAt = [=](size_t i) { return blendQ6(nearer + i, farther + i, weight); };
+  const auto weight = broadcast(static_cast<int16_t>(-4 * (nearsSecond ? kQ14 - c : c)));
+  const auto blockAt = [=](size_t i) { return blendQ6(nearer + i, farther + i, firstOf<kStep>(weight)).v; };
   if (samples >= kStep) {
-    for (size_t i = 0; i + kStep <= samples; i += kStep) store16(dst + i, blockAt(i));
+    size_t i = 0;
+    for (; i + kVectorBytes <= samples; i += kVectorBytes)
+      storeVector(dst + i, blendQ6(nearer + i, farther + i, weight).v);
+    if constexpr (kVectorBytes > kStep)
+      for (; i + kStep <= samples; i += kStep) store16(dst + i, blockAt(i));
     store16(dst + samples - kStep, blockAt(samples - kStep));
   } else {
     Byte all[kStep];

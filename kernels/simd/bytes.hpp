@@ -120,6 +120,9 @@ inline constexpr Byte kZero = 0x80;
 
 inline Bytes16 vectorOf(const Control& c) { return load16(c.data()); }
 inline Bytes16 shuffleBytes(Bytes16 v, Bytes16 control) { return _mm_shuffle_epi8(v, control); }
+#ifdef __AVX2__
+inline Bytes32 shuffleBytes(Bytes32 v, Bytes32 control) { return _mm256_shuffle_epi8(v, control); }
+#endif
 
 inline Bytes16 bitOr(Bytes16 a, Bytes16 b) { return _mm_or_si128(a, b); }
 inline Bytes16 bitAnd(Bytes16 a, Bytes16 b) { return _mm_and_si128(a, b); }

@@ -45,16 +45,26 @@ Samples16<D> narrowSigned(S16 a, S16 b) {
   return {std::is_signed_v<D> ? _mm_packs_epi16(a.v, b.v) : _mm_packus_epi16(a.v, b.v)};
 }
 
+// The same where sixteen bytes of each are followed by sixteen of the other: what was interleaved low and
+// high is in its old order again.
+template <typename D, typename T>
+Samples16<D> narrowInterleaved(Samples16<T> a, Samples16<T> b) {
+  return narrowSigned<D>(a, b);
+}
+
 #ifdef __AVX2__
-// The same for 32 bytes: all of the first vector, then all of the second.
-inline Bytes32 inOrder(Bytes32 v) { return _mm256_permute4x64_epi64(v, 0xD8); }
 template <typename D>
-Samples32<D> narrowSigned(Samples32<int32_t> a, Samples32<int32_t> b) {
-  return {inOrder(std::is_signed_v<D> ? _mm256_packs_epi32(a.v, b.v) : _mm256_packus_epi32(a.v, b.v))};
+Samples32<D> narrowInterleaved(Samples32<int32_t> a, Samples32<int32_t> b) {
+  return {std::is_signed_v<D> ? _mm256_packs_epi32(a.v, b.v) : _mm256_packus_epi32(a.v, b.v)};
 }
 template <typename D>
-Samples32<D> narrowSigned(Samples32<int16_t> a, Samples32<int16_t> b) {
-  return {inOrder(std::is_signed_v<D> ? _mm256_packs_epi16(a.v, b.v) : _mm256_packus_epi16(a.v, b.v))};
+Samples32<D> narrowInterleaved(Samples32<int16_t> a, Samples32<int16_t> b) {
+  return {std::is_signed_v<D> ? _mm256_packs_epi16(a.v, b.v) : _mm256_packus_epi16(a.v, b.v)};
+}
+// All of the first vector, then all of the second.
+template <typename D, typename T>
+Samples32<D> narrowSigned(Samples32<T> a, Samples32<T> b) {
+  return {_mm256_permute4x64_epi64(narrowInterleaved<D>(a, b).v, 0xD8)};
 }
 
 template <typename W, typename T>

@@ -13,8 +13,14 @@ inline S16 upperHalf(S16 x) { return {_mm_unpackhi_epi64(x.v, x.v)}; }
 // The second four bytes, as the first.
 inline U8 upperDword(U8 x) { return {_mm_srli_epi64(x.v, 32)}; }
 
-inline S16 wordsLow(U8 x) { return {widenLow(x).v}; }
-inline S16 wordsHigh(U8 x) { return {widenHigh(x).v}; }
+template <size_t bytes>
+SamplesOf<int16_t, bytes> wordsLow(SamplesOf<uint8_t, bytes> x) {
+  return as<int16_t>(widenLow(x));
+}
+template <size_t bytes>
+SamplesOf<int16_t, bytes> wordsHigh(SamplesOf<uint8_t, bytes> x) {
+  return as<int16_t>(widenHigh(x));
+}
 
 inline void storeFloats(Byte* p, Floats8 x) { store32(p, bytesOf(x)); }
 inline void storeFloats(Byte* p, Floats4 x) { store16(p, bytesOf(x)); }

@@ -53,6 +53,23 @@ SamplesOf<T, bytes> broadcastLike(SamplesOf<T, bytes>, T x) {
   else
     return {joined(broadcast16(x).v, broadcast16(x).v)};
 }
+// So many bytes of samples: a vector that begins with them.
+template <size_t bytes, typename T>
+auto loadSamples(const Byte* p) {
+  if constexpr (bytes <= 16)
+    return Samples16<T>{loadFew<bytes>(p)};
+  else
+    return Samples32<T>{load32(p)};
+}
+
+// The first bytes of a vector that is as wide or wider.
+template <size_t bytes, typename T, size_t width>
+SamplesOf<T, bytes> firstOf(SamplesOf<T, width> x) {
+  if constexpr (bytes == width)
+    return x;
+  else
+    return {lowHalf(x.v)};
+}
 template <typename T>
 Samples<T> broadcast(T x) {
   return broadcastLike(Samples<T>(), x);
