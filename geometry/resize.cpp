@@ -15,6 +15,7 @@
 #include "kernels/geometry/resize_by_two.hpp"
 #include "kernels/geometry/resize_linear.hpp"
 #include "kernels/geometry/resize_nearest.hpp"
+#include "kernels/path_count.hpp"
 
 namespace lumi {
 namespace {
@@ -82,10 +83,12 @@ LumStatus resizeNearest(const T* src, int srcStep, T* dst, int dstStep, LumiPoin
   const bool apart = static_cast<size_t>(std::abs(int64_t{dstStep})) >= rowBytes;
   const bool copies = apart && !(columns.isDoubled() && rowBytes > kStoresUnderWay);
   for (int y = 0; y < tile.height; ++y) {
-    if (copies && y > 0 && index[y] == index[y - 1])
+    if (copies && y > 0 && index[y] == index[y - 1]) {
+      countPath(Path::NearestRowCopied);
       copyRow(to.row(y - 1), to.row(y), rowBytes);
-    else
+    } else {
       columns.pick(from.row(index[y] - origin), to.row(y));
+    }
   }
   return aboveWhole(*plan, dstSize);
 }

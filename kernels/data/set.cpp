@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "kernels/data/set.hpp"
 
+#include "kernels/path_count.hpp"
 #include "kernels/simd/bytes.hpp"
 #include "kernels/simd/strings.hpp"
 
@@ -86,6 +87,7 @@ void fillRow(const PixelPattern& pattern, uint8_t* dst, size_t bytes, bool strea
   if (bytes < kVector) return fillShort(pattern, dst, bytes);
   if constexpr (4 % pixelBytes == 0)
     if (bytes >= kStringFill) return fillByString<pixelBytes>(pattern, dst, bytes);
+  if (streaming) countPath(Path::StreamingFill);
   if (streaming)
     fillLong<pixelBytes, Streaming>(pattern, dst, bytes);
   else

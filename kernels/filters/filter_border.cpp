@@ -8,6 +8,7 @@
 
 #include "kernels/filters/filter_blocks.hpp"
 #include "kernels/filters/filter_columns.hpp"
+#include "kernels/path_count.hpp"
 #include "kernels/simd/filter.hpp"
 
 namespace lumi {
@@ -188,6 +189,7 @@ class WordsByScale {
 template <typename Divide>
 void filterWordSums(const FilterTaps& taps, FilterSource src, Byte* dst, size_t samples,
                     const Divide& divide) {
+  countPath(Path::FilterWordSums);
   inBlocks<16, 8>(samples, [&](auto count, size_t i) {
     constexpr int vectors = decltype(count)::value / 8;
     const WordSums<vectors> sums = wordSumsOf<vectors>(taps, src.at(i));

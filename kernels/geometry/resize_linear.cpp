@@ -10,6 +10,7 @@
 
 #include <algorithm>
 
+#include "kernels/path_count.hpp"
 #include "kernels/simd/pixels.hpp"
 #include "kernels/simd/resize.hpp"
 
@@ -142,6 +143,7 @@ S16 blendPairs(Bytes16 pairs, const uint8_t* weights) {
 
 template <int n>
 void blendWindows(Sources<n> src, Elements<n> rows, const uint8_t* blocks, size_t count) {
+  countPath(Path::LinearByteWindows);
   for (size_t i = 0; i < count; ++i, blocks += sizeof(WindowBlock)) {
     int32_t offset = 0;
     move<4>(reinterpret_cast<Byte*>(&offset), blocks + offsetof(WindowBlock, offset));

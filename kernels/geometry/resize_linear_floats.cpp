@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "kernels/geometry/resize_linear.hpp"
+#include "kernels/path_count.hpp"
 #include "kernels/simd/resize.hpp"
 
 namespace lumi {
@@ -187,6 +188,7 @@ void makeControls(const TileColumns<T>& columns, uint8_t* controls) {
 
 template <typename W, typename T>
 void blendWindows(const Byte* base, const TileColumns<T>& columns, const uint8_t* controls, float* row) {
+  countPath(Path::LinearFloatWindows);
   constexpr size_t kLanes = Gather<T>::kLanes;
   const int32_t* const index = columns.index;
   const float* const weights = columns.weights;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "kernels/path_count.hpp"
 #include "kernels/simd/resize.hpp"
 
 namespace lumi {
@@ -191,12 +192,14 @@ void PickedColumns::pickPixels(const uint8_t* src, uint8_t* dst) const {
     const Byte* const first = base + bytes(index_[0]);
     if (isHalved_) done = pickEvens<pixel>(first, dst, columns_);
     if (isDoubled_) done = pickTwice<pixel>(first, dst, columns_);
+    if (done != 0) countPath(isHalved_ ? Path::NearestHalved : Path::NearestDoubled);
   }
   pickOneByOne<pixel>(base, dst + done * pixel, index_ + done, columns_ - done, isClose_ && done == 0);
 }
 
 void PickedColumns::pick(const uint8_t* src, uint8_t* dst) const {
   if (windows_) {
+    countPath(Path::NearestWindows);
     return isNarrow_ ? pickByWindows<narrowBlockOf>(src, dst, windows_, columns_, pixelBytes_)
                      : pickByWindows<blockOf>(src, dst, windows_, columns_, pixelBytes_);
   }
