@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The caller's control register: where no sum is rounded, or where rounding it otherwise moves it nowhere near
-// to another result, an Init and a run may each find any rounding mode in it.
+// The caller's control register: where no sum is rounded, or where rounding it otherwise moves it nowhere
+// near to another result, an Init and a run may each find any rounding mode in it.
 #include <gtest/gtest.h>
 #include <xmmintrin.h>
 
@@ -50,10 +50,10 @@ void compareModes(const FilterKernel& kernel, Random& random) {
     for (const unsigned atInit : kControls)
       for (const unsigned atRun : kControls)
         ASSERT_TRUE(filtered(kernel, channels, src, atInit, atRun) == usual)
-            << "samples of " << sizeof(T) << " bytes, C" << channels << ", kernel " << kernel.size.width << "x"
-            << kernel.size.height << (kernel.whole.empty() ? " of floats" : " of integers") << ", divisor "
-            << kernel.divisor << ", mode " << kernel.roundMode << ", control " << atInit << " at Init and "
-            << atRun << " at the run";
+            << "samples of " << sizeof(T) << " bytes, C" << channels << ", kernel " << kernel.size.width
+            << "x" << kernel.size.height << (kernel.whole.empty() ? " of floats" : " of integers")
+            << ", divisor " << kernel.divisor << ", mode " << kernel.roundMode << ", control " << atInit
+            << " at Init and " << atRun << " at the run";
   }
 }
 

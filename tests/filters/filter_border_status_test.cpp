@@ -102,6 +102,15 @@ TEST(FilterBorderStatus, SizesAreTheFormulas) {
       {{3, 3}, {40, 30}, lumiData8u, lumiData16s, 2, 128 + 64 + 191, 63 + 1920},
       // 16 * floor((36 + 40 + 3) / 4) = 304 -> 320; padded(14) * 30
       {{3, 3}, {40, 30}, lumiData16s, lumiData16s, 1, 128 + 64 + 191, 63 + 320 + 1920},
+      // integer taps of two channels stay integers, 5 x 7 of them: 3 * 16 * 7 = 336 -> 384, 70 -> 128 where
+      // floats
+      // would take 140 -> 192; no scratch; 12 * padded(176) = 2304, padded(13 * 4) * 30 = 1920
+      {{5, 7}, {40, 30}, lumiData16s, lumiData16s, 2, 384 + 128 + 191, 63 + 2304},
+      // of three and four they become floats: 140 -> 192; 16 * floor((140 + 240 + 10) / 4) = 1552 -> 1600;
+      // 12 * padded(264) = 3840, padded(78) * 30
+      {{5, 7}, {40, 30}, lumiData16s, lumiData16s, 3, 384 + 192 + 191, 63 + 1600 + 3840},
+      // 4 * (140 + 320) = 1840 -> 1856; 12 * padded(352) = 4608, padded(104) * 30
+      {{5, 7}, {40, 30}, lumiData16s, lumiData16s, 4, 384 + 192 + 191, 63 + 1856 + 4608},
       // as for float taps: 36 -> 64; 16 * floor((36 + 240 + 10) / 4) = 1136 -> 1152; padded(42) * 30
       {{3, 3}, {40, 30}, lumiData16s, lumiData16s, 3, 128 + 64 + 191, 63 + 1152 + 1920},
       // 5 x 5 taps: 240 -> 256, 100 -> 128; 16 * floor(50 / 4) = 192; 8 * padded(88) = 1024
