@@ -23,7 +23,7 @@ namespace {
 using namespace check;
 
 template <typename T>
-LumStatus wholeSteps(int srcStep, int dstStep) {
+LumStatus stepsOfSamples(int srcStep, int dstStep) {
   constexpr int kMask = sizeof(T) - 1;
   return ((srcStep | dstStep) & kMask) != 0 ? lumStatusBadStep : lumStatusOk;
 }
@@ -49,8 +49,8 @@ LumStatus runFault(const T* src, int srcStep, const T* dst, int dstStep, LumiPoi
                    const Opaque* object, const Lum8u* buffer, const Plan* plan,
                    LumiInterpolationType interpolation) {
   if (LumStatus fault = firstFault(pointers(src, dst, object, buffer), notZero(tile))) return fault;
-  return firstFault(identity(*plan), size(tile), wholeSteps<T>(srcStep, dstStep), offsetInside(*plan, offset),
-                    madeFor<T>(*plan, interpolation));
+  return firstFault(identity(*plan), size(tile), stepsOfSamples<T>(srcStep, dstStep),
+                    offsetInside(*plan, offset), madeFor<T>(*plan, interpolation));
 }
 
 // A part of one axis of the destination.
@@ -77,8 +77,8 @@ LumStatus resizeNearest(const T* src, int srcStep, T* dst, int dstStep, LumiPoin
   const auto to = rows(dst, dstStep);
   const int32_t* const index = plan->vertical.index + dstOffset.y;
   const int32_t origin = sourceStart(plan->vertical, dstOffset.y);
-  // Rows that overlap one another are not copied, for the earlier one is no longer whole; nor long ones that
-  // are picked as fast, for their stores are still under way.
+  // Rows that overlap one another are not copied, for the later one has changed the earlier; nor long ones
+  // that are picked as fast, for their stores are still under way.
   constexpr size_t kStoresUnderWay = 4096;
   const bool apart = static_cast<size_t>(std::abs(int64_t{dstStep})) >= rowBytes;
   const bool copies = apart && !(columns.isDoubled() && rowBytes > kStoresUnderWay);

@@ -109,7 +109,7 @@ PlanBytes antialiasingBytes(LumiInterpolationType interpolation, LumiSize src, L
   return {object, 8 * padded + kInitSize};
 }
 
-// Bytes of the weights of one axis: whole taps, with room for a start on any boundary.
+// Bytes of the weights of one axis, with room for a start on any boundary.
 int64_t tapBytes(int64_t positions, int taps, int spare) { return 4 * al32(taps * positions + spare); }
 
 PlanBytes planBytes(const ResizePlan*, LumiInterpolationType interpolation, bool antialiasing, LumiSize src,

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Fast paths are taken where they should be, and not beyond. No result tells: every path stores the same. Only
-// builds that count paths have these tests.
+// Fast paths are taken where they should be, and not beyond. No result tells: every path stores the same.
+// Only builds that count paths have these tests.
 #ifdef LUMI_COUNT_PATHS
-
-#include "kernels/path_count.hpp"
 
 #include <gtest/gtest.h>
 
@@ -14,6 +12,7 @@
 
 #include "filters/filter_border_calls.hpp"
 #include "geometry/resize_calls.hpp"
+#include "kernels/path_count.hpp"
 #include "lumi/copy.h"
 #include "lumi/set.h"
 #include "support/core_guard.hpp"
@@ -43,8 +42,9 @@ int taken(Path path, const Call& call) {
 TEST(Paths, LongCopiesMoveStrings) {
   std::vector<Lum8u> src(0x7000), dst(0x7000);
   const auto copies = [&](int width) {
-    return taken(Path::StringMove,
-                 [&] { return lumiCopy_8u_C1R(src.data(), width, dst.data(), width, {width, 1}); });
+    return taken(Path::StringMove, [&] {
+      return lumiCopy_8u_C1R(src.data(), width, dst.data(), width, {width, 1});
+    });
   };
   EXPECT_EQ(copies(0x7000), 1);
   EXPECT_EQ(copies(0x7000 - 1), 0);
@@ -64,8 +64,9 @@ TEST(Paths, FillsBeyondTheCacheStream) {
   const Lum8u value[3] = {1, 2, 3};
   std::vector<Lum8u> dst((1 << 20) + 3);
   const auto fills = [&](int bytes) {
-    return taken(Path::StreamingFill,
-                 [&] { return lumiSet_8u_C3R(value, dst.data(), bytes, {bytes / 3, 1}); });
+    return taken(Path::StreamingFill, [&] {
+      return lumiSet_8u_C3R(value, dst.data(), bytes, {bytes / 3, 1});
+    });
   };
   testcore::setCacheSize(1 << 20);
   EXPECT_EQ(fills((1 << 20) + 2), 1);  // a multiple of 3
@@ -85,7 +86,8 @@ int resizes(Path path, const std::string& kind, const std::string& type, int cha
   Lum32s bytes = 0;
   EXPECT_EQ(resize::getBufferSize(type, plan.at, dst, channels, &bytes).run(), lumStatusOk);
   std::vector<Lum8u> scratch(static_cast<size_t>(bytes));
-  NamedCall call = resize::apply(kind, type, channels, {0, 0}, {columns == 0 ? dst.width : columns, dst.height}, plan.at, scratch.data());
+  NamedCall call = resize::apply(kind, type, channels, {0, 0},
+                                 {columns == 0 ? dst.width : columns, dst.height}, plan.at, scratch.data());
   call.image("src", from.data(), src.width * pixel).image("dst", to.data(), dstStep);
   return taken(path, [&] { return call.run(); });
 }
@@ -115,7 +117,8 @@ TEST(Paths, NearestDoubles) {
   EXPECT_EQ(doubles("32f", 1, {4, 3}, {8, 3}), 3);
   EXPECT_EQ(doubles("8u", 3, {16, 3}, {32, 3}), 0);
   EXPECT_EQ(doubles("8u", 1, {17, 3}, {32, 3}), 0);
-  // 33 columns are in pairs but for the last one, which is alone; its neighbour in the plan would not be its pair.
+  // 33 columns are in pairs but for the last one, which is alone; its neighbour in the plan would not be its
+  // pair.
   const auto first = [](int columns) {
     return resizes(Path::NearestDoubled, "Nearest", "8u", 1, {64, 3}, {126, 3}, 0, columns);
   };
@@ -209,8 +212,9 @@ int filters(Path path, std::vector<Lum16s> taps, LumiSize roi) {
   filter::Work work(kernel, lumiData8u, 1, roi);
   std::vector<Lum8u> src(static_cast<size_t>(roi.width * roi.height)), dst(src.size());
   const Lum8u value[4] = {};
-  const NamedCall call = filter::apply<Lum8u>(1, filter::imageOf(src, roi.width), filter::imageOf(dst, roi.width),
-                                              roi, lumiBorderReplicate, value, work.spec.data(), work.buffer.data());
+  const NamedCall call =
+      filter::apply<Lum8u>(1, filter::imageOf(src, roi.width), filter::imageOf(dst, roi.width), roi,
+                           lumiBorderReplicate, value, work.spec.data(), work.buffer.data());
   return taken(path, [&] { return call.run(); });
 }
 

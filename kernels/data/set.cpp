@@ -87,11 +87,9 @@ void fillRow(const PixelPattern& pattern, uint8_t* dst, size_t bytes, bool strea
   if (bytes < kVector) return fillShort(pattern, dst, bytes);
   if constexpr (4 % pixelBytes == 0)
     if (bytes >= kStringFill) return fillByString<pixelBytes>(pattern, dst, bytes);
-  if (streaming) countPath(Path::StreamingFill);
-  if (streaming)
-    fillLong<pixelBytes, Streaming>(pattern, dst, bytes);
-  else
-    fillLong<pixelBytes, Cached>(pattern, dst, bytes);
+  if (!streaming) return fillLong<pixelBytes, Cached>(pattern, dst, bytes);
+  countPath(Path::StreamingFill);
+  fillLong<pixelBytes, Streaming>(pattern, dst, bytes);
 }
 
 #define LUMI_PIXEL(bytes) template void fillRow<bytes>(const PixelPattern&, uint8_t*, size_t, bool);

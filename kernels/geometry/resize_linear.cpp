@@ -250,19 +250,19 @@ template <int channels>
 ColumnBlender<uint8_t, channels>::ColumnBlender(const TileColumns<uint8_t>& columns, uint8_t* scratch)
     : blocks_(scratch),
       blockCount_((columns.count + kColumns<channels> - 1) / kColumns<channels>),
-      wholeLoads_(blockCount_),
+      vectorBlocks_(blockCount_),
       unit_(kUnit<channels>) {
   if (channels == 1 && suitsWindows(columns)) {
     makeWindows(columns, scratch);
     return;
   }
-  if (channels == 1) wholeLoads_ = 0;
+  if (channels == 1) vectorBlocks_ = 0;
   if (channels == 3) {
     if (columnOf(columns, columns.count) > INT32_MAX / channels) unit_ = channels;
     const int32_t* const end = columns.index + columns.count;
     const int32_t last = end[-1];
     const auto beforeLast = static_cast<size_t>(std::lower_bound(columns.index, end, last) - columns.index);
-    wholeLoads_ = beforeLast / kColumns<channels>;
+    vectorBlocks_ = beforeLast / kColumns<channels>;
   }
   makeGathers<channels>(columns, unit_, scratch);
 }
@@ -271,9 +271,9 @@ template <int channels>
 template <int n, int unit>
 [[gnu::always_inline]] inline void ColumnBlender<uint8_t, channels>::blendGathered(
     const uint8_t* const (&src)[n], int16_t* const (&rows)[n]) const {
-  const size_t whole = channels == 1 ? blockCount_ : wholeLoads_;
-  blendGathers<channels, unit, n>(src, {rows}, blocks_, 0, whole);
-  if constexpr (channels == 3) blendLast<unit, n>(src, {rows}, blocks_, whole, blockCount_);
+  const size_t byVectors = channels == 1 ? blockCount_ : vectorBlocks_;
+  blendGathers<channels, unit, n>(src, {rows}, blocks_, 0, byVectors);
+  if constexpr (channels == 3) blendLast<unit, n>(src, {rows}, blocks_, byVectors, blockCount_);
 }
 
 template <int channels>
@@ -281,7 +281,7 @@ template <int n>
 [[gnu::always_inline]] inline void ColumnBlender<uint8_t, channels>::blendEach(
     const uint8_t* const (&src)[n], int16_t* const (&rows)[n]) const {
   if constexpr (channels == 1)
-    if (wholeLoads_ != 0) return blendWindows<n>(src, {rows}, blocks_, blockCount_);
+    if (vectorBlocks_ != 0) return blendWindows<n>(src, {rows}, blocks_, blockCount_);
   if constexpr (channels == 3)
     if (unit_ == channels) return blendGathered<n, channels>(src, rows);
   blendGathered<n, kUnit<channels>>(src, rows);

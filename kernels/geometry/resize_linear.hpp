@@ -99,8 +99,8 @@ class ColumnBlender<uint8_t, channels> {
 
   const uint8_t* blocks_;
   size_t blockCount_;
-  size_t wholeLoads_;  // blocks from the first one on that are loaded in whole vectors
-  int unit_;           // bytes that blocks count source distances in
+  size_t vectorBlocks_;  // blocks from the first one on that are loaded in vectors
+  int unit_;             // bytes that blocks count source distances in
 };
 
 // The second stage: first + (second - first) * weight, rounded as the type wants it.

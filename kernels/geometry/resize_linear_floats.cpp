@@ -130,9 +130,9 @@ BlendElement<T> blendSample(const Byte* pixel, int channel, BlendWeight<T> weigh
                  static_cast<E>(sampleAt<T>(sample + channels * sizeof(T))), weight);
 }
 
-// Columns that whole vectors may be loaded of: a 3-channel pixel with another one behind its neighbour.
+// Columns that vectors may be loaded of: a 3-channel pixel with another one behind its neighbour.
 template <typename T, int channels>
-size_t wholeColumns(const TileColumns<T>& columns) {
+size_t vectorColumns(const TileColumns<T>& columns) {
   if (channels == 4) return columns.count;
   const int32_t* const end = columns.index + columns.count;
   return static_cast<size_t>(std::lower_bound(columns.index, end, end[-1]) - columns.index);
@@ -239,7 +239,7 @@ void ColumnBlender<T, channels>::blend(const uint8_t* src, BlendElement<T>* row)
       store(row + x, blended(pair.first, pair.second, load(columns_.weights + x)));
     }
   } else {
-    for (const size_t whole = wholeColumns<T, channels>(columns_); x < whole; ++x) {
+    for (const size_t byVectors = vectorColumns<T, channels>(columns_); x < byVectors; ++x) {
       const Byte* const pixel = pixelOf<T, channels>(src, columns_, x);
       store(row + x * channels,
             blended(G::pixel(pixel), G::pixel(pixel + channels * sizeof(T)), G::weight(columns_.weights[x])));

@@ -99,8 +99,8 @@ Bytes16 narrowBlockOf(const Byte* src, const Byte* windows) {
 
 template <Bytes16 (&blockAt)(const Byte*, const Byte*)>
 void pickByWindows(const Byte* src, Byte* dst, const Byte* windows, size_t columns, size_t pixelBytes) {
-  const size_t each = kBlock / pixelBytes, whole = columns / each;
-  for (size_t block = 0; block < whole; ++block, windows += sizeof(Windows))
+  const size_t each = kBlock / pixelBytes, full = columns / each;
+  for (size_t block = 0; block < full; ++block, windows += sizeof(Windows))
     store16(dst + block * kBlock, blockAt(src, windows));
   if (columns % each != 0) store16(dst + columns * pixelBytes - kBlock, blockAt(src, windows));
 }

@@ -138,7 +138,7 @@ constexpr size_t kSpecBytes = 4096;
 
 template <typename T>
 struct Init {
-  Lum16s whole[15] = {};
+  Lum16s integers[15] = {};
   Lum32f floats[15] = {};
   LumiSize size{3, 5};
   int divisor = 7;
@@ -157,7 +157,7 @@ struct Init {
 };
 
 LumStatus call(Init<Lum16s>& i) {
-  return lumiFilterBorderInit_16s(i.nullKernel ? nullptr : i.whole, i.size, i.divisor, i.type, i.channels,
+  return lumiFilterBorderInit_16s(i.nullKernel ? nullptr : i.integers, i.size, i.divisor, i.type, i.channels,
                                   i.mode, i.object());
 }
 LumStatus call(Init<Lum32f>& i) {

@@ -24,7 +24,8 @@ TEST(ResizeDoubled, TilesBeginAndEndAnywhere) {
             const Tile tile{src, dst, {x, y}, {width, height}, channels, random.oneIn(2) ? 1 : 6};
             Bench::Options options;
             options.flushAtEnd = random.oneIn(2);
-            ASSERT_EQ(bench.run(kind, type, tile, plan.at, options, random), "") << describe(kind, type, tile);
+            ASSERT_EQ(bench.run(kind, type, tile, plan.at, options, random), "")
+                << describe(kind, type, tile);
           }
       }
 }
@@ -32,13 +33,12 @@ TEST(ResizeDoubled, TilesBeginAndEndAnywhere) {
 // How many columns of a tile are not what doubling makes of its first one.
 int columnsNotDoubled(const model::resize::Axis& axis, int offset, int columns) {
   int count = 0;
-  for (int x = 0; x < columns; ++x)
-    count += axis.nearest(offset + x) != axis.nearest(offset) + x / 2 ? 1 : 0;
+  for (int x = 0; x < columns; ++x) count += axis.nearest(offset + x) != axis.nearest(offset) + x / 2 ? 1 : 0;
   return count;
 }
 
-// Tiles of whole blocks of which only the first or the last pairs are none: those that are not looked at would
-// be made by doubling.
+// Tiles of whole blocks of which only the first or the last pairs are none: those that are not looked at
+// would be made by doubling.
 TEST(ResizeDoubled, OnePairThatIsNoneIsSeen) {
   struct Pixel {
     const char* type;
