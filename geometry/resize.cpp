@@ -53,6 +53,16 @@ LumStatus runFault(const T* src, int srcStep, const T* dst, int dstStep, LumiPoi
                     offsetInside(*plan, offset), madeFor<T>(*plan, interpolation));
 }
 
+// Builds that count paths also watch that no run takes more of its scratch than the query tells for its tile.
+template <typename Plan>
+void checkScratch([[maybe_unused]] const Plan& plan, [[maybe_unused]] LumiSize tile,
+                  [[maybe_unused]] int channels, [[maybe_unused]] const Lum8u* buffer,
+                  [[maybe_unused]] const Lum8u* end) {
+#ifdef LUMI_COUNT_PATHS
+  if (end - buffer > scratchBytes(plan, tile, channels)) std::abort();
+#endif
+}
+
 // A part of one axis of the destination.
 struct Span {
   int first, end;
@@ -73,6 +83,8 @@ LumStatus resizeNearest(const T* src, int srcStep, T* dst, int dstStep, LumiPoin
   const PickedColumns columns(plan->horizontal.index + dstOffset.x,
                               sourceStart(plan->horizontal, dstOffset.x), static_cast<size_t>(tile.width),
                               pixelBytes, buffer);
+  checkScratch(*plan, tile, Layout::kStored, buffer,
+               buffer + PickedColumns::scratchBytes(static_cast<size_t>(tile.width), pixelBytes));
   const auto from = rows(src, srcStep);
   const auto to = rows(dst, dstStep);
   const int32_t* const index = plan->vertical.index + dstOffset.y;
@@ -199,6 +211,8 @@ class LinearTile {
   // the other one goes to the scratch.
   void runDoubled(Lum8u* scratch) {
     const int column = middleColumns().index[0];
+    checkScratch(plan_, size_, channels, scratch,
+                 scratch + static_cast<ptrdiff_t>(middleX_.count()) * kPixel);
     const size_t phase = (offset_.x + middleX_.first) % 2 == 0 ? 1 : 0;
     for (int y = middleY_.first; y < middleY_.end; ++y) {
       const int row = rowIndex(y);
@@ -220,7 +234,10 @@ class LinearTile {
     Tables tables(buffer);
     Element* upper = tables.take<Element>(static_cast<int64_t>(samples + kRowSlack<T>), 32);
     Element* lower = tables.take<Element>(static_cast<int64_t>(samples + kRowSlack<T>), 32);
-    const Blender blender(middleColumns(), tables.take<Lum8u>(0));
+    const TileColumns<T> columns = middleColumns();
+    Lum8u* const blocks = tables.take<Lum8u>(static_cast<int64_t>(Blender::scratchBytes(columns.count)));
+    checkScratch(plan_, size_, channels, buffer, tables.take<Lum8u>(0));
+    const Blender blender(columns, blocks);
     int64_t held = INT64_MIN;  // the source row in `upper`; the next one is in `lower`
     for (int y = middleY_.first; y < middleY_.end; ++y) {
       const int row = rowIndex(y);

@@ -247,6 +247,12 @@ void storePixel(Byte* dst, uint32_t pixel) {
 }  // namespace
 
 template <int channels>
+size_t ColumnBlender<uint8_t, channels>::scratchBytes(size_t columns) {
+  static_assert(sizeof(WindowBlock) <= sizeof(GatherBlock<1>));
+  return (columns + kColumns<channels> - 1) / kColumns<channels> * sizeof(GatherBlock<channels>);
+}
+
+template <int channels>
 ColumnBlender<uint8_t, channels>::ColumnBlender(const TileColumns<uint8_t>& columns, uint8_t* scratch)
     : blocks_(scratch),
       blockCount_((columns.count + kColumns<channels> - 1) / kColumns<channels>),

@@ -208,6 +208,12 @@ void blendWindows(const Byte* base, const TileColumns<T>& columns, const uint8_t
 }  // namespace
 
 template <typename T, int channels>
+size_t ColumnBlender<T, channels>::scratchBytes(size_t columns) {
+  constexpr size_t kLanes = Gather<T>::kLanes, kControl = 4;
+  return channels == 1 && sizeof(T) <= 4 ? (columns + kLanes - 1) / kLanes * kLanes * kControl : 0;
+}
+
+template <typename T, int channels>
 ColumnBlender<T, channels>::ColumnBlender(const TileColumns<T>& columns, uint8_t* scratch)
     : columns_(columns), controls_(scratch), span_(0) {
   if constexpr (channels == 1 && sizeof(T) <= 4) {

@@ -159,6 +159,11 @@ void pickOneByOne(const Byte* src, Byte* dst, const int32_t* index, size_t colum
 
 }  // namespace
 
+size_t PickedColumns::scratchBytes(size_t columns, size_t pixelBytes) {
+  const size_t each = kBlock / pixelBytes;
+  return pixelBytes <= 2 ? (columns + each - 1) / each * sizeof(Windows) : 0;
+}
+
 PickedColumns::PickedColumns(const int32_t* index, int32_t origin, size_t columns, size_t pixelBytes,
                              uint8_t* scratch)
     : index_(index),
