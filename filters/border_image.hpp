@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Border images: a part of an image with a frame around it, so that filters need no test for the edge. They
+// Border images: a part of an image with pixels around it, so that filters need no test for the edge. They
 // are made by the public operations, which know every type and layout.
 #pragma once
 

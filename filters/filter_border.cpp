@@ -40,16 +40,16 @@ template <>
 constexpr LumiDataType kDataType<Lum16s> = lumiData16s;
 
 template <typename T>
-bool usesWholeTaps(const FilterBorderObject& object) {
-  if (sizeof(T) == 1) return object.path == kBytesWhole;
-  return std::is_same_v<T, Lum16s> && object.path == kWordsWhole;
+bool usesIntegerTaps(const FilterBorderObject& object) {
+  if (sizeof(T) == 1) return object.path == kBytesInteger;
+  return std::is_same_v<T, Lum16s> && object.path == kWordsInteger;
 }
 
 // The least width, in pixels, of a rectangle that is computed in the wide form.
 template <typename T, typename Layout>
 int leastWideWidth(const FilterBorderObject& object) {
   constexpr int kNever = INT32_MAX, channels = Layout::kStored;
-  if (usesWholeTaps<T>(object)) {
+  if (usesIntegerTaps<T>(object)) {
     const bool fits = object.kernelWidth >= 3 && object.fitsPacked;
     if (sizeof(T) == 1) return !fits ? kNever : channels == 1 ? 16 : 5;
     return fits && object.fitsWords && channels == 1 ? 16 : kNever;
@@ -63,14 +63,7 @@ FilterTaps tapsOf(const FilterBorderObject& o) {
 }
 
 FilterRounding roundingOf(const FilterBorderObject& o) {
-  return {static_cast<FilterRounding::Kind>(o.divisorClass),
-          o.divisor,
-          o.shift,
-          o.half,
-          o.mask,
-          o.scale,
-          o.divisorD,
-          o.roundMode};
+  return {o.divisorClass, o.divisor, o.shift, o.half, o.mask, o.scale, o.divisorD, o.roundMode};
 }
 
 // One run over the pixels of type T.
@@ -89,7 +82,7 @@ class FilterRun {
         border_(border),
         borderValue_(borderValue) {
     const LumiSize kernel{object.kernelWidth, object.kernelHeight};
-    const LumiDataType taps = usesWholeTaps<T>(object) ? lumiData16s : lumiData32f;
+    const LumiDataType taps = usesIntegerTaps<T>(object) ? lumiData16s : lumiData32f;
     left_ = kernel.width / 2;
     right_ = kernel.width - left_ - 1;
     top_ = kernel.height / 2;
@@ -120,18 +113,18 @@ class FilterRun {
 
   // Columns of the ROI from `x` on, and rows from `y` on, with the pixels beyond the given sides that are in
   // memory, as a border image of that size. Without a type there is none, and the buffer stays as it is.
-  Rows<const Byte> border(LumiPoint from, LumiSize size, LumiPoint frame, LumiPoint after, LumiSize image,
+  Rows<const Byte> border(LumiPoint from, LumiSize size, LumiPoint before, LumiPoint after, LumiSize image,
                           ptrdiff_t step) const {
     const Rows<Byte> rows{image_, step};
     const Rows<const Byte> result{image_, step};
     if (!border_.isOneOf(lumiBorderConst, lumiBorderReplicate)) return result;
-    const int left = added(frame.x, lumiBorderInMemoryLeft), top = added(frame.y, lumiBorderInMemoryTop);
+    const int left = added(before.x, lumiBorderInMemoryLeft), top = added(before.y, lumiBorderInMemoryTop);
     const int right = added(after.x, lumiBorderInMemoryRight);
     const int bottom = added(after.y, lumiBorderInMemoryBottom);
     const BorderPart part{pixelAt(src_, from.x - left, from.y - top),
                           {size.width + left + right, size.height + top + bottom},
-                          frame.y - top,
-                          frame.x - left};
+                          before.y - top,
+                          before.x - left};
     if (border_.type() == lumiBorderConst)
       constantBorder<T, Layout>(part, borderValue_, rows, image);
     else
@@ -142,7 +135,7 @@ class FilterRun {
   // Rows with a border on both sides start on 64-byte boundaries; those of the middle follow one another.
   ptrdiff_t paddedStep() const {
     return static_cast<ptrdiff_t>(
-        roundedUp(int64_t{roi_.width + left_ + right_} * kPixelBytes<T, Layout>, kObjectAlignment));
+        roundedUp((int64_t{roi_.width} + left_ + right_) * kPixelBytes<T, Layout>, kObjectAlignment));
   }
   static ptrdiff_t tightStep(int width) { return static_cast<ptrdiff_t>(width) * kPixelBytes<T, Layout>; }
 
@@ -152,7 +145,9 @@ class FilterRun {
   }
 
   void filterTopAndBottom() const {
-    const int rows = top_ + bottom_, width = roi_.width + left_ + right_;
+    const int rows = top_ + bottom_;
+    if (rows == 0) return;
+    const int width = roi_.width + left_ + right_;  // fits: a border image of that width is in the buffer
     if (top_ > 0)
       filter(
           border({0, 0}, {roi_.width, rows}, {left_, top_}, {right_, 0}, {width, rows + top_}, paddedStep()),
@@ -203,7 +198,7 @@ class FilterRun {
     const FilterSource src{from.first, from.step, Layout::kStored};
     const FilterStrip strip{to.first, to.step, static_cast<int>(samples), height};
     if constexpr (std::is_same_v<T, Lum8u> || std::is_same_v<T, Lum16s>)
-      if (usesWholeTaps<T>(object_)) {
+      if (usesIntegerTaps<T>(object_)) {
         if (sizeof(T) == 2 && !object_.fitsWords) return false;
         filterNarrowStrip<T>(taps_, rounding_, src, strip);
         return true;
@@ -214,7 +209,7 @@ class FilterRun {
 
   void filterRow(bool wide, FilterSource src, Byte* dst, size_t samples) const {
     if constexpr (std::is_same_v<T, Lum8u> || std::is_same_v<T, Lum16s>)
-      if (usesWholeTaps<T>(object_)) {
+      if (usesIntegerTaps<T>(object_)) {
         if constexpr (sizeof(T) == 1)
           if (wide && object_.fitsBytes) return filterWideSmall(taps_, rounding_, src, dst, samples);
         if (wide) return filterWide<T>(taps_, rounding_, src, dst, samples);

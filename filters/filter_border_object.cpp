@@ -38,7 +38,7 @@ LumStatus roundingMode(LumRoundMode mode) {
 
 bool isPowerOfTwo(int n) { return n > 0 && (n & (n - 1)) == 0; }
 
-uint64_t scratchOfWholeTaps(LumiDataType dataType, int channels, uint64_t taps, uint64_t width) {
+uint64_t scratchOfIntegerTaps(LumiDataType dataType, int channels, uint64_t taps, uint64_t width) {
   if (dataType == lumiData8u) {
     if (channels == 1) return padded(32 * ((8 * taps + width + 7) / 8));
     if (channels == 3) return padded(16 * ((4 * taps + 3 * width + 3) / 4));
@@ -126,8 +126,9 @@ void setFloatPath(FilterBorderObject& o, LumiDataType dataType) {
 
 uint64_t filterScratchBytes(LumiDataType dataType, LumiDataType kernelType, int channels, LumiSize kernel,
                             int width) {
-  return kernelType == lumiData16s ? scratchOfWholeTaps(dataType, channels, tapsOf(kernel), unsignedOf(width))
-                                   : scratchOfFloats(dataType, channels, tapsOf(kernel), unsignedOf(width));
+  return kernelType == lumiData16s
+             ? scratchOfIntegerTaps(dataType, channels, tapsOf(kernel), unsignedOf(width))
+             : scratchOfFloats(dataType, channels, tapsOf(kernel), unsignedOf(width));
 }
 
 LumStatus filterBorderSizes(LumiSize kernelSize, LumiSize area, LumiDataType dataType,
@@ -136,7 +137,7 @@ LumStatus filterBorderSizes(LumiSize kernelSize, LumiSize area, LumiDataType dat
   if (LumStatus fault = firstFault(size(kernelSize), size(area), types ? lumStatusOk : lumStatusBadDataType,
                                    channelCount(channels), pointers(specSize, bufferSize)))
     return fault;
-  const LumiDataType taps = takesWholeTaps(dataType, channels) ? kernelType : LumiDataType{lumiData32f};
+  const LumiDataType taps = takesIntegerTaps(dataType, channels) ? kernelType : LumiDataType{lumiData32f};
   const uint64_t columns = unsignedOf(kernelSize.width), lines = unsignedOf(kernelSize.height);
   const uint64_t pixelBytes = unsignedOf(channels * sampleBytes(dataType));
   *specSize = static_cast<int>(padded((columns + 1) / 2 * 16 * lines) +
@@ -161,7 +162,7 @@ LumStatus initFilterBorder(const Lum16s* kernel, LumiSize kernelSize, int diviso
     return fault;
   FilterBorderObject& o = makeObject(spec, kernelSize, roundMode);
   const uint64_t taps = tapsOf(kernelSize);
-  if (!takesWholeTaps(dataType, channels)) {
+  if (!takesIntegerTaps(dataType, channels)) {
     for (uint64_t i = 0; i < taps; ++i) o.kernelF[i] = static_cast<float>((1.0 / divisor) * kernel[i]);
     setFloatPath(o, dataType);
     return lumStatusOk;
@@ -173,7 +174,7 @@ LumStatus initFilterBorder(const Lum16s* kernel, LumiSize kernelSize, int diviso
   o.fitsBytes =
       magnitudes <= 128 && *std::max_element(o.kernelI, o.kernelI + taps) < 128;  // 128 * 255 < 2^15
   setDivisor(o, divisor);
-  o.path = dataType == lumiData8u ? kBytesWhole : kWordsWhole;
+  o.path = dataType == lumiData8u ? kBytesInteger : kWordsInteger;
   return lumStatusOk;
 }
 

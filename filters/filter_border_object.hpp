@@ -3,16 +3,15 @@
 #pragma once
 
 #include "frame/object.hpp"
+#include "kernels/filters/filter_border.hpp"
 #include "lumi/types.h"
 
 namespace lumi {
 
-enum class DivisorClass : int32_t { One, PowerOfTwo, Other };
-
 // Which kernel an object holds, and for which images.
 enum FilterPath : int32_t {
-  kBytesWhole = 0,
-  kWordsWhole = 1,
+  kBytesInteger = 0,
+  kWordsInteger = 1,
   kBytesFloat = 3,
   kWordsFloat = 4,
   kUnsignedWordsFloat = 5,
@@ -45,7 +44,7 @@ static_assert(sizeof(FilterBorderObject) <= kFilterHeader);
 
 // Whether an integer kernel is applied as it is; 16u images and 16s pixels of more than two samples have no
 // such form, and take float taps.
-constexpr bool takesWholeTaps(LumiDataType dataType, int channels) {
+constexpr bool takesIntegerTaps(LumiDataType dataType, int channels) {
   return dataType != lumiData16u && !(dataType == lumiData16s && channels > 2);
 }
 

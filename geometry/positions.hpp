@@ -72,7 +72,7 @@ inline bool sumReaches(double x, double addend, double n) {
   return (n - x) - halfStep <= addend;
 }
 
-// To a whole number, ties to even.
+// To an integer, ties to even.
 inline double roundedToEven(double x) {
   const double below = std::floor(x), part = x - below;
   const bool isOdd = std::floor(below * 0.5) * 2 != below;

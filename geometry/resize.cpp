@@ -15,6 +15,7 @@
 #include "kernels/geometry/resize_by_two.hpp"
 #include "kernels/geometry/resize_linear.hpp"
 #include "kernels/geometry/resize_nearest.hpp"
+#include "kernels/path_count.hpp"
 
 namespace lumi {
 namespace {
@@ -22,7 +23,7 @@ namespace {
 using namespace check;
 
 template <typename T>
-LumStatus wholeSteps(int srcStep, int dstStep) {
+LumStatus stepsOfSamples(int srcStep, int dstStep) {
   constexpr int kMask = sizeof(T) - 1;
   return ((srcStep | dstStep) & kMask) != 0 ? lumStatusBadStep : lumStatusOk;
 }
@@ -48,8 +49,18 @@ LumStatus runFault(const T* src, int srcStep, const T* dst, int dstStep, LumiPoi
                    const Opaque* object, const Lum8u* buffer, const Plan* plan,
                    LumiInterpolationType interpolation) {
   if (LumStatus fault = firstFault(pointers(src, dst, object, buffer), notZero(tile))) return fault;
-  return firstFault(identity(*plan), size(tile), wholeSteps<T>(srcStep, dstStep), offsetInside(*plan, offset),
-                    madeFor<T>(*plan, interpolation));
+  return firstFault(identity(*plan), size(tile), stepsOfSamples<T>(srcStep, dstStep),
+                    offsetInside(*plan, offset), madeFor<T>(*plan, interpolation));
+}
+
+// Builds that count paths also watch that no run takes more of its scratch than the query tells for its tile.
+template <typename Plan>
+void checkScratch([[maybe_unused]] const Plan& plan, [[maybe_unused]] LumiSize tile,
+                  [[maybe_unused]] int channels, [[maybe_unused]] const Lum8u* buffer,
+                  [[maybe_unused]] const Lum8u* end) {
+#ifdef LUMI_COUNT_PATHS
+  if (end - buffer > scratchBytes(plan, tile, channels)) std::abort();
+#endif
 }
 
 // A part of one axis of the destination.
@@ -72,20 +83,24 @@ LumStatus resizeNearest(const T* src, int srcStep, T* dst, int dstStep, LumiPoin
   const PickedColumns columns(plan->horizontal.index + dstOffset.x,
                               sourceStart(plan->horizontal, dstOffset.x), static_cast<size_t>(tile.width),
                               pixelBytes, buffer);
+  checkScratch(*plan, tile, Layout::kStored, buffer,
+               buffer + PickedColumns::scratchBytes(static_cast<size_t>(tile.width), pixelBytes));
   const auto from = rows(src, srcStep);
   const auto to = rows(dst, dstStep);
   const int32_t* const index = plan->vertical.index + dstOffset.y;
   const int32_t origin = sourceStart(plan->vertical, dstOffset.y);
-  // Rows that overlap one another are not copied, for the earlier one is no longer whole; nor long ones that
-  // are picked as fast, for their stores are still under way.
+  // Rows that overlap one another are not copied, for the later one has changed the earlier; nor long ones
+  // that are picked as fast, for their stores are still under way.
   constexpr size_t kStoresUnderWay = 4096;
   const bool apart = static_cast<size_t>(std::abs(int64_t{dstStep})) >= rowBytes;
   const bool copies = apart && !(columns.isDoubled() && rowBytes > kStoresUnderWay);
   for (int y = 0; y < tile.height; ++y) {
-    if (copies && y > 0 && index[y] == index[y - 1])
+    if (copies && y > 0 && index[y] == index[y - 1]) {
+      countPath(Path::NearestRowCopied);
       copyRow(to.row(y - 1), to.row(y), rowBytes);
-    else
+    } else {
       columns.pick(from.row(index[y] - origin), to.row(y));
+    }
   }
   return aboveWhole(*plan, dstSize);
 }
@@ -196,6 +211,8 @@ class LinearTile {
   // the other one goes to the scratch.
   void runDoubled(Lum8u* scratch) {
     const int column = middleColumns().index[0];
+    checkScratch(plan_, size_, channels, scratch,
+                 scratch + static_cast<ptrdiff_t>(middleX_.count()) * kPixel);
     const size_t phase = (offset_.x + middleX_.first) % 2 == 0 ? 1 : 0;
     for (int y = middleY_.first; y < middleY_.end; ++y) {
       const int row = rowIndex(y);
@@ -217,7 +234,10 @@ class LinearTile {
     Tables tables(buffer);
     Element* upper = tables.take<Element>(static_cast<int64_t>(samples + kRowSlack<T>), 32);
     Element* lower = tables.take<Element>(static_cast<int64_t>(samples + kRowSlack<T>), 32);
-    const Blender blender(middleColumns(), tables.take<Lum8u>(0));
+    const TileColumns<T> columns = middleColumns();
+    Lum8u* const blocks = tables.take<Lum8u>(static_cast<int64_t>(Blender::scratchBytes(columns.count)));
+    checkScratch(plan_, size_, channels, buffer, tables.take<Lum8u>(0));
+    const Blender blender(columns, blocks);
     int64_t held = INT64_MIN;  // the source row in `upper`; the next one is in `lower`
     for (int y = middleY_.first; y < middleY_.end; ++y) {
       const int row = rowIndex(y);

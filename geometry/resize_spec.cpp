@@ -109,7 +109,7 @@ PlanBytes antialiasingBytes(LumiInterpolationType interpolation, LumiSize src, L
   return {object, 8 * padded + kInitSize};
 }
 
-// Bytes of the weights of one axis: whole taps, with room for a start on any boundary.
+// Bytes of the weights of one axis, with room for a start on any boundary.
 int64_t tapBytes(int64_t positions, int taps, int spare) { return 4 * al32(taps * positions + spare); }
 
 PlanBytes planBytes(const ResizePlan*, LumiInterpolationType interpolation, bool antialiasing, LumiSize src,
@@ -139,15 +139,6 @@ PlanBytes planBytes(const ResizePlan*, LumiInterpolationType interpolation, bool
 PlanBytes planBytes(const ResizePlan64f*, LumiInterpolationType, bool, LumiSize, LumiSize dst) {
   const int64_t padded = al32(dst.width) + al32(dst.height);
   return {12 * padded + ResizePlan64f::kHeaderBytes + kObjectAlignment, kInitSize};
-}
-
-int64_t scratchBytes(const ResizePlan& plan, LumiSize tile, int64_t channels) {
-  return al32(int64_t{4} * tile.width) + al32(int64_t{4} * tile.height) +
-         2 * plan.verticalRadius * al32(4 * channels * tile.width) + 64;
-}
-
-int64_t scratchBytes(const ResizePlan64f&, LumiSize tile, int64_t channels) {
-  return 4 * (al32(tile.width) + al32(tile.height)) + 8 * channels * al32(int64_t{2} * tile.width + 32) + 64;
 }
 
 bool fitsInt(int64_t n) { return n <= INT32_MAX; }
@@ -224,6 +215,15 @@ void fillNearest(ResizeAxis& axis) {
 }
 
 }  // namespace
+
+int64_t scratchBytes(const ResizePlan& plan, LumiSize tile, int64_t channels) {
+  return al32(int64_t{4} * tile.width) + al32(int64_t{4} * tile.height) +
+         2 * plan.verticalRadius * al32(4 * channels * tile.width) + 64;
+}
+
+int64_t scratchBytes(const ResizePlan64f&, LumiSize tile, int64_t channels) {
+  return 4 * (al32(tile.width) + al32(tile.height)) + 8 * channels * al32(int64_t{2} * tile.width + 32) + 64;
+}
 
 template <typename Opaque>
 LumStatus planSize(LumiSize srcSize, LumiSize dstSize, LumiInterpolationType interpolation,

@@ -138,6 +138,10 @@ inline LumStatus notZero(LumiSize size) {
   return size.width == 0 || size.height == 0 ? lumStatusNothingToDo : lumStatusOk;
 }
 
+// Scratch that a run over a tile is given, as the query tells.
+int64_t scratchBytes(const ResizePlan& plan, LumiSize tile, int64_t channels);
+int64_t scratchBytes(const ResizePlan64f& plan, LumiSize tile, int64_t channels);
+
 // The operations on plans; Opaque is LumiResizeSpec or LumiResizeSpec64f.
 template <typename Opaque>
 LumStatus planSize(LumiSize srcSize, LumiSize dstSize, LumiInterpolationType interpolation,

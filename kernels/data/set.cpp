@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "kernels/data/set.hpp"
 
+#include "kernels/path_count.hpp"
 #include "kernels/simd/bytes.hpp"
 #include "kernels/simd/strings.hpp"
 
@@ -89,10 +90,9 @@ void fillRows(const PixelPattern& pattern, TargetRows dst, Extent bytes, bool st
   if constexpr (4 % pixelBytes == 0)
     if (length >= kStringFill)
       return eachRow([&](Byte* row) { fillByString<pixelBytes>(pattern, row, length); });
-  if (streaming)
-    eachRow([&](Byte* row) { fillLong<pixelBytes, Streaming>(pattern, row, length); });
-  else
-    eachRow([&](Byte* row) { fillLong<pixelBytes, Cached>(pattern, row, length); });
+  if (!streaming) return eachRow([&](Byte* row) { fillLong<pixelBytes, Cached>(pattern, row, length); });
+  countPath(Path::StreamingFill);
+  eachRow([&](Byte* row) { fillLong<pixelBytes, Streaming>(pattern, row, length); });
 }
 
 #define LUMI_PIXEL(bytes) template void fillRows<bytes>(const PixelPattern&, TargetRows, Extent, bool);

@@ -8,6 +8,7 @@
 
 #include "kernels/filters/filter_blocks.hpp"
 #include "kernels/filters/filter_columns.hpp"
+#include "kernels/path_count.hpp"
 #include "kernels/simd/filter.hpp"
 
 namespace lumi {
@@ -203,6 +204,7 @@ struct AsTheyAre {
 template <typename Divide>
 void filterWordSums(const FilterTaps& taps, FilterSource src, Byte* dst, size_t samples,
                     const Divide& divide) {
+  countPath(Path::FilterWordSums);
   inVectorBlocks(samples, [&](auto count, size_t i) {
     constexpr size_t bytes = kBlockVector<decltype(count)::value>;
     constexpr int vectors = decltype(count)::value * 2 / static_cast<int>(bytes);
@@ -223,7 +225,7 @@ using WideSum = std::conditional_t<sizeof(T) == 1, int32_t, int64_t>;
 template <typename T>
 WideSum<T> sumAt(const FilterTaps& taps, FilterSource src) {
   const ptrdiff_t column = src.channels * static_cast<ptrdiff_t>(sizeof(T));
-  const int16_t* tap = taps.whole + static_cast<ptrdiff_t>(taps.columns) * taps.rows;
+  const int16_t* tap = taps.integers + static_cast<ptrdiff_t>(taps.columns) * taps.rows;
   std::make_unsigned_t<WideSum<T>> sum = 0;
   for (int y = 0; y < taps.rows; ++y) {
     const Byte* p = src.first + y * src.step;
@@ -259,8 +261,8 @@ int64_t shifted(int64_t sum, const FilterRounding& r) {
 
 template <typename T>
 int64_t divided(int64_t sum, const FilterRounding& r) {
-  if (r.divisorKind == FilterRounding::One) return sum;
-  if (r.divisorKind == FilterRounding::PowerOfTwo) {
+  if (r.divisorClass == DivisorClass::One) return sum;
+  if (r.divisorClass == DivisorClass::PowerOfTwo) {
     if (std::is_unsigned_v<T> && sum < 1) return 0;
     return shifted(sum, r);
   }
@@ -291,7 +293,7 @@ void filterWideSmall(const FilterTaps& taps, const FilterRounding& rounding, Fil
     filterWide<uint8_t>(taps, rounding, src, dst, samples);
   else if (rounding.shift > 0)
     filterWordSums(taps, src, dst, samples, ByShift<int16_t>(rounding));
-  else if (rounding.divisorKind == FilterRounding::One)
+  else if (rounding.divisorClass == DivisorClass::One)
     filterWordSums(taps, src, dst, samples, AsTheyAre());
   else
     filterWordSums(taps, src, dst, samples, ByScale(rounding));
@@ -305,8 +307,8 @@ void filterNarrow(const FilterTaps& taps, const FilterRounding& rounding, Filter
     move<sizeof(T)>(dst + i * sizeof(T), reinterpret_cast<const Byte*>(&sample));
   };
   // To nearest, ties to even, both forms are the same but for divisors that are no power of two.
-  const bool asWide = rounding.divisorKind == FilterRounding::One ||
-                      (rounding.divisorKind == FilterRounding::PowerOfTwo && rounding.mode == 1);
+  const bool asWide = rounding.divisorClass == DivisorClass::One ||
+                      (rounding.divisorClass == DivisorClass::PowerOfTwo && rounding.mode == 1);
   if (packed && samples >= 8 && asWide) return filterWide<T>(taps, rounding, src, dst, samples);
   if (packed && samples >= 8)
     return inBlocks<8, 8>(samples, [&](auto, size_t first) {
@@ -321,7 +323,7 @@ void filterNarrow(const FilterTaps& taps, const FilterRounding& rounding, Filter
 template <typename T>
 void filterNarrowStrip(const FilterTaps& taps, const FilterRounding& rounding, FilterSource src,
                        FilterStrip dst) {
-  filterColumns<T, uint32_t>(taps, taps.whole, src, dst,
+  filterColumns<T, uint32_t>(taps, taps.integers, src, dst,
                              [&](uint32_t sum) { return sampleOf<T>(static_cast<int32_t>(sum), rounding); });
 }
 

@@ -11,15 +11,16 @@ namespace lumi {
 // turned and in pairs: (a, b) four times, and (a, 0) at the odd end of a row.
 struct FilterTaps {
   int columns, rows;
-  const int16_t* whole;
+  const int16_t* integers;
   const int16_t* packed;
   const float* floats;
 };
 
+enum class DivisorClass : int32_t { One, PowerOfTwo, Other };
+
 // How the sum of an integer kernel becomes a sample.
 struct FilterRounding {
-  enum Kind { One, PowerOfTwo, Other };
-  Kind divisorKind;
+  DivisorClass divisorClass;
   int divisor, shift, half, mask;
   float scale;
   double divisorD;

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "kernels/filters/filter_border.hpp"
+#include "kernels/path_count.hpp"
 #include "kernels/simd/bytes.hpp"
 
 namespace lumi {
@@ -15,6 +16,7 @@ namespace lumi {
 template <typename T, typename Sum, typename Tap, typename Finish>
 void filterColumns(const FilterTaps& taps, const Tap* kernel, FilterSource src, FilterStrip dst,
                    const Finish& finish) {
+  countPath(Path::FilterStrip);
   constexpr int kLine = 16;
   alignas(32) Sum columns[kMostStripColumns][kLine + kMostStripRows];
   const int across = dst.samples + (taps.columns - 1) * src.channels, below = taps.rows - 1;

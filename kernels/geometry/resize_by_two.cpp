@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "kernels/path_count.hpp"
 #include "kernels/simd/resize.hpp"
 
 namespace lumi {
@@ -175,6 +176,7 @@ void doublePart(const Byte* first, const Byte* second, Byte* nearFirst, Byte* ne
 
 template <typename T, int channels>
 void halveRows(const uint8_t* first, const uint8_t* second, uint8_t* dst, size_t count) {
+  countPath(Path::LinearHalved);
   using Block = Halves<T, channels>;
   constexpr size_t kStored = Block::kStored * sizeof(T), kUsed = Block::kUsed * sizeof(T);
   const size_t bytes = count * channels * sizeof(T);
@@ -193,6 +195,7 @@ void halveRows(const uint8_t* first, const uint8_t* second, uint8_t* dst, size_t
 template <typename T, int channels>
 void doubleRows(const uint8_t* first, const uint8_t* second, uint8_t* nearFirst, uint8_t* nearSecond,
                 size_t phase, size_t count) {
+  countPath(Path::LinearDoubled);
   using Block = Doubles<T, channels>;
   constexpr size_t kPixel = channels * sizeof(T), kUsed = 2 * Block::kGaps * kPixel;
   const size_t bytes = count * kPixel;

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 
+#include "kernels/path_count.hpp"
 #include "kernels/simd/pixels.hpp"
 #include "kernels/simd/resize.hpp"
 
@@ -172,6 +173,7 @@ size_t blendTwoWindows(Sources<n> src, Elements<n> rows, const uint8_t* blocks, 
 
 template <int n>
 void blendWindows(Sources<n> src, Elements<n> rows, const uint8_t* blocks, size_t count) {
+  countPath(Path::LinearByteWindows);
   size_t i = 0;
 #ifdef __AVX2__
   i = blendTwoWindows<n>(src, rows, blocks, count);
@@ -282,22 +284,28 @@ void storePixel(Byte* dst, uint32_t pixel) {
 }  // namespace
 
 template <int channels>
+size_t ColumnBlender<uint8_t, channels>::scratchBytes(size_t columns) {
+  static_assert(sizeof(WindowBlock) <= sizeof(GatherBlock<1>));
+  return (columns + kColumns<channels> - 1) / kColumns<channels> * sizeof(GatherBlock<channels>);
+}
+
+template <int channels>
 ColumnBlender<uint8_t, channels>::ColumnBlender(const TileColumns<uint8_t>& columns, uint8_t* scratch)
     : blocks_(scratch),
       blockCount_((columns.count + kColumns<channels> - 1) / kColumns<channels>),
-      wholeLoads_(blockCount_),
+      vectorBlocks_(blockCount_),
       unit_(kUnit<channels>) {
   if (channels == 1 && suitsWindows(columns)) {
     makeWindows(columns, scratch);
     return;
   }
-  if (channels == 1) wholeLoads_ = 0;
+  if (channels == 1) vectorBlocks_ = 0;
   if (channels == 3) {
     if (columnOf(columns, columns.count) > INT32_MAX / channels) unit_ = channels;
     const int32_t* const end = columns.index + columns.count;
     const int32_t last = end[-1];
     const auto beforeLast = static_cast<size_t>(std::lower_bound(columns.index, end, last) - columns.index);
-    wholeLoads_ = beforeLast / kColumns<channels>;
+    vectorBlocks_ = beforeLast / kColumns<channels>;
   }
   makeGathers<channels>(columns, unit_, scratch);
 }
@@ -306,9 +314,9 @@ template <int channels>
 template <int n, int unit>
 [[gnu::always_inline]] inline void ColumnBlender<uint8_t, channels>::blendGathered(
     const uint8_t* const (&src)[n], int16_t* const (&rows)[n]) const {
-  const size_t whole = channels == 1 ? blockCount_ : wholeLoads_;
-  blendGathers<channels, unit, n>(src, {rows}, blocks_, 0, whole);
-  if constexpr (channels == 3) blendLast<unit, n>(src, {rows}, blocks_, whole, blockCount_);
+  const size_t byVectors = channels == 1 ? blockCount_ : vectorBlocks_;
+  blendGathers<channels, unit, n>(src, {rows}, blocks_, 0, byVectors);
+  if constexpr (channels == 3) blendLast<unit, n>(src, {rows}, blocks_, byVectors, blockCount_);
 }
 
 template <int channels>
@@ -316,7 +324,7 @@ template <int n>
 [[gnu::always_inline]] inline void ColumnBlender<uint8_t, channels>::blendEach(
     const uint8_t* const (&src)[n], int16_t* const (&rows)[n]) const {
   if constexpr (channels == 1)
-    if (wholeLoads_ != 0) return blendWindows<n>(src, {rows}, blocks_, blockCount_);
+    if (vectorBlocks_ != 0) return blendWindows<n>(src, {rows}, blocks_, blockCount_);
   if constexpr (channels == 3)
     if (unit_ == channels) return blendGathered<n, channels>(src, rows);
   blendGathered<n, kUnit<channels>>(src, rows);

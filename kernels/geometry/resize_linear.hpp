@@ -56,7 +56,9 @@ inline constexpr size_t kRowSlack = sizeof(T) == 1 ? 15 : 0;
 template <typename T, int channels>
 class ColumnBlender {
  public:
-  // In scratch, at any address, are up to 4 bytes a column and 28 more.
+  // The most that so many columns take of scratch, which may be at any address.
+  static size_t scratchBytes(size_t columns);
+
   ColumnBlender(const TileColumns<T>& columns, uint8_t* scratch);
 
   void blend(const uint8_t* src, BlendElement<T>* row) const;
@@ -80,8 +82,8 @@ class ColumnBlender {
 template <int channels>
 class ColumnBlender<uint8_t, channels> {
  public:
-  // In scratch, at any address, are up to 48 bytes for each eight columns, of three and four channels 24
-  // bytes for each two.
+  static size_t scratchBytes(size_t columns);
+
   ColumnBlender(const TileColumns<uint8_t>& columns, uint8_t* scratch);
 
   void blend(const uint8_t* src, int16_t* row) const;
@@ -99,8 +101,8 @@ class ColumnBlender<uint8_t, channels> {
 
   const uint8_t* blocks_;
   size_t blockCount_;
-  size_t wholeLoads_;  // blocks from the first one on that are loaded in whole vectors
-  int unit_;           // bytes that blocks count source distances in
+  size_t vectorBlocks_;  // blocks from the first one on that are loaded in vectors
+  int unit_;             // bytes that blocks count source distances in
 };
 
 // The second stage: first + (second - first) * weight, rounded as the type wants it.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "kernels/geometry/resize_linear.hpp"
+#include "kernels/path_count.hpp"
 #include "kernels/simd/resize.hpp"
 
 namespace lumi {
@@ -129,9 +130,9 @@ BlendElement<T> blendSample(const Byte* pixel, int channel, BlendWeight<T> weigh
                  static_cast<E>(sampleAt<T>(sample + channels * sizeof(T))), weight);
 }
 
-// Columns that whole vectors may be loaded of: a 3-channel pixel with another one behind its neighbour.
+// Columns that vectors may be loaded of: a 3-channel pixel with another one behind its neighbour.
 template <typename T, int channels>
-size_t wholeColumns(const TileColumns<T>& columns) {
+size_t vectorColumns(const TileColumns<T>& columns) {
   if (channels == 4) return columns.count;
   const int32_t* const end = columns.index + columns.count;
   return static_cast<size_t>(std::lower_bound(columns.index, end, end[-1]) - columns.index);
@@ -187,6 +188,7 @@ void makeControls(const TileColumns<T>& columns, uint8_t* controls) {
 
 template <typename W, typename T>
 void blendWindows(const Byte* base, const TileColumns<T>& columns, const uint8_t* controls, float* row) {
+  countPath(Path::LinearFloatWindows);
   constexpr size_t kLanes = Gather<T>::kLanes;
   const int32_t* const index = columns.index;
   const float* const weights = columns.weights;
@@ -204,6 +206,12 @@ void blendWindows(const Byte* base, const TileColumns<T>& columns, const uint8_t
 }
 
 }  // namespace
+
+template <typename T, int channels>
+size_t ColumnBlender<T, channels>::scratchBytes(size_t columns) {
+  constexpr size_t kLanes = Gather<T>::kLanes, kControl = 4;
+  return channels == 1 && sizeof(T) <= 4 ? (columns + kLanes - 1) / kLanes * kLanes * kControl : 0;
+}
 
 template <typename T, int channels>
 ColumnBlender<T, channels>::ColumnBlender(const TileColumns<T>& columns, uint8_t* scratch)
@@ -237,7 +245,7 @@ void ColumnBlender<T, channels>::blend(const uint8_t* src, BlendElement<T>* row)
       store(row + x, blended(pair.first, pair.second, load(columns_.weights + x)));
     }
   } else {
-    for (const size_t whole = wholeColumns<T, channels>(columns_); x < whole; ++x) {
+    for (const size_t byVectors = vectorColumns<T, channels>(columns_); x < byVectors; ++x) {
       const Byte* const pixel = pixelOf<T, channels>(src, columns_, x);
       store(row + x * channels,
             blended(G::pixel(pixel), G::pixel(pixel + channels * sizeof(T)), G::weight(columns_.weights[x])));

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "kernels/path_count.hpp"
 #include "kernels/simd/resize.hpp"
 
 namespace lumi {
@@ -98,8 +99,8 @@ Bytes16 narrowBlockOf(const Byte* src, const Byte* windows) {
 
 template <Bytes16 (&blockAt)(const Byte*, const Byte*)>
 void pickByWindows(const Byte* src, Byte* dst, const Byte* windows, size_t columns, size_t pixelBytes) {
-  const size_t each = kBlock / pixelBytes, whole = columns / each;
-  for (size_t block = 0; block < whole; ++block, windows += sizeof(Windows))
+  const size_t each = kBlock / pixelBytes, full = columns / each;
+  for (size_t block = 0; block < full; ++block, windows += sizeof(Windows))
     store16(dst + block * kBlock, blockAt(src, windows));
   if (columns % each != 0) store16(dst + columns * pixelBytes - kBlock, blockAt(src, windows));
 }
@@ -158,6 +159,11 @@ void pickOneByOne(const Byte* src, Byte* dst, const int32_t* index, size_t colum
 
 }  // namespace
 
+size_t PickedColumns::scratchBytes(size_t columns, size_t pixelBytes) {
+  const size_t each = kBlock / pixelBytes;
+  return pixelBytes <= 2 ? (columns + each - 1) / each * sizeof(Windows) : 0;
+}
+
 PickedColumns::PickedColumns(const int32_t* index, int32_t origin, size_t columns, size_t pixelBytes,
                              uint8_t* scratch)
     : index_(index),
@@ -191,12 +197,14 @@ void PickedColumns::pickPixels(const uint8_t* src, uint8_t* dst) const {
     const Byte* const first = base + bytes(index_[0]);
     if (isHalved_) done = pickEvens<pixel>(first, dst, columns_);
     if (isDoubled_) done = pickTwice<pixel>(first, dst, columns_);
+    if (done != 0) countPath(isHalved_ ? Path::NearestHalved : Path::NearestDoubled);
   }
   pickOneByOne<pixel>(base, dst + done * pixel, index_ + done, columns_ - done, isClose_ && done == 0);
 }
 
 void PickedColumns::pick(const uint8_t* src, uint8_t* dst) const {
   if (windows_) {
+    countPath(Path::NearestWindows);
     return isNarrow_ ? pickByWindows<narrowBlockOf>(src, dst, windows_, columns_, pixelBytes_)
                      : pickByWindows<blockOf>(src, dst, windows_, columns_, pixelBytes_);
   }

@@ -7,9 +7,12 @@
 
 namespace lumi {
 
-// The columns of a tile. Kept in scratch, at any address, it takes up to 4 bytes a column and 64 more.
+// The columns of a tile.
 class PickedColumns {
  public:
+  // The most that so many columns take of scratch, which may be at any address.
+  static size_t scratchBytes(size_t columns, size_t pixelBytes);
+
   // Source column of each destination column; `origin` is the source column that rows begin with.
   PickedColumns(const int32_t* index, int32_t origin, size_t columns, size_t pixelBytes, uint8_t* scratch);
 

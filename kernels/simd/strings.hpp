@@ -3,6 +3,7 @@
 // They work by dwords, which every processor of the level moves in whole cache lines.
 #pragma once
 
+#include "kernels/path_count.hpp"
 #include "kernels/simd/bytes.hpp"
 
 namespace lumi::simd {
@@ -26,6 +27,7 @@ inline void moveDwords(uint8_t* to, const uint8_t* from, size_t count) {
 
 // At least one vector; the ends go unaligned.
 inline void copyByString(const Byte* src, Byte* dst, size_t bytes) {
+  countPath(Path::StringMove);
   const Bytes32 first = load32(src), last = load32(src + bytes - sizeof(Bytes32));
   const size_t head = reachPastBoundary(dst, sizeof(Bytes32));
   moveDwords(dst + head, src + head, (bytes - head) / 4);
@@ -34,6 +36,7 @@ inline void copyByString(const Byte* src, Byte* dst, size_t bytes) {
 }
 
 inline void storeDwords(uint8_t* to, uint32_t value, size_t count) {
+  countPath(Path::StringFill);
 #ifdef LUMI_STRING_LOOPS
   for (size_t i = 0; i < count; ++i) std::memcpy(to + 4 * i, &value, 4);
 #else

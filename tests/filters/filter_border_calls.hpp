@@ -32,15 +32,15 @@ model::Image imageOf(std::vector<T>& samples, int step) {
 
 inline LumStatus getSize(const FilterKernel& k, LumiDataType type, int channels, LumiSize area,
                          int* specBytes, int* bufferBytes) {
-  const LumiDataType taps = k.whole.empty() ? lumiData32f : lumiData16s;
+  const LumiDataType taps = k.integers.empty() ? lumiData32f : lumiData16s;
   return lumiFilterBorderGetSize(k.size, area, type, taps, channels, specBytes, bufferBytes);
 }
 
 inline LumStatus init(const FilterKernel& k, LumiDataType type, int channels, Byte* spec) {
   auto* const object = reinterpret_cast<LumiFilterBorderSpec*>(spec);
-  return k.whole.empty()
+  return k.integers.empty()
              ? lumiFilterBorderInit_32f(k.floats.data(), k.size, type, channels, k.roundMode, object)
-             : lumiFilterBorderInit_16s(k.whole.data(), k.size, k.divisor, type, channels, k.roundMode,
+             : lumiFilterBorderInit_16s(k.integers.data(), k.size, k.divisor, type, channels, k.roundMode,
                                         object);
 }
 

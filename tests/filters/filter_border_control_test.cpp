@@ -43,7 +43,7 @@ template <typename T>
 void compareModes(const FilterKernel& kernel, Random& random) {
   for (const int channels : filter::kChannels) {
     // Then the taps become floats, which are rounded.
-    if (!kernel.whole.empty() && sizeof(T) == 2 && channels != 1) continue;
+    if (!kernel.integers.empty() && sizeof(T) == 2 && channels != 1) continue;
     std::vector<T> src(static_cast<size_t>(kRoi.width * kRoi.height * channels));
     for (T& sample : src) sample = static_cast<T>(random.below(256));
     const std::vector<T> usual = filtered(kernel, channels, src, kControls[0], kControls[0]);
@@ -51,7 +51,7 @@ void compareModes(const FilterKernel& kernel, Random& random) {
       for (const unsigned atRun : kControls)
         ASSERT_TRUE(filtered(kernel, channels, src, atInit, atRun) == usual)
             << "samples of " << sizeof(T) << " bytes, C" << channels << ", kernel " << kernel.size.width
-            << "x" << kernel.size.height << (kernel.whole.empty() ? " of floats" : " of integers")
+            << "x" << kernel.size.height << (kernel.integers.empty() ? " of floats" : " of integers")
             << ", divisor " << kernel.divisor << ", mode " << kernel.roundMode << ", control " << atInit
             << " at Init and " << atRun << " at the run";
   }
@@ -81,8 +81,8 @@ TEST(FilterBorderControl, QuotientsOfIntegersRoundToNearestInEveryMode) {
     for (const int divisor : {1, 2, 16, 3, 7, 255})
       for (const LumiSize size : {LumiSize{3, 3}, {5, 1}}) {
         FilterKernel kernel{size, {}, {}, divisor, random.below(3)};
-        kernel.whole.resize(static_cast<size_t>(size.width * size.height));
-        for (Lum16s& tap : kernel.whole) tap = static_cast<Lum16s>(random.between(-2, 9));
+        kernel.integers.resize(static_cast<size_t>(size.width * size.height));
+        for (Lum16s& tap : kernel.integers) tap = static_cast<Lum16s>(random.between(-2, 9));
         compareModes<Lum8u>(kernel, random);
         compareModes<Lum16s>(kernel, random);
         if (HasFatalFailure()) return;

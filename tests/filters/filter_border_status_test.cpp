@@ -102,6 +102,15 @@ TEST(FilterBorderStatus, SizesAreTheFormulas) {
       {{3, 3}, {40, 30}, lumiData8u, lumiData16s, 2, 128 + 64 + 191, 63 + 1920},
       // 16 * floor((36 + 40 + 3) / 4) = 304 -> 320; padded(14) * 30
       {{3, 3}, {40, 30}, lumiData16s, lumiData16s, 1, 128 + 64 + 191, 63 + 320 + 1920},
+      // integer taps of two channels stay integers, 5 x 7 of them: 3 * 16 * 7 = 336 -> 384, 70 -> 128 where
+      // floats
+      // would take 140 -> 192; no scratch; 12 * padded(176) = 2304, padded(13 * 4) * 30 = 1920
+      {{5, 7}, {40, 30}, lumiData16s, lumiData16s, 2, 384 + 128 + 191, 63 + 2304},
+      // of three and four they become floats: 140 -> 192; 16 * floor((140 + 240 + 10) / 4) = 1552 -> 1600;
+      // 12 * padded(264) = 3840, padded(78) * 30
+      {{5, 7}, {40, 30}, lumiData16s, lumiData16s, 3, 384 + 192 + 191, 63 + 1600 + 3840},
+      // 4 * (140 + 320) = 1840 -> 1856; 12 * padded(352) = 4608, padded(104) * 30
+      {{5, 7}, {40, 30}, lumiData16s, lumiData16s, 4, 384 + 192 + 191, 63 + 1856 + 4608},
       // as for float taps: 36 -> 64; 16 * floor((36 + 240 + 10) / 4) = 1136 -> 1152; padded(42) * 30
       {{3, 3}, {40, 30}, lumiData16s, lumiData16s, 3, 128 + 64 + 191, 63 + 1152 + 1920},
       // 5 x 5 taps: 240 -> 256, 100 -> 128; 16 * floor(50 / 4) = 192; 8 * padded(88) = 1024
@@ -129,7 +138,7 @@ constexpr size_t kSpecBytes = 4096;
 
 template <typename T>
 struct Init {
-  Lum16s whole[15] = {};
+  Lum16s integers[15] = {};
   Lum32f floats[15] = {};
   LumiSize size{3, 5};
   int divisor = 7;
@@ -148,7 +157,7 @@ struct Init {
 };
 
 LumStatus call(Init<Lum16s>& i) {
-  return lumiFilterBorderInit_16s(i.nullKernel ? nullptr : i.whole, i.size, i.divisor, i.type, i.channels,
+  return lumiFilterBorderInit_16s(i.nullKernel ? nullptr : i.integers, i.size, i.divisor, i.type, i.channels,
                                   i.mode, i.object());
 }
 LumStatus call(Init<Lum32f>& i) {

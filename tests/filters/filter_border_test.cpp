@@ -43,7 +43,7 @@ struct Trial {
 std::string describe(const Trial& t, int channels) {
   std::ostringstream out;
   out << "C" << channels << " kernel " << t.kernel.size.width << "x" << t.kernel.size.height
-      << (t.kernel.whole.empty() ? " float" : " whole / ") << t.kernel.divisor << " mode "
+      << (t.kernel.integers.empty() ? " float" : " integers / ") << t.kernel.divisor << " mode "
       << t.kernel.roundMode << " roi " << t.roi.width << "x" << t.roi.height << " border " << t.border
       << " gaps " << t.srcGap << " " << t.dstGap << " atEnd " << t.atEnd << " phases " << t.specPhase << " "
       << t.bufferPhase;
@@ -152,10 +152,10 @@ class Bench {
 // Few: magnitudes that add up to 127, 128 or 129, for which 8-bit images may be summed in 16 bits.
 enum class Taps { Small, Any, Unpacked, Weights, Few };
 
-FilterKernel wholeKernel(Random& random, LumiSize size, Taps taps, int divisor) {
+FilterKernel integerKernel(Random& random, LumiSize size, Taps taps, int divisor) {
   FilterKernel k{size, {}, {}, divisor, random.below(3)};
-  k.whole.resize(static_cast<size_t>(size.width * size.height));
-  for (Lum16s& tap : k.whole) {
+  k.integers.resize(static_cast<size_t>(size.width * size.height));
+  for (Lum16s& tap : k.integers) {
     if (taps == Taps::Small) tap = static_cast<Lum16s>(random.between(-9, 9));
     if (taps == Taps::Weights) tap = static_cast<Lum16s>(random.between(0, 20));
     if (taps == Taps::Any || taps == Taps::Unpacked) tap = static_cast<Lum16s>(random.between(-32767, 32766));
@@ -165,16 +165,16 @@ FilterKernel wholeKernel(Random& random, LumiSize size, Taps taps, int divisor) 
     const int sum = random.between(126, 129), most = random.pick(std::vector<int>{1, 40, 129});
     for (int left = sum; left > 0;) {
       const int more = std::min(left, random.between(1, most)),
-                at = random.below(static_cast<int>(k.whole.size()));
-      Lum16s& tap = k.whole[static_cast<size_t>(at)];
+                at = random.below(static_cast<int>(k.integers.size()));
+      Lum16s& tap = k.integers[static_cast<size_t>(at)];
       const int direction = tap != 0 ? tap : sign != 0 ? sign : random.between(0, 1) * 2 - 1;
       tap = static_cast<Lum16s>(direction < 0 ? tap - more : tap + more);
       left -= more;
     }
   }
   if (taps == Taps::Unpacked) {
-    const int at = random.below(static_cast<int>(k.whole.size()));
-    k.whole[static_cast<size_t>(at)] = random.oneIn(2) ? Lum16s{-32768} : Lum16s{32767};
+    const int at = random.below(static_cast<int>(k.integers.size()));
+    k.integers[static_cast<size_t>(at)] = random.oneIn(2) ? Lum16s{-32768} : Lum16s{32767};
   }
   return k;
 }
@@ -250,15 +250,15 @@ TYPED_TEST(FilterBorder, FloatKernels) {
         this->expectModel(channels, anyTrial(this->random_, floatKernel(this->random_, size)));
 }
 
-TYPED_TEST(FilterBorder, WholeKernels) {
+TYPED_TEST(FilterBorder, IntegerKernels) {
   if constexpr (std::is_integral_v<TypeParam>) {
     for (const LumiSize size : kKernels)
       for (const int channels : filter::kChannels)
         for (int i = 0; i < settings().scaled(80) && !this->HasFailure(); ++i) {
           const auto taps = this->random_.pick(std::vector<Taps>{Taps::Small, Taps::Small, Taps::Any,
                                                                  Taps::Unpacked, Taps::Weights, Taps::Few});
-          this->expectModel(channels, anyTrial(this->random_, wholeKernel(this->random_, size, taps,
-                                                                          this->random_.pick(kDivisors))));
+          this->expectModel(channels, anyTrial(this->random_, integerKernel(this->random_, size, taps,
+                                                                            this->random_.pick(kDivisors))));
         }
   } else {
     LumiFilterBorderSpec* const never = reinterpret_cast<LumiFilterBorderSpec*>(this);
@@ -274,7 +274,7 @@ TYPED_TEST(FilterBorder, LongRows) {
       Trial t{floatKernel(this->random_, {9, 2}), {width, 3}, lumiBorderReplicate};
       this->expectModel(channels, t);
       if (std::is_floating_point_v<TypeParam>) continue;
-      t.kernel = wholeKernel(this->random_, {5, 2}, Taps::Small, 16);
+      t.kernel = integerKernel(this->random_, {5, 2}, Taps::Small, 16);
       this->expectModel(channels, t);
     }
 }
@@ -286,7 +286,7 @@ TYPED_TEST(FilterBorder, ObjectAndBufferAtEveryPhase) {
       for (const LumiSize size : {LumiSize{3, 3}, LumiSize{9, 4}}) {
         Trial t{floatKernel(this->random_, size), {21, 8}, lumiBorderReplicate};
         if (std::is_integral_v<TypeParam> && phase % 2)
-          t.kernel = wholeKernel(this->random_, size, Taps::Small, 9);
+          t.kernel = integerKernel(this->random_, size, Taps::Small, 9);
         t.atEnd = atEnd;
         t.specPhase = phase, t.bufferPhase = 63 - phase;
         this->expectModel(1, t);
@@ -337,7 +337,7 @@ TYPED_TEST(FilterBorder, ThreadsShareAnObject) {
   for (const int differs : differing) EXPECT_EQ(differs, 0);
 }
 
-class FilterBorderWhole : public testing::Test {
+class FilterBorderIntegers : public testing::Test {
  protected:
   template <typename T>
   std::vector<T> filter(const FilterKernel& k, LumiSize roi, std::vector<T> src) {
@@ -353,7 +353,7 @@ class FilterBorderWhole : public testing::Test {
   }
 };
 
-TEST_F(FilterBorderWhole, EdgesFollowTheRoundModeAndTheCentreDoesNot) {
+TEST_F(FilterBorderIntegers, EdgesFollowTheRoundModeAndTheCentreDoesNot) {
   const FilterKernel k{{3, 1}, {0, 5, 0}, {}, 3, lumRoundTowardZero};
   const auto dst = filter<Lum8u>(k, {64, 1}, std::vector<Lum8u>(64, 1));  // 5 / 3
   EXPECT_EQ(dst.front(), 1);
@@ -361,13 +361,13 @@ TEST_F(FilterBorderWhole, EdgesFollowTheRoundModeAndTheCentreDoesNot) {
   EXPECT_EQ(std::count(dst.begin() + 1, dst.end() - 1, 2), 62);
 }
 
-TEST_F(FilterBorderWhole, TheKernelIsTurned) {
+TEST_F(FilterBorderIntegers, TheKernelIsTurned) {
   const FilterKernel k{{2, 2}, {1, 2, 3, 4}, {}, 1, 0};
   const auto dst = filter<Lum8u>(k, {4, 4}, {0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0});
   EXPECT_EQ(dst, (std::vector<Lum8u>{0, 0, 0, 0, 0, 1, 2, 0, 0, 3, 4, 0, 0, 0, 0, 0}));
 }
 
-TEST_F(FilterBorderWhole, TapsAtTheLimitsTakeTheNarrowForm) {
+TEST_F(FilterBorderIntegers, TapsAtTheLimitsTakeTheNarrowForm) {
   for (const Lum16s tap : {Lum16s{-32768}, Lum16s{32767}, Lum16s{-32767}, Lum16s{32766}}) {
     const bool packs = tap == -32767 || tap == 32766;
     const FilterKernel k{{3, 1}, {0, tap, 0}, {}, tap > 0 ? 20000 : -20000, lumRoundTowardZero};
@@ -377,7 +377,7 @@ TEST_F(FilterBorderWhole, TapsAtTheLimitsTakeTheNarrowForm) {
   }
 }
 
-TEST_F(FilterBorderWhole, SumsOf16sAreWideUpToTheLimitOfTheirMagnitudes) {
+TEST_F(FilterBorderIntegers, SumsOf16sAreWideUpToTheLimitOfTheirMagnitudes) {
   for (const int last : {4, 5}) {  // 65534 and 65535
     const auto tail = static_cast<Lum16s>(-last);
     const FilterKernel k{{3, 1}, {-32765, -32765, tail}, {}, -131000, lumRoundTowardZero};
@@ -388,14 +388,14 @@ TEST_F(FilterBorderWhole, SumsOf16sAreWideUpToTheLimitOfTheirMagnitudes) {
   }
 }
 
-TEST_F(FilterBorderWhole, ANegativeDivisorTurnsTheSign) {
+TEST_F(FilterBorderIntegers, ANegativeDivisorTurnsTheSign) {
   const FilterKernel k{{3, 3}, std::vector<Lum16s>(9, 1), {}, -1, lumRoundNearestEven};
   EXPECT_EQ(filter<Lum8u>(k, {40, 5}, std::vector<Lum8u>(200, 9)), std::vector<Lum8u>(200, 0));
   EXPECT_EQ(filter<Lum16s>(k, {40, 5}, std::vector<Lum16s>(200, 9)), std::vector<Lum16s>(200, -81));
 }
 
 // A bias on top of the largest sum would not fit into 32 bits.
-TEST_F(FilterBorderWhole, LargestSumsAreRoundedExactly) {
+TEST_F(FilterBorderIntegers, LargestSumsAreRoundedExactly) {
   const FilterKernel k{{4, 1}, {-32767, -32767, 0, 0}, {}, 1 << 17, lumRoundNearestEven};
   const auto dst = filter<Lum16s>(k, {32, 1}, std::vector<Lum16s>(32, -32768));
   EXPECT_EQ(dst, std::vector<Lum16s>(32, 16384));  // 16383.5

@@ -15,7 +15,7 @@ namespace model {
 // As the initialisers take it; one list of taps is empty.
 struct FilterKernel {
   LumiSize size;
-  std::vector<Lum16s> whole;
+  std::vector<Lum16s> integers;
   std::vector<Lum32f> floats;
   int divisor;
   LumRoundMode roundMode;
@@ -50,20 +50,20 @@ inline FilterRectangle rectangleOf(const FilterKernel& k, const FilterImage& ima
   return {w - k.size.width + 1, true};
 }
 
-// Whole taps are turned into floats where there is no form for them.
+// Integer taps are turned into floats where there is no form for them.
 template <typename T>
-bool isWhole(const FilterKernel& k, int channels) {
-  if (k.whole.empty()) return false;
+bool isInteger(const FilterKernel& k, int channels) {
+  if (k.integers.empty()) return false;
   return sizeof(T) == 1 || (std::is_same_v<T, Lum16s> && channels < 3);
 }
 
 template <typename T>
 FilterForm formOf(const FilterKernel& k, int channels, int width) {
   bool wide = false;
-  if (isWhole<T>(k, channels)) {
+  if (isInteger<T>(k, channels)) {
     bool fits = true;
     int64_t magnitudes = 0;
-    for (const int tap : k.whole) {
+    for (const int tap : k.integers) {
       if (tap < -32767 || tap > 32766) fits = false;
       magnitudes += std::abs(tap);
     }
@@ -194,12 +194,12 @@ inline size_t tapOf(const FilterKernel& k, int x, int y) {
 }
 
 template <typename T>
-T filterWhole(const FilterKernel& k, const FilterImage& image, const T* value, int px, int py, int c) {
+T filterIntegers(const FilterKernel& k, const FilterImage& image, const T* value, int px, int py, int c) {
   const FilterRectangle rectangle = rectangleOf(k, image, px, py);
   int64_t sum = 0;
   for (int y = 0; y < k.size.height; ++y)
     for (int x = 0; x < k.size.width; ++x)
-      sum += int64_t{k.whole[tapOf(k, x, y)]} *
+      sum += int64_t{k.integers[tapOf(k, x, y)]} *
              static_cast<int64_t>(sampleUnder(image, k, value, rectangle.direct, px + x - k.size.width / 2,
                                               py + y - k.size.height / 2, c));
   if (sizeof(T) == 1) sum = static_cast<int32_t>(static_cast<uint32_t>(sum));
@@ -219,7 +219,8 @@ T filterFloats(const FilterKernel& k, const FilterImage& image, const T* value, 
   for (int y = 0; y < k.size.height; ++y)
     for (int x = 0; x < k.size.width; ++x) {
       const size_t at = tapOf(k, x, y);
-      const float tap = k.whole.empty() ? k.floats[at] : static_cast<float>((1.0 / k.divisor) * k.whole[at]);
+      const float tap =
+          k.integers.empty() ? k.floats[at] : static_cast<float>((1.0 / k.divisor) * k.integers[at]);
       const float product =
           tap * static_cast<float>(sampleUnder(image, k, value, rectangle.direct, px + x - k.size.width / 2,
                                                py + y - k.size.height / 2, c));
@@ -239,8 +240,8 @@ void filterBorder(const FilterKernel& k, const FilterImage& image, const T* valu
       for (int c = 0; c < image.channels; ++c) {
         T result{};
         if constexpr (std::is_integral_v<T>) {
-          result = isWhole<T>(k, image.channels) ? filterWhole(k, image, value, x, y, c)
-                                                 : filterFloats(k, image, value, x, y, c);
+          result = isInteger<T>(k, image.channels) ? filterIntegers(k, image, value, x, y, c)
+                                                   : filterFloats(k, image, value, x, y, c);
         } else {
           result = filterFloats(k, image, value, x, y, c);
         }

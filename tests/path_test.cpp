@@ -1,0 +1,244 @@
+// SPDX-License-Identifier: MIT
+// Fast paths are taken where they should be, and not beyond. No result tells: every path stores the same.
+// Only builds that count paths have these tests.
+#ifdef LUMI_COUNT_PATHS
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <atomic>
+#include <climits>
+#include <vector>
+
+#include "filters/filter_border_calls.hpp"
+#include "geometry/resize_calls.hpp"
+#include "kernels/path_count.hpp"
+#include "lumi/copy.h"
+#include "lumi/set.h"
+#include "support/core_guard.hpp"
+
+namespace {
+
+std::atomic<int> counts[64];
+
+}  // namespace
+
+extern "C" void lumiPathTaken(int path) { ++counts[path]; }
+
+namespace test {
+namespace {
+
+using lumi::Path;
+
+// How often a call takes a path.
+template <typename Call>
+int taken(Path path, const Call& call) {
+  std::atomic<int>& count = counts[static_cast<int>(path)];
+  const int before = count;
+  EXPECT_EQ(call(), lumStatusOk);
+  return count - before;
+}
+
+TEST(Paths, LongCopiesMoveStrings) {
+  std::vector<Lum8u> src(0x7000), dst(0x7000);
+  const auto copies = [&](int width) {
+    return taken(Path::StringMove, [&] {
+      return lumiCopy_8u_C1R(src.data(), width, dst.data(), width, {width, 1});
+    });
+  };
+  EXPECT_EQ(copies(0x7000), 1);
+  EXPECT_EQ(copies(0x7000 - 1), 0);
+}
+
+TEST(Paths, LongFillsStoreStrings) {
+  std::vector<Lum8u> dst(0x180000);
+  const auto fills = [&](int width) {
+    return taken(Path::StringFill, [&] { return lumiSet_8u_C1R(7, dst.data(), width, {width, 1}); });
+  };
+  EXPECT_EQ(fills(0x180000), 1);
+  EXPECT_EQ(fills(0x180000 - 1), 0);
+}
+
+TEST(Paths, FillsBeyondTheCacheStream) {
+  const CoreGuard guard;
+  const Lum8u value[3] = {1, 2, 3};
+  std::vector<Lum8u> dst((1 << 20) + 3);
+  const auto fills = [&](int bytes) {
+    return taken(Path::StreamingFill, [&] {
+      return lumiSet_8u_C3R(value, dst.data(), bytes, {bytes / 3, 1});
+    });
+  };
+  testcore::setCacheSize(1 << 20);
+  EXPECT_EQ(fills((1 << 20) + 2), 1);  // a multiple of 3
+  EXPECT_EQ(fills((1 << 20) - 1), 0);
+  testcore::setCacheSize((1 << 20) + 3);
+  EXPECT_EQ(fills((1 << 20) + 2), 0);
+}
+
+// How often a resize takes a path: of the first columns, or of all.
+int resizes(Path path, const std::string& kind, const std::string& type, int channels, LumiSize src,
+            LumiSize dst, int dstStep = 0, int columns = 0) {
+  const resize::PlanMemory plan(kind, type, src, dst);
+  const int pixel = resize::sampleBytes(type) * channels;
+  if (dstStep == 0) dstStep = dst.width * pixel;
+  std::vector<Lum8u> from(static_cast<size_t>(src.width * src.height * pixel));
+  std::vector<Lum8u> to(static_cast<size_t>(dst.width * dst.height * pixel));
+  Lum32s bytes = 0;
+  EXPECT_EQ(resize::getBufferSize(type, plan.at, dst, channels, &bytes).run(), lumStatusOk);
+  std::vector<Lum8u> scratch(static_cast<size_t>(bytes));
+  NamedCall call = resize::apply(kind, type, channels, {0, 0},
+                                 {columns == 0 ? dst.width : columns, dst.height}, plan.at, scratch.data());
+  call.image("src", from.data(), src.width * pixel).image("dst", to.data(), dstStep);
+  return taken(path, [&] { return call.run(); });
+}
+
+// Blocks of sixteen bytes, with a pixel behind the last one.
+TEST(Paths, NearestHalves) {
+  const auto halves = [](const std::string& type, int channels, LumiSize src, LumiSize dst) {
+    return resizes(Path::NearestHalved, "Nearest", type, channels, src, dst);
+  };
+  EXPECT_EQ(halves("8u", 1, {34, 3}, {17, 3}), 3);
+  EXPECT_EQ(halves("8u", 1, {32, 3}, {16, 3}), 0);
+  EXPECT_EQ(halves("16s", 1, {18, 3}, {9, 3}), 3);
+  EXPECT_EQ(halves("16s", 1, {16, 3}, {8, 3}), 0);
+  EXPECT_EQ(halves("8u", 4, {10, 3}, {5, 3}), 3);
+  EXPECT_EQ(halves("8u", 4, {8, 3}, {4, 3}), 0);
+  EXPECT_EQ(halves("8u", 3, {34, 3}, {17, 3}), 0);
+  EXPECT_EQ(halves("8u", 1, {35, 3}, {17, 3}), 0);
+}
+
+TEST(Paths, NearestDoubles) {
+  const auto doubles = [](const std::string& type, int channels, LumiSize src, LumiSize dst) {
+    return resizes(Path::NearestDoubled, "Nearest", type, channels, src, dst);
+  };
+  EXPECT_EQ(doubles("8u", 1, {16, 3}, {32, 3}), 3);
+  EXPECT_EQ(doubles("8u", 1, {15, 3}, {30, 3}), 0);
+  EXPECT_EQ(doubles("16u", 1, {8, 3}, {16, 3}), 3);
+  EXPECT_EQ(doubles("32f", 1, {4, 3}, {8, 3}), 3);
+  EXPECT_EQ(doubles("8u", 3, {16, 3}, {32, 3}), 0);
+  EXPECT_EQ(doubles("8u", 1, {17, 3}, {32, 3}), 0);
+  // 33 columns are in pairs but for the last one, which is alone; its neighbour in the plan would not be its
+  // pair.
+  const auto first = [](int columns) {
+    return resizes(Path::NearestDoubled, "Nearest", "8u", 1, {64, 3}, {126, 3}, 0, columns);
+  };
+  EXPECT_EQ(first(33), 3);
+  EXPECT_EQ(first(34), 0);
+}
+
+// Blocks of sixteen bytes from 32 bytes of the source.
+TEST(Paths, NearestPicksFromWindows) {
+  const auto picks = [](const std::string& type, int channels, LumiSize src, LumiSize dst) {
+    return resizes(Path::NearestWindows, "Nearest", type, channels, src, dst);
+  };
+  EXPECT_EQ(picks("8u", 1, {24, 3}, {16, 3}), 3);
+  EXPECT_EQ(picks("8u", 1, {23, 3}, {15, 3}), 0);
+  EXPECT_EQ(picks("16u", 1, {12, 3}, {8, 3}), 3);
+  EXPECT_EQ(picks("8u", 1, {33, 3}, {16, 3}), 3);
+  EXPECT_EQ(picks("8u", 1, {36, 3}, {16, 3}), 0);
+  EXPECT_EQ(picks("8u", 1, {15, 3}, {20, 3}), 0);
+  EXPECT_EQ(picks("32f", 1, {24, 3}, {16, 3}), 0);
+}
+
+// Equal rows are copied, but for long ones that are doubled, and rows that overlap.
+TEST(Paths, NearestCopiesRows) {
+  const auto copies = [](LumiSize src, LumiSize dst, int dstStep = 0) {
+    return resizes(Path::NearestRowCopied, "Nearest", "8u", 1, src, dst, dstStep);
+  };
+  EXPECT_EQ(copies({24, 2}, {16, 6}), 4);
+  EXPECT_EQ(copies({24, 6}, {16, 6}), 0);
+  EXPECT_EQ(copies({24, 2}, {16, 6}, 15), 0);
+  EXPECT_EQ(copies({2048, 1}, {4096, 2}), 1);
+  EXPECT_EQ(copies({2049, 1}, {4098, 2}), 0);
+  EXPECT_EQ(copies({4098, 1}, {4098, 2}), 1);
+}
+
+TEST(Paths, LinearHalves) {
+  const auto halves = [](const std::string& type, int channels, LumiSize src, LumiSize dst) {
+    return resizes(Path::LinearHalved, "Linear", type, channels, src, dst) > 0;
+  };
+  for (const int channels : resize::kChannels) EXPECT_TRUE(halves("8u", channels, {40, 12}, {20, 6}));
+  for (const std::string type : {"16u", "16s", "32f"}) {
+    EXPECT_TRUE(halves(type, 1, {40, 12}, {20, 6})) << type;
+    EXPECT_FALSE(halves(type, 3, {40, 12}, {20, 6})) << type;
+  }
+  EXPECT_FALSE(halves("8u", 1, {40, 12}, {20, 5}));
+  EXPECT_FALSE(halves("8u", 1, {41, 12}, {20, 6}));
+  EXPECT_FALSE(halves("64f", 1, {40, 12}, {20, 6}));
+}
+
+TEST(Paths, LinearDoubles) {
+  const auto doubles = [](const std::string& type, int channels, LumiSize src, LumiSize dst) {
+    return resizes(Path::LinearDoubled, "Linear", type, channels, src, dst) > 0;
+  };
+  for (const int channels : resize::kChannels) EXPECT_TRUE(doubles("8u", channels, {20, 6}, {40, 12}));
+  EXPECT_TRUE(doubles("32f", 1, {20, 6}, {40, 12}));
+  EXPECT_FALSE(doubles("32f", 3, {20, 6}, {40, 12}));
+  EXPECT_FALSE(doubles("16u", 1, {20, 6}, {40, 12}));
+  EXPECT_FALSE(doubles("8u", 1, {20, 6}, {40, 11}));
+  EXPECT_FALSE(doubles("8u", 1, {20, 6}, {41, 12}));
+}
+
+// Eight columns from sixteen bytes; columns whose taps span less than that have none.
+TEST(Paths, LinearBytesPickFromWindows) {
+  const auto picks = [](int channels, LumiSize src, LumiSize dst) {
+    return resizes(Path::LinearByteWindows, "Linear", "8u", channels, src, dst) > 0;
+  };
+  EXPECT_TRUE(picks(1, {80, 6}, {40, 5}));
+  EXPECT_FALSE(picks(1, {88, 6}, {40, 5}));
+  EXPECT_TRUE(picks(1, {16, 6}, {24, 5}));
+  EXPECT_FALSE(picks(1, {15, 6}, {24, 5}));
+  EXPECT_FALSE(picks(3, {40, 6}, {36, 5}));
+}
+
+// Four columns from eight samples, eight columns at a time.
+TEST(Paths, LinearFloatsPickFromWindows) {
+  const auto picks = [](const std::string& type, int channels, LumiSize src, LumiSize dst) {
+    return resizes(Path::LinearFloatWindows, "Linear", type, channels, src, dst) > 0;
+  };
+  for (const std::string type : {"16u", "16s", "32f"}) {
+    EXPECT_TRUE(picks(type, 1, {80, 6}, {40, 5})) << type;
+    EXPECT_FALSE(picks(type, 1, {96, 6}, {40, 5})) << type;
+    EXPECT_TRUE(picks(type, 1, {9, 6}, {8, 5})) << type;
+    EXPECT_FALSE(picks(type, 1, {8, 6}, {7, 5})) << type;
+    EXPECT_FALSE(picks(type, 3, {60, 6}, {40, 5})) << type;
+  }
+  EXPECT_FALSE(picks("64f", 1, {60, 6}, {40, 5}));
+}
+
+// How often filtering a byte image takes a path.
+int filters(Path path, std::vector<Lum16s> taps, LumiSize roi) {
+  const model::FilterKernel kernel{{3, 3}, std::move(taps), {}, 16, lumRoundNearestEven};
+  filter::Work work(kernel, lumiData8u, 1, roi);
+  std::vector<Lum8u> src(static_cast<size_t>(roi.width * roi.height)), dst(src.size());
+  const Lum8u value[4] = {};
+  const NamedCall call =
+      filter::apply<Lum8u>(1, filter::imageOf(src, roi.width), filter::imageOf(dst, roi.width), roi,
+                           lumiBorderReplicate, value, work.spec.data(), work.buffer.data());
+  return taken(path, [&] { return call.run(); });
+}
+
+// Taps whose magnitudes add up to 128, over rows of sixteen samples.
+TEST(Paths, FiltersSumSmallTapsInWords) {
+  const auto sums = [](Lum16s middle, int width) {
+    return filters(Path::FilterWordSums, {1, 1, 1, 1, middle, 1, 1, 1, 1}, {width, 9});
+  };
+  EXPECT_GT(sums(120, 18), 0);
+  EXPECT_GT(sums(-120, 18), 0);
+  EXPECT_EQ(sums(121, 18), 0);
+  EXPECT_EQ(sums(120, 15), 0);
+}
+
+// From four rows on, without those above and below.
+TEST(Paths, FiltersDoNarrowStripsByColumns) {
+  const auto strips = [](int height) {
+    return filters(Path::FilterStrip, {1, 2, 1, 2, 4, 2, 1, 2, 1}, {40, height});
+  };
+  EXPECT_EQ(strips(6), 2);
+  EXPECT_EQ(strips(5), 0);
+}
+
+}  // namespace
+}  // namespace test
+
+#endif  // LUMI_COUNT_PATHS
