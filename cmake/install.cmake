@@ -1,6 +1,14 @@
 # SPDX-License-Identifier: MIT
 # Installed files: both libraries, the public headers, a CMake package and pkg-config files. Nothing in them
 # holds the prefix, so the folder may be moved afterwards.
+# A library of the wider level is no package of its own: it goes into the loader's folder for processors of that
+# level, below an installed product's, and programs that are linked with the product get it there.
+if(LUMI_LEVEL STREQUAL v3)
+  set_target_properties(lumi PROPERTIES INSTALL_RPATH "$ORIGIN/../..")  # lumcore stands with the product
+  install(TARGETS lumi LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/glibc-hwcaps/x86-64-v3 NAMELINK_SKIP)
+  return()
+endif()
+
 include(CMakePackageConfigHelpers)
 
 set(LUMI_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/lumi)
