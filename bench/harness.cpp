@@ -206,6 +206,21 @@ Result Scene::measure(double budgetSeconds) {
   return result;
 }
 
+// Images in real use are small parts of larger ones as often as not: what is measured in the cache is
+// measured so as well, with gaps between its rows.
+void Suite::row(std::string name, std::vector<LumiSize> sizes, Build build, Placement placement) {
+  const auto has = [&](LumiSize wanted) {
+    return std::any_of(sizes.begin(), sizes.end(), [=](LumiSize size) {
+      return size.width == wanted.width && size.height == wanted.height;
+    });
+  };
+  const bool hasSmallParts = placement == Placement::tight && has(kCached);
+  if (hasSmallParts && !has(kSmall)) sizes.insert(sizes.begin(), kSmall);
+  rows_.push_back({family_, name, std::move(sizes), placement, build});
+  if (hasSmallParts)
+    rows_.push_back({family_, name + " padded", {kCall, kSmall}, Placement::padded, std::move(build)});
+}
+
 Suite& suite() {
   static Suite instance;
   return instance;

@@ -170,9 +170,7 @@ class Suite {
   };
 
   void row(std::string name, std::vector<LumiSize> sizes, Build build,
-           Placement placement = Placement::tight) {
-    rows_.push_back({family_, std::move(name), std::move(sizes), placement, std::move(build)});
-  }
+           Placement placement = Placement::tight);
   void startFamily(std::string name) { family_ = std::move(name); }
   const std::vector<Row>& rows() const { return rows_; }
 

@@ -118,7 +118,7 @@ Suite::Build constants(WithConstants<T, Rest...> lumi, Rest... rest) {
 
 const Family family("add_sub", [](Suite& suite) {
   suite.row("add 8u C1", kEverySize, images<1>(lumiAdd_8u_C1RSfs, Sum(), 0));
-  suite.row("add 8u C1 padded", kUpToHd, images<1>(lumiAdd_8u_C1RSfs, Sum(), 0), Placement::padded);
+  suite.row("add 8u C1 padded", kCachedAndHd, images<1>(lumiAdd_8u_C1RSfs, Sum(), 0), Placement::padded);
   suite.row("add 8u C1 misaligned", kUpToHd, images<1>(lumiAdd_8u_C1RSfs, Sum(), 0), Placement::misaligned);
   suite.row("add 8u C3", kUpToHd, images<3>(lumiAdd_8u_C3RSfs, Sum(), 0));
   suite.row("add 16s C1", kEverySize, images<1>(lumiAdd_16s_C1RSfs, Sum(), 0));

@@ -41,7 +41,7 @@ const Family family("copy", [](Suite& suite) {
   suite.row("copy 16s C1", kUpToHd, copy<1>(lumiCopy_16s_C1R));
   suite.row("copy 32f C1", kEverySize, copy<1>(lumiCopy_32f_C1R));
   suite.row("copy 8u C3", kEverySize, copy<3>(lumiCopy_8u_C3R));
-  suite.row("copy 8u C1 padded", kUpToHd, copy<1>(lumiCopy_8u_C1R), Placement::padded);
+  suite.row("copy 8u C1 padded", kCachedAndHd, copy<1>(lumiCopy_8u_C1R), Placement::padded);
   suite.row("copy 8u C1 misaligned", kUpToHd, copy<1>(lumiCopy_8u_C1R), Placement::misaligned);
   for (int flags = 0; flags < 4; ++flags) {
     suite.row("copy managed 8u C1 flags " + std::to_string(flags), {kCached, kHd, k8K},
