@@ -8,6 +8,8 @@ namespace lumi {
 
 enum class Rounding : unsigned { Nearest = 0, Truncate = 0x6000 };
 
+inline bool roundsToNearest() { return (_mm_getcsr() & 0x6000) == 0; }
+
 // Changes the rounding field alone, and writes the register only if it is not already right: a write is dear.
 // Returns the register as it was.
 inline unsigned setRounding(Rounding rounding) {

@@ -1,98 +1,21 @@
 // SPDX-License-Identifier: MIT
-// Positions in the source, computed in double precision as rounding to nearest has it, whatever the caller's
-// control register says: a query, an Init and a run may find it in different states, and have to agree on
-// every pixel. What is not exact is therefore rounded here, by integers; all other operations on doubles are
-// exact in every rounding mode. No value is denormal.
+// Positions of a resize in the source, computed in double precision as rounding to nearest has it, whatever
+// the caller's control register says: a query, an Init and a run may find it in different states, and have to
+// agree on every pixel. No value is denormal.
 #pragma once
 
 #include <cmath>
 #include <cstdint>
 #include <cstring>
 
+#include "frame/rounding_control.hpp"
+#include "kernels/geometry/resize_linear.hpp"
+
 namespace lumi {
 
-inline uint64_t bitsOf(double x) {
-  uint64_t bits = 0;
-  std::memcpy(&bits, &x, sizeof bits);
-  return bits;
-}
-inline double doubleOf(uint64_t bits) {
-  double x = 0;
-  std::memcpy(&x, &bits, sizeof x);
-  return x;
-}
-
-// The ratio of two sizes, and its products.
-class Ratio {
- public:
-  Ratio(int32_t src, int32_t dst) {
-    // Rounded in any direction, the quotient is one of its two neighbours: from there the remainder tells the
-    // nearer one. It is below 2^32, so that modulo 2^64 is enough. No quotient of 31-bit sizes is halfway
-    // between its neighbours, or so close to a power of two that their distance would change.
-    const uint64_t bits = bitsOf(static_cast<double>(src) / static_cast<double>(dst));
-    shift_ = kBias - static_cast<int>(bits >> kMantissaBits);
-    mantissa_ = (bits & (kImplied - 1)) | kImplied;
-    const uint64_t scaled = shift_ < 64 ? static_cast<uint64_t>(src) << shift_ : 0;
-    const auto twice = 2 * static_cast<int64_t>(scaled - mantissa_ * static_cast<uint64_t>(dst));
-    mantissa_ += static_cast<uint64_t>(twice > dst) - static_cast<uint64_t>(twice < -int64_t{dst});
-  }
-
-  // n times the ratio, or half of it.
-  double times(uint32_t n) const { return product(n, shift_); }
-  double halfTimes(uint32_t n) const { return product(n, shift_ + 1); }
-
- private:
-  static constexpr int kMantissaBits = 52;
-  static constexpr int kBias = 1023 + kMantissaBits;
-  static constexpr uint64_t kImplied = uint64_t{1} << kMantissaBits;
-
-  // n * mantissa / 2^shift. The product has up to 85 bits; of these the first 53 stay, ties go to even.
-  double product(uint32_t n, int shift) const {
-    if (n == 0) return 0;
-    const uint64_t low = n * (mantissa_ & UINT32_MAX);
-    const uint64_t top = n * (mantissa_ >> 32) + (low >> 32);
-    const uint64_t rest = low & UINT32_MAX;
-    const int dropped = 64 - __builtin_clzll(top) + 32 - (kMantissaBits + 1);  // 0 to 32
-    const uint64_t unit = uint64_t{1} << dropped;
-    uint64_t kept = (top << (32 - dropped)) | (rest >> dropped);
-    kept += ((rest & (unit - 1)) + ((unit - 1 + (kept & 1)) >> 1)) >> dropped;
-    // A carry out of the mantissa goes into the exponent.
-    return doubleOf((static_cast<uint64_t>(kBias + dropped - shift - 1) << kMantissaBits) + kept);
-  }
-
-  uint64_t mantissa_;  // from 2^52 on
-  int shift_;          // the ratio is mantissa / 2^shift
-};
-
-// Whether the sum x + addend, rounded to nearest, is at least the integer n from 1 on: that is, exceeds it or
-// comes within half of the distance between n and the double before it. Ties are n's, which is even. Near to
-// n the differences are exact; elsewhere they cannot pass the addend.
-inline bool sumReaches(double x, double addend, double n) {
-  const double halfStep = (n - doubleOf(bitsOf(n) - 1)) * 0.5;
-  return (n - x) - halfStep <= addend;
-}
-
-// To an integer, ties to even.
-inline double roundedToEven(double x) {
-  const double below = std::floor(x), part = x - below;
-  const bool isOdd = std::floor(below * 0.5) * 2 != below;
-  return part > 0.5 || (part == 0.5 && isOdd) ? below + 1 : below;
-}
-
-// A number that is 0 or a normal float.
-inline float roundedToFloat(double x) {
-  constexpr int kDropped = 52 - 23;
-  const uint64_t bits = bitsOf(x), half = uint64_t{1} << (kDropped - 1);
-  const uint64_t sum = bits + half - 1 + (bits >> kDropped & 1);
-  return static_cast<float>(doubleOf(sum >> kDropped << kDropped));
-}
-
-// The source pixel nearest to a centre: trunc(centre - 1e-10).
-inline int32_t nearestIndex(double centre) {
-  const double index = std::floor(centre);
-  const bool isBelow = index >= 1 && !sumReaches(centre, -1e-10, index);
-  return static_cast<int32_t>(index) - (isBelow ? 1 : 0);
-}
+inline constexpr double kBelowTie =
+    1e-10;  // what the nearest pixel takes off, so that ties go to the lower one
+inline constexpr double kQ14Slack = 1e-7;  // what a weight gets before it is truncated
 
 // The two source pixels between which a position lies: the first one's index, and how far the position is on
 // its way to the second one.
@@ -100,16 +23,48 @@ struct Between {
   double index, fraction;
 };
 
-// Of the position centre - 0.5. From 0 on the subtractions are exact, but a difference of zero has the sign
-// of the rounding mode. Before, both round to what doubles hold between 1/4 and 1/2, and between 1/2 and 1.
-inline Between betweenPixels(double centre) {
-  if (centre >= 0.5) {
-    const double position = centre - 0.5, index = std::floor(position);
-    return {index, std::fabs(position - index)};
+// The formulas, in a thread that rounds to nearest. Neither x nor i is negative.
+class Positions {
+ public:
+  Positions(int32_t src, int32_t dst) : ratio_(static_cast<double>(src) / static_cast<double>(dst)) {}
+
+  double product(int32_t x) const { return x * ratio_; }
+  int32_t nearest(int32_t i) const { return static_cast<int32_t>((i + 0.5) * ratio_ - kBelowTie); }
+  Between between(int32_t i) const {
+    const double position = (i + 0.5) * ratio_ - 0.5, index = std::floor(position);
+    return {index, position - index};
   }
-  constexpr double kQuarter = 0x1p54, kHalf = 0x1p53;  // doubles in 1
-  const double position = (centre < 0.25 ? roundedToEven(centre * kQuarter) / kQuarter : centre) - 0.5;
-  return {-1, 1 + roundedToEven(position * kHalf) / kHalf};
+  static float asFloat(double fraction) { return static_cast<float>(fraction); }
+  static uint16_t asQ14(double fraction) { return static_cast<uint16_t>(fraction * kQ14 + kQ14Slack); }
+
+ private:
+  double ratio_;
+};
+
+// The same in a thread that rounds in any direction. What is not exact is rounded by integers; all other
+// operations on doubles are exact in every mode.
+class ExactPositions {
+ public:
+  ExactPositions(int32_t src, int32_t dst);
+
+  double product(int32_t x) const { return product(static_cast<uint32_t>(x), shift_); }
+  int32_t nearest(int32_t i) const;
+  Between between(int32_t i) const;
+  static float asFloat(double fraction);
+  static uint16_t asQ14(double fraction);
+
+ private:
+  double centre(int32_t i) const { return product(2 * static_cast<uint32_t>(i) + 1, shift_ + 1); }
+  double product(uint32_t n, int shift) const;
+
+  uint64_t mantissa_;  // from 2^52 on; the ratio is mantissa / 2^shift
+  int shift_;
+};
+
+// Calls use(positions) with the ones that the thread's rounding mode wants.
+template <typename Use>
+auto withPositions(int32_t src, int32_t dst, const Use& use) {
+  return roundsToNearest() ? use(Positions(src, dst)) : use(ExactPositions(src, dst));
 }
 
 }  // namespace lumi

@@ -96,12 +96,15 @@ int64_t superEntries(int32_t srcSize, int32_t dstSize) {
 }
 
 // Taps of an antialiasing axis, for `base` of them where the axis does not shrink.
-int64_t antialiasingTaps(int32_t src, int32_t dst, uint32_t base) {
-  return src > dst ? 2 * static_cast<int64_t>(std::ceil(Ratio(src, dst).times(base))) : base;
+int64_t antialiasingTaps(int32_t src, int32_t dst, int32_t base) {
+  if (src <= dst) return base;
+  return withPositions(src, dst, [=](const auto& positions) {
+    return 2 * static_cast<int64_t>(std::ceil(positions.product(base)));
+  });
 }
 
 PlanBytes antialiasingBytes(LumiInterpolationType interpolation, LumiSize src, LumiSize dst, int64_t padded) {
-  const uint32_t base = interpolation == lumInterpLinear ? 2 : interpolation == lumInterpCubic ? 4 : 6;
+  const int32_t base = interpolation == lumInterpLinear ? 2 : interpolation == lumInterpCubic ? 4 : 6;
   int64_t object = 4 * padded + al32(int64_t{4} * dst.width * antialiasingTaps(src.width, dst.width, base)) +
                    al32(int64_t{4} * dst.height * antialiasingTaps(src.height, dst.height, base)) +
                    kHeaderRoom;
@@ -166,16 +169,10 @@ void begin(Plan& plan, LumiSize src, LumiSize dst, LumiInterpolationType interpo
   setSizes(plan.horizontal, src.width, dst.width);
 }
 
-// trunc(fraction * 2^14 + 1e-7).
-uint16_t q14Of(double fraction) {
-  const double scaled = fraction * kQ14, below = std::floor(scaled);
-  return static_cast<uint16_t>(below + (sumReaches(scaled, 1e-7, below + 1) ? 1 : 0));
-}
-
-// Weights as a run wants them.
-template <bool isHorizontal>
-void putWeight(Lum16u* table, int32_t i, double fraction) {
-  const uint16_t c = q14Of(fraction);
+// Weights as a run wants them, made of a fraction.
+template <bool isHorizontal, typename P>
+void putWeight(const P&, Lum16u* table, int32_t i, double fraction) {
+  const uint16_t c = P::asQ14(fraction);
   if constexpr (isHorizontal) {
     table[2 * i] = static_cast<Lum16u>(kQ14 - c);
     table[2 * i + 1] = c;
@@ -183,35 +180,33 @@ void putWeight(Lum16u* table, int32_t i, double fraction) {
     table[i] = c;
   }
 }
-template <bool isHorizontal>
-void putWeight(Lum32f* table, int32_t i, double fraction) {
-  table[i] = roundedToFloat(fraction);
+template <bool isHorizontal, typename P>
+void putWeight(const P&, Lum32f* table, int32_t i, double fraction) {
+  table[i] = P::asFloat(fraction);
 }
-template <bool isHorizontal>
-void putWeight(Lum64f* table, int32_t i, double fraction) {
+template <bool isHorizontal, typename P>
+void putWeight(const P&, Lum64f* table, int32_t i, double fraction) {
   table[i] = fraction;
 }
 
-// The centre of pixel i is at (i + 1/2) times the ratio.
-double centreOf(const Ratio& ratio, int32_t i) { return ratio.halfTimes(2 * static_cast<uint32_t>(i) + 1); }
-
 template <bool isHorizontal, typename W, typename Axis>
 void fillLinear(Axis& axis) {
-  const Ratio ratio(axis.reducedSrc, axis.reducedDst);
-  W* const weights = axis.template weights<W>();
-  for (int32_t i = 0; i < axis.dstSize; ++i) {
-    const Between position = betweenPixels(centreOf(ratio, i));
-    const auto index = static_cast<int32_t>(position.index);
-    axis.index[i] = index;
-    putWeight<isHorizontal>(weights, i, position.fraction);
-    if (index < 0) ++axis.low;
-    if (index >= axis.srcSize - 1) ++axis.high;
-  }
+  withPositions(axis.reducedSrc, axis.reducedDst, [&](const auto& positions) {
+    W* const weights = axis.template weights<W>();
+    for (int32_t i = 0; i < axis.dstSize; ++i) {
+      const Between position = positions.between(i);
+      axis.index[i] = static_cast<int32_t>(position.index);
+      putWeight<isHorizontal>(positions, weights, i, position.fraction);
+      if (position.index < 0) ++axis.low;
+      if (position.index >= axis.srcSize - 1) ++axis.high;
+    }
+  });
 }
 
 void fillNearest(ResizeAxis& axis) {
-  const Ratio ratio(axis.reducedSrc, axis.reducedDst);
-  for (int32_t i = 0; i < axis.dstSize; ++i) axis.index[i] = nearestIndex(centreOf(ratio, i));
+  withPositions(axis.reducedSrc, axis.reducedDst, [&](const auto& positions) {
+    for (int32_t i = 0; i < axis.dstSize; ++i) axis.index[i] = positions.nearest(i);
+  });
 }
 
 }  // namespace

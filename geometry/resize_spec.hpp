@@ -104,8 +104,9 @@ auto planAt(Opaque* object) {
 // The source position where destination position x starts: floor(x * s) with the ratio s in double precision.
 template <typename Axis>
 int32_t sourceStart(const Axis& axis, int32_t x) {
-  const Ratio ratio(axis.reducedSrc, axis.reducedDst);
-  return static_cast<int32_t>(ratio.times(static_cast<uint32_t>(x)));  // not negative: truncated is floor
+  return withPositions(axis.reducedSrc, axis.reducedDst, [=](const auto& positions) {
+    return static_cast<int32_t>(positions.product(x));  // not negative: truncated is floor
+  });
 }
 
 // A destination rectangle without what is beyond the destination; its offset lies inside.

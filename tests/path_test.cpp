@@ -104,7 +104,7 @@ TEST(Paths, NearestHalves) {
   EXPECT_EQ(halves("8u", 4, {10, 3}, {5, 3}), 3);
   EXPECT_EQ(halves("8u", 4, {8, 3}, {4, 3}), 0);
   EXPECT_EQ(halves("8u", 3, {34, 3}, {17, 3}), 0);
-  EXPECT_EQ(halves("8u", 1, {35, 3}, {17, 3}), 0);
+  EXPECT_EQ(halves("8u", 1, {37, 3}, {17, 3}), 0);
 }
 
 TEST(Paths, NearestDoubles) {
@@ -134,8 +134,8 @@ TEST(Paths, NearestPicksFromWindows) {
   EXPECT_EQ(picks("8u", 1, {24, 3}, {16, 3}), 3);
   EXPECT_EQ(picks("8u", 1, {23, 3}, {15, 3}), 0);
   EXPECT_EQ(picks("16u", 1, {12, 3}, {8, 3}), 3);
-  EXPECT_EQ(picks("8u", 1, {33, 3}, {16, 3}), 3);
-  EXPECT_EQ(picks("8u", 1, {36, 3}, {16, 3}), 0);
+  EXPECT_EQ(picks("8u", 1, {34, 3}, {16, 3}), 3);
+  EXPECT_EQ(picks("8u", 1, {35, 3}, {16, 3}), 0);
   EXPECT_EQ(picks("8u", 1, {15, 3}, {20, 3}), 0);
   EXPECT_EQ(picks("32f", 1, {24, 3}, {16, 3}), 0);
 }
