@@ -3,7 +3,10 @@
 // all of it follows from the export's registry row; a family's test adds the model.
 #pragma once
 
+#include <deque>
 #include <functional>
+#include <iterator>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -11,6 +14,8 @@
 #include "model/access.hpp"
 #include "support/contents.hpp"
 #include "support/invoke.hpp"
+#include "support/sample_type.hpp"
+#include "support/settings.hpp"
 
 namespace test {
 
@@ -80,55 +85,56 @@ struct Member {
   bool inPlace = false;
   Aliasing aliasing = Aliasing::None;
   bool masked = false, checksSteps = false;
-  bool mayStream = true;      // whether large images are tried
-  bool floatResults = false;  // NaNs need not have equal bits, and rows of the destination are apart
-  int values = 0;             // samples of the value argument; one is passed by value
+  bool mayStream = true;          // whether large images are tried
+  int64_t streamsFrom = 2 << 20;  // bytes moved from which on a path may depend on them, at the most
+  bool floatResults = false;      // NaNs need not have equal bits, and rows of the destination are apart
+  int values = 0;                 // samples of the value argument; one is passed by value
   std::vector<Contents> contents = {Contents::Bytes};  // of sources and values
   std::vector<std::vector<int>> numbers;               // what each number is chosen from
   std::vector<std::pair<Lum32f, Lum32f>> bounds;
-  std::function<LumStatus(const Call&)> run;
+  const ExportRow* row = nullptr;
   std::function<void(const Call&)> model;
 
+  Outcome invoke(const Call& call, int misalignment = 0) const;
+  // Expects that the rules of the calling convention are kept.
+  LumStatus run(const Call& call) const;
   bool planar() const { return src.planes > 1 || dst.planes > 1; }
 };
 
 // All that follows from the row.
 Member memberOf(const ExportRow& row);
 
-// Calls f with a value of the sample type.
-template <typename F>
-auto withType(const std::string& token, F f) {
-  if (token == "8u" || token == "1u") return f(Lum8u());
-  if (token == "8s") return f(Lum8s());
-  if (token == "16u") return f(Lum16u());
-  if (token == "16s" || token == "16sc") return f(Lum16s());  // complex: of its component
-  if (token == "32u") return f(Lum32u());
-  if (token == "32s" || token == "32sc") return f(Lum32s());
-  return f(Lum32f());
-}
-
-// The members of an operation, each given its model by describe(member, source sample, destination sample).
-template <typename Describe>
-std::vector<Member> membersOf(const std::string& operation, Describe describe) {
+// The members of an operation of this program's family, each given its model by describe(member, source
+// sample, destination sample). A list of the sample types that there are makes less to compile; one that is
+// not in it ends the program.
+template <typename Describe, typename List = CommonTypes>
+std::vector<Member> membersOf(const std::string& operation, Describe describe, List types = {}) {
   std::vector<Member> result;
   for (const ExportRow& row : exportRows()) {
-    if (row.operation != operation) continue;
+    if (row.operation != operation || row.family != programFamily()) continue;
     result.push_back(memberOf(row));
     Member& member = result.back();
-    withType(row.types.front(),
-             [&](auto src) { withType(row.types.back(), [&](auto dst) { describe(member, src, dst); }); });
+    const auto withBoth = [&](auto src) {
+      withType(
+          row.types.back(), [&](auto dst) { describe(member, src, dst); }, types);
+    };
+    withType(row.types.front(), withBoth, types);
   }
   return result;
 }
 
-// Registers a test of each member against its model, and the members as covered.
+// Registers the tests that every member has (tests/common), and the members as covered.
 bool addModelTests(const std::vector<Member>& members);
 
 // All members that have been added.
-const std::vector<Member>& members();
+const std::deque<Member>& members();
 const Member& memberNamed(const std::string& name);
 
 // Registers exports that have tests of their own, which need no images.
 bool addCovered(const std::vector<std::string>& names);
+
+// What has been registered so far.
+std::deque<Member>& addedMembers();
+std::set<std::string>& coveredNames();
 
 }  // namespace test

@@ -2,6 +2,7 @@
 #include "support/settings.hpp"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdlib>
 
 namespace test {
@@ -17,6 +18,14 @@ const Settings& settings() {
                     only ? std::atoi(only) : -1};
   }();
   return it;
+}
+
+const std::string& programFamily() {
+  static const std::string family = [] {
+    const std::string name = program_invocation_short_name;
+    return name.substr(0, name.rfind("_test"));
+  }();
+  return family;
 }
 
 }  // namespace test

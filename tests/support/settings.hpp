@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace test {
 
@@ -18,5 +19,8 @@ struct Settings {
 };
 
 const Settings& settings();
+
+// The family that this program tests, by the program's name; "library" for what belongs to none.
+const std::string& programFamily();
 
 }  // namespace test

@@ -214,12 +214,14 @@ std::optional<std::string> Stage::run(const Member& member, const Case& c) {
   for (const Placed& p : placed_) p.arena->copyToTwin(p.low, p.high);
 
   member.model(onTwins(member, call));
-  LumStatus status = 0;
-  if (const auto fault = faultOf([&] { status = member.run(call); })) {
+  Outcome outcome;
+  const int misalignment = sizeof(void*) == 4 ? 4 * random.below(4) : 0;
+  if (const auto fault = faultOf([&] { outcome = member.invoke(call, misalignment); })) {
     makeEqual();
     return "memory fault, " + where(fault->address);
   }
-  if (status != lumStatusOk) return "status " + std::to_string(status);
+  if (outcome.status != lumStatusOk) return "status " + std::to_string(outcome.status);
+  if (!outcome.broken.empty()) return "calling convention: " + outcome.broken;
   auto failure = compare(member);
   if (failure) makeEqual();
   return failure;
