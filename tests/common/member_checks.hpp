@@ -2,11 +2,20 @@
 // What every member is tested for, family after family.
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "support/member.hpp"
+#include "support/stage.hpp"
 
 namespace test {
 
 void expectModel(const Member& m);
+
+// Each allocation fails in turn: nothing is written, and what was allocated is freed.
+bool allocatesScratch(const Member& m);
+std::optional<std::string> failureWithoutMemory(const Member& m, Stage& stage, const Case& c);
+void expectRefusalWithoutMemory(const Member& m);
 
 // Large images, about the sizes from which on stores may bypass the cache.
 bool isTriedWithLargeImages(const Member& m);

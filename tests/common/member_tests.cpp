@@ -15,6 +15,7 @@ struct MemberTest {
 
 constexpr MemberTest kTests[] = {
     {"Model", [](const Member&) { return true; }, expectModel},
+    {"WithoutMemory", allocatesScratch, expectRefusalWithoutMemory},
     {"Streaming", isTriedWithLargeImages, expectModelOfLargeImages},
     {"BehindTheMask", readsUnderAMask, expectNoReadsBehindTheMask},
     {"ValuesInDestination", takesValuesByPointer, expectValuesToBeReadFirst},
@@ -47,7 +48,7 @@ void registerReentrancy() {
 
 bool addModelTests(const std::vector<Member>& members) {
   for (const Member& each : members) {
-    if (!each.model) abortOver("model of", each.name);
+    each.requireAll();
     addCovered({each.name});
     addedMembers().push_back(each);
     const Member& member = addedMembers().back();

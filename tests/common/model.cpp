@@ -12,6 +12,7 @@ namespace test {
 namespace {
 
 constexpr int kRounds = 24;  // of caseRound() cases each
+constexpr int kAllocationCases = 12;
 
 Stage& sharedStage() {
   static Stage stage(kLargestCaseImage);
@@ -38,7 +39,37 @@ void expectModel(const Member& m) {
   const auto stray = sharedStage().compareEverything();
   EXPECT_FALSE(stray) << *stray;
   EXPECT_EQ(testcore::counts().cacheQueries, 0) << "small images do not depend on the cache";
-  EXPECT_EQ(testcore::counts().allocations, 0);
+  if (!m.allocates) {
+    EXPECT_EQ(testcore::counts().allocations, 0);
+  }
+  EXPECT_EQ(testcore::counts().liveBlocks, 0);
+}
+
+bool allocatesScratch(const Member& m) { return m.allocates; }
+
+std::optional<std::string> failureWithoutMemory(const Member& m, Stage& stage, const Case& c) {
+  const auto leaves = [] { return testcore::counts().liveBlocks != 0 || testcore::counts().strayFrees != 0; };
+  testcore::reset();
+  if (const auto failure = stage.run(m, c)) return failure;
+  const int64_t allocations = testcore::counts().allocations;
+  if (leaves()) return "a block is left behind";
+  for (int n = 1; n <= allocations; ++n) {
+    testcore::reset();
+    testcore::failAllocation(n);
+    const std::string which = "allocation " + std::to_string(n) + " fails: ";
+    if (const auto failure = stage.run(m, c, lumStatusNoMemory)) return which + *failure;
+    if (leaves()) return which + "a block is left behind";
+  }
+  return std::nullopt;
+}
+
+void expectRefusalWithoutMemory(const Member& m) {
+  const CoreGuard guard;
+  for (int i = 0; i < settings().scaled(kAllocationCases); ++i) {
+    const Case c = makeCase(m, settings().seed, i * 7);
+    const auto failure = failureWithoutMemory(m, sharedStage(), c);
+    ASSERT_FALSE(failure) << *failure << "\n" << describe(m, c);
+  }
 }
 
 }  // namespace test

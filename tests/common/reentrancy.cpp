@@ -14,7 +14,7 @@
 namespace test {
 namespace {
 
-constexpr int kThreads = 4, kRepeats = 200;
+constexpr int kThreads = 4, kRepeats = 40;
 
 // Runs members in an order of its own, so that threads meet in the same ones and in different ones.
 std::string runAll(int thread) {

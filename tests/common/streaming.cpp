@@ -65,7 +65,9 @@ Case largeCase(const Member& m, int64_t moved, Rows rows, int index) {
   c.roi.height = random.pick(heights);
   c.roi.width = static_cast<int>(moved / bytesMoved(m) / c.roi.height);
   if (rows.aligned && c.roi.width >= 64) c.roi.width = c.roi.width / 64 * 64;
-  for (size_t i = 0; i < m.numbers.size(); ++i) c.numbers[i] = random.pick(m.numbers[i]);
+  for (size_t i = 0; i < m.numbers.size(); ++i)
+    if (!m.numbers[i].empty()) c.numbers[i] = random.pick(m.numbers[i]);
+  chooseNamed(m, random, c);
   if (!m.bounds.empty()) c.bounds = random.pick(m.bounds);
   c.inputs = random.pick(m.contents);
   const auto step = [&](const Operand& operand) {

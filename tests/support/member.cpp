@@ -30,12 +30,8 @@ Layout layoutOf(const std::string& name) {
   abortOver("layout", name);
 }
 
-Operand operandOf(const std::string& type, const std::string& layout) {
-  const Layout l = layoutOf(layout);
-  const int bytes = sampleBytes(type);
-  if (type == "1u") return {1, 0, 0, true};
-  if (l.planes > 1) return Operand::planar(bytes, l.planes);
-  return l.used == 1 ? Operand::chosenChannel(bytes, l.stored) : Operand::pixels(bytes, l.stored);
+bool isNumber(const Argument& argument) {
+  return argument.kind == Kind::Offset || argument.kind == Kind::Number;
 }
 
 // What an argument of this name is chosen from.
@@ -51,7 +47,20 @@ std::vector<int> choicesOf(const Argument& argument) {
   if (name == "roundMode") return {0, 1, 2, 0, 1, 2, 3, -1, INT_MAX};
   if (name == "hint") return {0, 1, 2, 2, 3, -1};
   if (name == "flags") return {0, 1, 2, 3};
-  return {static_cast<int>(argument.base.numbers[0])};
+  return {};  // the family's test says
+}
+
+// Whether the member described the argument by its name; an array's length follows from the array.
+bool setNamed(const ExportRow& row, const Argument& argument, const Call& call, Slot& slot) {
+  const std::string name = argument.name;
+  for (const Call::Block& block : call.blocks)
+    if (name == block.name) return slot.setPointer(block.data), true;
+  for (const Call::Chosen& chosen : call.chosen)
+    if (name == chosen.name) return slot.setValue(argument.passing, chosen.value), true;
+  for (const Argument& array : row.arguments)
+    if (array.length && name == array.length)
+      return slot.setValue(argument.passing, {{static_cast<double>(call.block(array.name).count)}}), true;
+  return false;
 }
 
 // The arguments of a call in the order of the row.
@@ -68,6 +77,9 @@ std::vector<Slot> slotsOf(const ExportRow& row, const Call& call) {
   for (size_t i = 0; i < slots.size(); ++i) {
     Slot& slot = slots[i];
     const Argument& argument = row.arguments[i];
+    const int mine = number;
+    number += isNumber(argument);
+    if (setNamed(row, argument, call, slot)) continue;
     switch (argument.kind) {
       case Kind::Image:
         image(argument.name, slot);
@@ -86,6 +98,7 @@ std::vector<Slot> slotsOf(const ExportRow& row, const Call& call) {
         slot.setSample(argument.passing, row.types.front(), call.values);
         break;
       case Kind::Size:
+        if (std::string(argument.name) != "roi") abortOver("value of", argument.name);
         slot.set(call.roi);
         break;
       case Kind::Lower:
@@ -94,14 +107,96 @@ std::vector<Slot> slotsOf(const ExportRow& row, const Call& call) {
       case Kind::Upper:
         slot.set(call.upper);
         break;
+      case Kind::Offset:
+      case Kind::Number:
+        slot.setValue(argument.passing, {{static_cast<double>(call.numbers[mine])}});
+        break;
       default:
-        slot.setValue(argument.passing, {{static_cast<double>(call.numbers[number++])}});
+        abortOver("value of", argument.name);
     }
   }
   return slots;
 }
 
 }  // namespace
+
+Operand operandOf(const std::string& type, const std::string& layout) {
+  const Layout l = layoutOf(layout);
+  const int bytes = sampleBytes(type);
+  if (type == "1u") return {1, 0, 0, true};
+  if (l.planes > 1) return Operand::planar(bytes, l.planes);
+  return l.used == 1 ? Operand::chosenChannel(bytes, l.stored) : Operand::pixels(bytes, l.stored);
+}
+
+const Call::Block& Call::block(const std::string& name) const {
+  for (const Block& block : blocks)
+    if (name == block.name) return block;
+  abortOver("array or results", name);
+}
+
+const Value& Call::value(const std::string& name) const {
+  for (const Chosen& each : chosen)
+    if (name == each.name) return each.value;
+  abortOver("chosen value", name);
+}
+
+LumiPoint Call::point(const std::string& name) const {
+  const double* const n = value(name).numbers;
+  return {static_cast<int>(n[0]), static_cast<int>(n[1])};
+}
+
+LumiSize Call::size(const std::string& name) const {
+  const LumiPoint p = point(name);
+  return {p.x, p.y};
+}
+
+LumiRect Call::rect(const std::string& name) const {
+  const double* const n = value(name).numbers;
+  return {static_cast<int>(n[0]), static_cast<int>(n[1]), static_cast<int>(n[2]), static_cast<int>(n[3])};
+}
+
+namespace {
+
+const Argument& argumentOf(const ExportRow& row, const std::string& name) {
+  for (const Argument& argument : row.arguments)
+    if (name == argument.name) return argument;
+  abortOver("argument", name);
+}
+
+}  // namespace
+
+void Member::results(const std::string& argument, const std::string& type) {
+  const Argument& its = argumentOf(*row, argument);
+  blocks.push_back({its.name, nullptr, type, true, {std::max(1, its.count)}, {}});
+}
+
+void Member::array(const std::string& argument, const std::string& type, const std::vector<int>& lengths,
+                   std::function<void(Random&, Byte*, int)> fill) {
+  const Argument& its = argumentOf(*row, argument);
+  blocks.push_back({its.name, its.length, type, false, lengths, std::move(fill)});
+}
+
+void Member::choose(const std::string& argument, const std::vector<Value>& among) {
+  const Argument& its = argumentOf(*row, argument);
+  choices.push_back({its.name, among});
+}
+
+void Member::requireAll() const {
+  if (!model) abortOver("model of", name);
+  const auto isNamed = [&](const Argument& argument) {
+    const std::string wanted = argument.name;
+    for (const Block& block : blocks)
+      if (wanted == block.name || (block.length && wanted == block.length)) return true;
+    return std::any_of(choices.begin(), choices.end(), [&](const Choice& c) { return wanted == c.name; });
+  };
+  size_t number = 0;
+  for (const Argument& argument : row->arguments) {
+    if (!isNumber(argument)) continue;
+    const bool isChosen = !numbers.at(number++).empty();
+    if (!isChosen && !isNamed(argument))
+      abortOver("what to choose a number from:", name + " " + argument.name);
+  }
+}
 
 Outcome Member::invoke(const Call& call, int misalignment) const {
   return test::invoke(*row, slotsOf(*row, call).data(), misalignment);
@@ -135,8 +230,8 @@ Member memberOf(const ExportRow& row) {
     }
     if (argument.kind == Kind::Value) m.values = 1;
     if (argument.kind == Kind::Values) m.values = argument.count;
-    if (argument.kind == Kind::Offset || argument.kind == Kind::Number)
-      m.numbers.push_back(choicesOf(argument));
+    if (isNumber(argument)) m.numbers.push_back(choicesOf(argument));
+    if (m.numbers.size() > kMaxNumbers) abortOver("so many numbers of", m.name);
     if (argument.kind == Kind::Lower) m.bounds = {{0.0f, 255.0f}, {-1.0f, 1.0f}, {-0.1f, 1000.7f}};
   }
   for (const CheckStep& step : row.checks) m.checksSteps |= step.check == Check::Step;
