@@ -60,4 +60,8 @@ void Arena::setAccessible(const Byte* low, const Byte* high, bool accessible) co
       "mprotect");
 }
 
+void Arena::setWritable(bool writable) const {
+  require(mprotect(first_, size_, writable ? PROT_READ | PROT_WRITE : PROT_READ) == 0, "mprotect");
+}
+
 }  // namespace test

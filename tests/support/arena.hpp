@@ -28,6 +28,8 @@ class Arena {
   const Byte* firstDifference(const Byte* low, const Byte* high) const;
   // Takes away all access, or gives it back.
   void setAccessible(const Byte* low, const Byte* high, bool accessible) const;
+  // Makes all of it read-only, or not.
+  void setWritable(bool writable) const;
 
   static size_t pageBytes();
 

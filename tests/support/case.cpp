@@ -9,17 +9,21 @@
 namespace test {
 namespace {
 
-const std::vector<int>& widths() {
-  static const std::vector<int> list = [] {
-    std::vector<int> all;
-    for (int w = 1; w <= 70; ++w) all.push_back(w);
-    for (int w : {95, 96, 97, 127, 128, 129, 130, 255, 256, 257, 258, 511, 512, 513, 514, 997, 1000})
-      all.push_back(w);
-    return all;
-  }();
-  return list;
+// Every small width, and around the thresholds of longer rows.
+constexpr int kSmallWidths = 70;
+constexpr int kLargeWidths[] = {95,  96,  97,  127, 128, 129, 130, 255, 256,
+                                257, 258, 511, 512, 513, 514, 997, 1000};
+constexpr int kHeights[] = {1, 1, 2, 3, 5};
+constexpr int kRoundsPerLargeWidth = 4;
+
+// Pixels are what costs: a round has every small width once, and each large one only every few rounds, with
+// small ones by chance in its place.
+int widthOf(int index, Random& random) {
+  const int at = index % caseRound(), round = index / caseRound();
+  if (at < kSmallWidths) return at + 1;
+  const int large = at - kSmallWidths;
+  return (round + large) % kRoundsPerLargeWidth == 0 ? kLargeWidths[large] : random.between(1, kSmallWidths);
 }
-constexpr int kHeights[] = {1, 2, 3, 5};
 
 int anyStep(Random& random, int tight, int height) {
   if (tight == 0) return 0;  // there is no such image
@@ -100,18 +104,27 @@ void describeImage(std::ostream& out, const char* role, const Operand& operand, 
 
 }  // namespace
 
-int caseRound() { return static_cast<int>(widths().size() * std::size(kHeights)); }
+int caseRound() { return kSmallWidths + static_cast<int>(std::size(kLargeWidths)); }
+
+void chooseNamed(const Member& member, Random& random, Case& c) {
+  for (const Member::Block& block : member.blocks) {
+    const int count = random.pick(block.counts);
+    c.blocks.push_back({count, random.oneIn(2), random.oneIn(2) ? 0 : random.below(64)});
+  }
+  for (const Member::Choice& choice : member.choices) c.chosen.push_back(random.pick(choice.values));
+}
 
 Case makeCase(const Member& member, uint64_t seed, int index) {
   Random random(mixSeed(seed, member.name, index));
   Case c;
   c.index = index;
   c.contents = random.next();
-  const int widthCount = static_cast<int>(widths().size());
-  c.roi.width = widths()[static_cast<size_t>(index % widthCount)];
-  c.roi.height = kHeights[index / widthCount % static_cast<int>(std::size(kHeights))];
+  c.roi.width = widthOf(index, random);
+  c.roi.height = random.pick(kHeights);
 
-  for (size_t i = 0; i < member.numbers.size(); ++i) c.numbers[i] = random.pick(member.numbers[i]);
+  for (size_t i = 0; i < member.numbers.size(); ++i)
+    if (!member.numbers[i].empty()) c.numbers[i] = random.pick(member.numbers[i]);
+  chooseNamed(member, random, c);
   if (!member.bounds.empty()) c.bounds = random.pick(member.bounds);
   const int srcTight = member.src.tightStep(c.roi.width, c.numbers[0]);
   const int src2Tight = member.src2.tightStep(c.roi.width, 0);
@@ -124,9 +137,12 @@ Case makeCase(const Member& member, uint64_t seed, int index) {
   c.src2Step = step(src2Tight);
   if (member.floatResults && !allTight) c.dstStep = separateStep(random, dstTight);
 
-  // The destination's phase takes every value in turn; the source's is any.
+  // The destination's phase takes every value in turn, for each width and over the members; the source's is
+  // any.
+  const int firstPhase = Random(mixSeed(0, member.name, 0)).below(64);
   for (int p = 0; p < kMaxPlanes; ++p) {
-    c.dst[p] = anyPlacement(random, (index + p * 16 + p * random.below(64)) % 64);
+    const int phase = firstPhase + index % caseRound() + 25 * (index / caseRound());
+    c.dst[p] = anyPlacement(random, (phase + p * (16 + random.below(64))) % 64);
     c.src[p] = anyPlacement(random, random.below(64));
   }
   c.mask = anyPlacement(random, random.below(64));
@@ -164,6 +180,13 @@ std::string describe(const Member& member, const Case& c) {
   if (c.overlap == Overlap::OtherChannel) out << " (" << c.srcChannel << " to " << c.dstChannel << ")";
   for (size_t i = 0; i < member.numbers.size(); ++i) out << (i ? " " : ", numbers ") << c.numbers[i];
   if (!member.bounds.empty()) out << ", bounds " << c.bounds.first << " to " << c.bounds.second;
+  for (size_t i = 0; i < c.blocks.size(); ++i)
+    out << ", " << member.blocks[i].name << " of " << c.blocks[i].count << " at "
+        << (c.blocks[i].atEnd ? "end" : "start") << " but " << c.blocks[i].phase;
+  for (size_t i = 0; i < c.chosen.size(); ++i) {
+    out << ", " << member.choices[i].name;
+    for (const double number : c.chosen[i].numbers) out << " " << number;
+  }
   out << ", contents " << static_cast<int>(c.inputs);
   if (member.values > 1) {
     out << ", values " << (c.valuesInDst ? "inside the destination" : "") << c.valuesPhase;

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "support/member.hpp"
 #include "support/random.hpp"
@@ -43,6 +44,13 @@ struct Case {
   std::pair<Lum32f, Lum32f> bounds{};
   bool valuesInDst = false;  // the value array lies in the destination image
   int valuesPhase = 0;       // bytes between the value array and the end of accessible memory
+  struct Block {
+    int count = 0;  // of samples
+    bool atEnd = true;
+    int phase = 0;  // bytes to the end, or to the start, of accessible memory
+  };
+  std::vector<Block> blocks;
+  std::vector<Value> chosen;
 };
 
 std::string describe(const Member& member, const Case& c);
@@ -50,7 +58,10 @@ std::string describe(const Member& member, const Case& c);
 // The case of this index: widths that cross every threshold of the kernels in turn, the rest by chance.
 Case makeCase(const Member& member, uint64_t seed, int index);
 
-// As many cases show every width at every height.
+// What the member chooses by name: lengths and places of arrays and results, and values.
+void chooseNamed(const Member& member, Random& random, Case& c);
+
+// As many cases show every small width.
 int caseRound();
 
 // The largest image of makeCase, in bytes.

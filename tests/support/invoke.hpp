@@ -1,28 +1,30 @@
 // SPDX-License-Identifier: MIT
-// Any export called through one form, so that a test can walk all of them by the generated rows.
+// Any export called by its description, so that a test can walk all of them by the generated rows.
 #pragma once
 
 #include <cstdint>
 #include <cstring>
-#include <initializer_list>
 #include <string>
 #include <type_traits>
-#include <utility>
 #include <vector>
 
-#include "lumi.h"
+#include "lumi/types.h"
 
 namespace test {
 
-// What an argument is: decides which faults it can have.
+// What an argument is: decides which faults it can have, and what the tests pass.
 enum class Kind {
   Image,
   Planes,
-  Values,
-  Value,
   Step,
   Offset,  // of the first pixel's bit in an image of bits
   Size,
+  Point,
+  Rect,
+  Value,    // one sample
+  Values,   // samples by pointer
+  Results,  // one for each channel, by pointer
+  Array,    // as many as another argument says
   Number,
   Lower,  // bounds of a range
   Upper,
@@ -30,118 +32,139 @@ enum class Kind {
   Optional
 };
 
-// A step of the order in which an operation checks its arguments.
-// Own: an order that the general words do not tell; the family's own tests do.
-enum class Check { Null, Size, Width, Step, Offset, Range, Frame, Value, Own };
+// How the platform's convention sees an argument.
+enum class Passing { Pointer, Int32, Int64, Float, Double, Pair, Rect, Halves, Floats, Doubles };
 
-// A value that a check finds although nothing general is wrong with it; a number is the width.
+// A step of the order in which an operation checks its arguments.
+// Status: an argument's values that have a status of their own.
+// Own: an order that the general words do not tell; the family's own tests do.
+enum class Check { Null, Size, Width, Step, Offset, Range, Inside, Value, Own, Status };
+
+// A number, or those of a size, a point or a rectangle.
+struct Value {
+  double numbers[4];
+};
+
+// A list in constant memory.
+template <typename T>
+struct Span {
+  const T* first;
+  size_t count;
+
+  const T* begin() const { return first; }
+  const T* end() const { return first + count; }
+  size_t size() const { return count; }
+  const T& operator[](size_t i) const { return first[i]; }
+};
+
+// A value that a check finds although nothing general is wrong with it.
 struct Refused {
   Check by;
-  LumiSize value;
+  LumStatus status;  // where by is Status
+  Value value;
 };
 
 struct Argument {
   Kind kind;
+  Passing passing;
   const char* name;
-  int extra;  // planes of a planar argument, values of an array of them, a valid value of a number
-  std::vector<Refused> refused;
+  int count;           // planes, values or results of an array of them
+  Value base;          // one that the operation accepts
+  const char* length;  // the argument that tells an array's length
+  Span<Refused> refused;
 };
 
-// A value for any argument.
-struct Slot {
-  void* pointer = nullptr;
-  void* planes[4] = {};
-  void* planeArray = nullptr;  // an array elsewhere, instead of the planes here
-  bool planesNull = false;
-  int number = 0;
-  const void* value = nullptr;  // the bytes of an argument by value; without them, its number
-  LumiSize size = {};
-  LumiPoint point = {};
+struct CheckStep {
+  Check check;
+  const char* argument;  // whose values have the status
+  LumStatus status;
+};
+
+// One or two words of a name, or none.
+struct Words {
+  const char* words[2];
+
+  size_t size() const { return words[0] ? words[1] ? 2 : 1 : 0; }
+  bool empty() const { return size() == 0; }
+  const char* front() const { return words[0]; }
+  const char* back() const { return words[1] ? words[1] : words[0]; }
+  const char* const* begin() const { return words; }
+  const char* const* end() const { return words + size(); }
+  const char* operator[](size_t i) const { return words[i]; }
 };
 
 using AnyFunction = void (*)();
 
-// The words of a call as the platform's convention wants them.
-struct PackedCall {
-  std::vector<uintptr_t> words;  // 32 bits: the stack; 64 bits: integer registers
-  std::vector<double> floats;    // 64 bits: vector registers, as raw bits
-};
-
-template <typename P>
-P argumentFrom(const Slot& slot) {
-  if constexpr (std::is_same_v<P, LumiSize>) {
-    return slot.size;
-  } else if constexpr (std::is_same_v<P, LumiPoint>) {
-    return slot.point;
-  } else if constexpr (!std::is_pointer_v<P>) {
-    P value{};
-    if constexpr (std::is_arithmetic_v<P>) value = static_cast<P>(slot.number);
-    if (slot.value) std::memcpy(&value, slot.value, sizeof value);
-    return value;
-  } else if constexpr (std::is_pointer_v<std::remove_cv_t<std::remove_pointer_t<P>>>) {
-    using Plane = std::remove_cv_t<std::remove_pointer_t<P>>;
-    if (slot.planesNull) return nullptr;
-    const void* array = slot.planeArray ? slot.planeArray : slot.planes;
-    return reinterpret_cast<P>(const_cast<Plane*>(static_cast<Plane const*>(array)));
-  } else {
-    return static_cast<P>(slot.pointer);
-  }
-}
-
-template <typename P>
-void pack(const Slot& slot, PackedCall& call) {
-  const P value = argumentFrom<P>(slot);
-  // A pair of floats goes into one vector register.
-  constexpr bool isFloat = std::is_floating_point_v<P> || std::is_same_v<P, Lum32fc>;
-  if constexpr (sizeof(uintptr_t) == 8 && isFloat) {
-    double raw = 0;
-    std::memcpy(&raw, &value, sizeof value);
-    call.floats.push_back(raw);
-  } else if constexpr (std::is_integral_v<P>) {
-    call.words.push_back(static_cast<uintptr_t>(value));  // promoted, as the convention wants
-  } else {
-    uintptr_t words[(sizeof value + sizeof(uintptr_t) - 1) / sizeof(uintptr_t)] = {};
-    std::memcpy(words, &value, sizeof value);
-    call.words.insert(call.words.end(), std::begin(words), std::end(words));
-  }
-}
-
-struct Invoker {
-  AnyFunction function;
-  LumStatus (*call)(AnyFunction, const Slot*);
-  PackedCall (*packed)(const Slot*);
-};
-
-template <typename... P, size_t... i>
-Invoker makeInvoker(LumStatus (*function)(P...), std::index_sequence<i...>) {
-  return {reinterpret_cast<AnyFunction>(function),
-          [](AnyFunction f, const Slot* s) {
-            return reinterpret_cast<LumStatus (*)(P...)>(f)(argumentFrom<P>(s[i])...);
-          },
-          [](const Slot* s) {
-            PackedCall call;
-            (pack<P>(s[i], call), ...);
-            return call;
-          }};
-}
-
-template <typename... P>
-Invoker invoker(LumStatus (*function)(P...)) {
-  return makeInvoker(function, std::index_sequence_for<P...>());
-}
-
 struct ExportRow {
-  const char *name, *operation;
-  std::vector<std::string> types, layouts;
-  Invoker invoke;
-  std::vector<Argument> arguments;
-  std::vector<Check> checks;
+  const char *name, *family, *operation;
+  Words types, layouts;
+  AnyFunction function;
+  Span<Argument> arguments;
+  Span<CheckStep> checks;
 };
 
-// Every export that returns a status, in the order of the names.
-const std::vector<ExportRow>& exportRows();
+struct ExportName {
+  const char *name, *family;
+};
+
+// Every export, in the order of the names.
+Span<ExportName> exportNames();
+
+// Those that return a status, in the same order.
+Span<ExportRow> exportRows();
 
 // Those whose arguments can be made without knowing the operation.
 std::vector<const ExportRow*> regularRows();
+
+const ExportRow& rowNamed(const std::string& name);
+
+// A value for any argument: its bytes, or the plane pointers of an array of them.
+struct Slot {
+  alignas(8) unsigned char bytes[16] = {};
+  void* planes[4] = {};
+  bool isPlanes = false;
+
+  template <typename T>
+  void set(const T& value) {
+    static_assert(std::is_trivially_copyable_v<T> && sizeof(T) <= sizeof bytes);
+    std::memcpy(bytes, &value, sizeof value);
+  }
+  void setPointer(const void* pointer) {
+    isPlanes = false;
+    set(pointer);
+  }
+  // Numbers of the argument's own type, as many as it has.
+  void setValue(Passing passing, const Value& value);
+  // A sample of the type of this name.
+  void setSample(Passing passing, const std::string& type, const void* sample);
+};
+
+// A value of each argument with which a regular row succeeds, but for memory and steps.
+std::vector<Slot> baseSlots(const ExportRow& row);
+
+// A call as the platform's convention wants it. Laid out for invoke.S: words, then the arrays.
+struct PackedCall {
+  AnyFunction function;
+  uintptr_t stackWords = 0;
+  uintptr_t misalignment = 0;  // of the stack, in bytes below a 64-byte boundary; 32 bits only
+  uintptr_t tellsStates = 0;   // whether the processor tells which register states are in use
+  uintptr_t broken = 0;        // a bit for each callee-saved register, stack pointer and direction flag
+  uintptr_t statesInUse = 0;   // bit 2 are the upper vector halves
+  uintptr_t integers[6] = {};  // 64 bits only, like vectors
+  uint64_t vectors[8] = {};
+  uintptr_t stack[48] = {};
+
+  PackedCall(const ExportRow& row, const Slot* slots);
+};
+
+// What a call did besides its work.
+struct Outcome {
+  LumStatus status = 0;
+  std::string broken;  // which rule of the calling convention, or nothing
+};
+
+// Calls with everything around it watched: callee-saved registers, stack pointer, flags, control words, upper
+// vector halves. A 32-bit caller's stack may be misaligned by any multiple of four.
+Outcome invoke(const ExportRow& row, const Slot* slots, int misalignment = 0);
 
 }  // namespace test

@@ -7,54 +7,31 @@
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <set>
 
-#include "support/core_guard.hpp"
 #include "support/settings.hpp"
-#include "support/stage.hpp"
 
 namespace test {
 namespace {
-
-constexpr int kRounds = 24;  // of caseRound() cases each
-
-std::vector<Member>& added() {
-  static std::vector<Member> list;
-  return list;
-}
-
-std::set<std::string>& covered() {
-  static std::set<std::string> names;
-  return names;
-}
-
-Stage& sharedStage() {
-  static Stage stage(kLargestCaseImage);
-  return stage;
-}
 
 struct Layout {
   int planes, stored, used;
 };
 
 Layout layoutOf(const std::string& name) {
-  if (name[0] == 'P') return {name[1] - '0', 1, 1};
+  const auto digitAt = [&](size_t i) { return name[i] - '0'; };
+  const bool counts = name.size() >= 2 && name.back() >= '1' && name.back() <= '4';
+  if (name == "AP4") return {4, 1, 1};
   if (name == "AC4") return {1, 4, 3};
-  return {1, name[1] - '0', name.size() > 2 ? 1 : name[1] - '0'};
+  if (name == "AC1") return {1, 1, 1};
+  if (name == "C3C" || name == "C4C") return {1, digitAt(1), 1};
+  if (name.size() == 2 && name[0] == 'P' && counts) return {digitAt(1), 1, 1};
+  if (name.size() == 2 && name[0] == 'C' && counts) return {1, digitAt(1), digitAt(1)};
+  abortOver("layout", name);
 }
 
-int sampleBytes(const std::string& type) {
-  return withType(type, [](auto sample) { return static_cast<int>(sizeof sample); }) *
-         (type.back() == 'c' ? 2 : 1);
-}
-
-Operand operandOf(const std::string& type, const std::string& layout) {
-  const Layout l = layoutOf(layout);
-  const int bytes = sampleBytes(type);
-  if (type == "1u") return {1, 0, 0, true};
-  if (l.planes > 1) return Operand::planar(bytes, l.planes);
-  return l.used == 1 ? Operand::chosenChannel(bytes, l.stored) : Operand::pixels(bytes, l.stored);
+bool isNumber(const Argument& argument) {
+  return argument.kind == Kind::Offset || argument.kind == Kind::Number;
 }
 
 // What an argument of this name is chosen from.
@@ -70,15 +47,28 @@ std::vector<int> choicesOf(const Argument& argument) {
   if (name == "roundMode") return {0, 1, 2, 0, 1, 2, 3, -1, INT_MAX};
   if (name == "hint") return {0, 1, 2, 2, 3, -1};
   if (name == "flags") return {0, 1, 2, 3};
-  return {argument.extra};
+  return {};  // the family's test says
+}
+
+// Whether the member described the argument by its name; an array's length follows from the array.
+bool setNamed(const ExportRow& row, const Argument& argument, const Call& call, Slot& slot) {
+  const std::string name = argument.name;
+  for (const Call::Block& block : call.blocks)
+    if (name == block.name) return slot.setPointer(block.data), true;
+  for (const Call::Chosen& chosen : call.chosen)
+    if (name == chosen.name) return slot.setValue(argument.passing, chosen.value), true;
+  for (const Argument& array : row.arguments)
+    if (array.length && name == array.length)
+      return slot.setValue(argument.passing, {{static_cast<double>(call.block(array.name).count)}}), true;
+  return false;
 }
 
 // The arguments of a call in the order of the row.
 std::vector<Slot> slotsOf(const ExportRow& row, const Call& call) {
-  std::vector<Slot> slots(row.arguments.size());
+  std::vector<Slot> slots = baseSlots(row);
   int step = 0, number = 0;
   const auto image = [&](const std::string& role, Slot& slot) {
-    const auto take = [&](Byte* first, int itsStep) { slot.pointer = first, step = itsStep; };
+    const auto take = [&](Byte* first, int itsStep) { slot.setPointer(first), step = itsStep; };
     if (role == "src2") return take(call.src2, call.src2Step);
     if (role == "dst" || role == "srcDst") return take(call.dst[0], call.dstStep);
     if (role == "mask") return take(call.mask, call.maskStep);
@@ -86,85 +76,145 @@ std::vector<Slot> slotsOf(const ExportRow& row, const Call& call) {
   };
   for (size_t i = 0; i < slots.size(); ++i) {
     Slot& slot = slots[i];
-    switch (row.arguments[i].kind) {
+    const Argument& argument = row.arguments[i];
+    const int mine = number;
+    number += isNumber(argument);
+    if (setNamed(row, argument, call, slot)) continue;
+    switch (argument.kind) {
       case Kind::Image:
+        image(argument.name, slot);
+        break;
       case Kind::Planes:
-        image(row.arguments[i].name, slot);
-        slot.planeArray = call.planes;
+        image(argument.name, slot);
+        slot.setPointer(call.planes);
         break;
       case Kind::Step:
-        slot.number = step;
+        slot.set(step);
         break;
       case Kind::Values:
-        slot.pointer = const_cast<Byte*>(call.values);
+        slot.setPointer(call.values);
         break;
       case Kind::Value:
-        slot.value = call.values;
+        slot.setSample(argument.passing, row.types.front(), call.values);
         break;
       case Kind::Size:
-        slot.size = call.roi;
+        if (std::string(argument.name) != "roi") abortOver("value of", argument.name);
+        slot.set(call.roi);
         break;
       case Kind::Lower:
-        slot.value = &call.lower;
+        slot.set(call.lower);
         break;
       case Kind::Upper:
-        slot.value = &call.upper;
+        slot.set(call.upper);
+        break;
+      case Kind::Offset:
+      case Kind::Number:
+        slot.setValue(argument.passing, {{static_cast<double>(call.numbers[mine])}});
         break;
       default:
-        slot.number = call.numbers[number++];
+        abortOver("value of", argument.name);
     }
   }
   return slots;
 }
 
-class ModelTest : public testing::Test {
- public:
-  explicit ModelTest(const Member& member) : member_(member) {}
+}  // namespace
 
-  void TestBody() override {
-    const CoreGuard guard;
-    const int only = settings().onlyCase;
-    const int last = only >= 0 ? only : settings().scaled(kRounds * caseRound()) - 1;
-    for (int index = std::max(0, only); index <= last; ++index) {
-      const Case c = makeCase(member_, settings().seed, index);
-      const auto failure = sharedStage().run(member_, c);
-      ASSERT_FALSE(failure) << *failure << "\n" << describe(member_, c) << "\n" << reproduction(index);
-    }
-    const auto stray = sharedStage().compareEverything();
-    EXPECT_FALSE(stray) << *stray;
-    EXPECT_EQ(testcore::counts().cacheQueries, 0) << "small images do not depend on the cache";
-    EXPECT_EQ(testcore::counts().allocations, 0);
-  }
+Operand operandOf(const std::string& type, const std::string& layout) {
+  const Layout l = layoutOf(layout);
+  const int bytes = sampleBytes(type);
+  if (type == "1u") return {1, 0, 0, true};
+  if (l.planes > 1) return Operand::planar(bytes, l.planes);
+  return l.used == 1 ? Operand::chosenChannel(bytes, l.stored) : Operand::pixels(bytes, l.stored);
+}
 
- private:
-  std::string reproduction(int index) const {
-    return "run again: LUMI_TEST_SEED=" + std::to_string(settings().seed) +
-           " LUMI_TEST_CASE=" + std::to_string(index) + " lumi_tests --gtest_filter=Model." + member_.name;
-  }
+const Call::Block& Call::block(const std::string& name) const {
+  for (const Block& block : blocks)
+    if (name == block.name) return block;
+  abortOver("array or results", name);
+}
 
-  const Member member_;
-};
+const Value& Call::value(const std::string& name) const {
+  for (const Chosen& each : chosen)
+    if (name == each.name) return each.value;
+  abortOver("chosen value", name);
+}
 
-TEST(Coverage, EveryExportHasATest) {
-  std::ifstream file(LUMI_STRUCTURE);
-  ASSERT_TRUE(file) << LUMI_STRUCTURE;
-  std::set<std::string> exports;
-  std::string name, implementation;
-  while (file >> name >> implementation) exports.insert(name);
-  ASSERT_FALSE(exports.empty());
-  for (const auto& e : exports) EXPECT_TRUE(covered().count(e)) << e << " has no test";
-  for (const auto& c : covered()) EXPECT_TRUE(exports.count(c)) << c << " is tested but not exported";
+LumiPoint Call::point(const std::string& name) const {
+  const double* const n = value(name).numbers;
+  return {static_cast<int>(n[0]), static_cast<int>(n[1])};
+}
+
+LumiSize Call::size(const std::string& name) const {
+  const LumiPoint p = point(name);
+  return {p.x, p.y};
+}
+
+LumiRect Call::rect(const std::string& name) const {
+  const double* const n = value(name).numbers;
+  return {static_cast<int>(n[0]), static_cast<int>(n[1]), static_cast<int>(n[2]), static_cast<int>(n[3])};
+}
+
+namespace {
+
+const Argument& argumentOf(const ExportRow& row, const std::string& name) {
+  for (const Argument& argument : row.arguments)
+    if (name == argument.name) return argument;
+  abortOver("argument", name);
 }
 
 }  // namespace
 
+void Member::results(const std::string& argument, const std::string& type) {
+  const Argument& its = argumentOf(*row, argument);
+  blocks.push_back({its.name, nullptr, type, true, {std::max(1, its.count)}, {}});
+}
+
+void Member::array(const std::string& argument, const std::string& type, const std::vector<int>& lengths,
+                   std::function<void(Random&, Byte*, int)> fill) {
+  const Argument& its = argumentOf(*row, argument);
+  blocks.push_back({its.name, its.length, type, false, lengths, std::move(fill)});
+}
+
+void Member::choose(const std::string& argument, const std::vector<Value>& among) {
+  const Argument& its = argumentOf(*row, argument);
+  choices.push_back({its.name, among});
+}
+
+void Member::requireAll() const {
+  if (!model) abortOver("model of", name);
+  const auto isNamed = [&](const Argument& argument) {
+    const std::string wanted = argument.name;
+    for (const Block& block : blocks)
+      if (wanted == block.name || (block.length && wanted == block.length)) return true;
+    return std::any_of(choices.begin(), choices.end(), [&](const Choice& c) { return wanted == c.name; });
+  };
+  size_t number = 0;
+  for (const Argument& argument : row->arguments) {
+    if (!isNumber(argument)) continue;
+    const bool isChosen = !numbers.at(number++).empty();
+    if (!isChosen && !isNamed(argument))
+      abortOver("what to choose a number from:", name + " " + argument.name);
+  }
+}
+
+Outcome Member::invoke(const Call& call, int misalignment) const {
+  return test::invoke(*row, slotsOf(*row, call).data(), misalignment);
+}
+
+LumStatus Member::run(const Call& call) const {
+  const Outcome outcome = invoke(call);
+  EXPECT_EQ(outcome.broken, "") << name;
+  return outcome.status;
+}
+
 Member memberOf(const ExportRow& row) {
   Member m;
   m.name = row.name;
-  m.types = row.types;
-  m.layouts = row.layouts;
+  m.types.assign(row.types.begin(), row.types.end());
+  m.layouts.assign(row.layouts.begin(), row.layouts.end());
   m.sampleBytes = sampleBytes(row.types.front());
-  m.components = row.types.front().back() == 'c' ? 2 : 1;
+  m.components = m.types.front().back() == 'c' ? 2 : 1;
   const Layout src = layoutOf(row.layouts.front()), dst = layoutOf(row.layouts.back());
   m.channels = {src.stored, dst.stored, std::min(src.used, dst.used)};
   for (const Argument& argument : row.arguments) {
@@ -179,38 +229,37 @@ Member memberOf(const ExportRow& row) {
       m.inPlace |= name == "srcDst";
     }
     if (argument.kind == Kind::Value) m.values = 1;
-    if (argument.kind == Kind::Values) m.values = argument.extra;
-    if (argument.kind == Kind::Offset || argument.kind == Kind::Number)
-      m.numbers.push_back(choicesOf(argument));
+    if (argument.kind == Kind::Values) m.values = argument.count;
+    if (isNumber(argument)) m.numbers.push_back(choicesOf(argument));
+    if (m.numbers.size() > kMaxNumbers) abortOver("so many numbers of", m.name);
     if (argument.kind == Kind::Lower) m.bounds = {{0.0f, 255.0f}, {-1.0f, 1.0f}, {-0.1f, 1000.7f}};
   }
-  for (Check check : row.checks) m.checksSteps |= check == Check::Step;
-  m.run = [&row](const Call& c) { return row.invoke.call(row.invoke.function, slotsOf(row, c).data()); };
+  for (const CheckStep& step : row.checks) m.checksSteps |= step.check == Check::Step;
+  m.row = &row;
   return m;
 }
 
+const std::deque<Member>& members() { return addedMembers(); }
+
+std::deque<Member>& addedMembers() {
+  static std::deque<Member> list;
+  return list;
+}
+
+std::set<std::string>& coveredNames() {
+  static std::set<std::string> names;
+  return names;
+}
+
 const Member& memberNamed(const std::string& name) {
-  for (const Member& m : added())
+  for (const Member& m : members())
     if (m.name == name) return m;
-  std::fprintf(stderr, "no member %s\n", name.c_str());
-  std::abort();
+  abortOver("member", name);
 }
-
-bool addModelTests(const std::vector<Member>& members) {
-  for (const Member& member : members) {
-    addCovered({member.name});
-    added().push_back(member);
-    testing::RegisterTest("Model", member.name.c_str(), nullptr, nullptr, __FILE__, __LINE__,
-                          [member]() -> testing::Test* { return new ModelTest(member); });
-  }
-  return true;
-}
-
-const std::vector<Member>& members() { return added(); }
 
 bool addCovered(const std::vector<std::string>& names) {
   for (const std::string& name : names)
-    EXPECT_TRUE(covered().insert(name).second) << name << " is added twice";
+    EXPECT_TRUE(coveredNames().insert(name).second) << name << " is added twice";
   return true;
 }
 

@@ -3,7 +3,10 @@
 // all of it follows from the export's registry row; a family's test adds the model.
 #pragma once
 
+#include <deque>
 #include <functional>
+#include <iterator>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -11,16 +14,30 @@
 #include "model/access.hpp"
 #include "support/contents.hpp"
 #include "support/invoke.hpp"
+#include "support/sample_type.hpp"
+#include "support/settings.hpp"
 
 namespace test {
 
 using model::Byte;
 
-constexpr int kMaxPlanes = 4, kMaxNumbers = 4;
+constexpr int kMaxPlanes = 4, kMaxNumbers = 8;
 
 // The arguments of one call, untyped. Images of one plane use the first pointer. In place, the last source is
 // the destination.
 struct Call {
+  // Memory that is no image: results, and arrays of values. Of any alignment.
+  struct Block {
+    const char* name;
+    Byte* data;
+    int count;
+  };
+  // A number, a size, a point or a rectangle that the member chose by its name.
+  struct Chosen {
+    const char* name;
+    Value value;
+  };
+
   LumiSize roi{};
   Byte* src[kMaxPlanes]{};
   Byte* src2 = nullptr;
@@ -30,13 +47,44 @@ struct Call {
   Byte* mask = nullptr;
   int maskStep = 0;
   const Byte* values = nullptr;
-  int numbers[kMaxNumbers]{};  // bit offsets and plain numbers, in the order of the arguments
+  int numbers[kMaxNumbers]{};  // bit offsets and plain numbers that are not chosen by name, in their order
   Lum32f lower = 0, upper = 0;
+  std::vector<Block> blocks;
+  std::vector<Chosen> chosen;
 
   model::Image srcImage() const { return {src[0], srcStep}; }
   model::Image src2Image() const { return {src2, src2Step}; }
   model::Image dstImage() const { return {dst[0], dstStep}; }
   model::Image maskImage() const { return {mask, maskStep}; }
+
+  const Block& block(const std::string& name) const;
+  const Value& value(const std::string& name) const;
+  double number(const std::string& name) const { return value(name).numbers[0]; }
+  LumiPoint point(const std::string& name) const;
+  LumiSize size(const std::string& name) const;
+  LumiRect rect(const std::string& name) const;
+};
+
+// What an operation is to do. A model may return the status, a warning, where that is not always lumStatusOk.
+class Model {
+ public:
+  Model() = default;
+  template <typename F, typename = std::enable_if_t<!std::is_same_v<std::decay_t<F>, Model>>>
+  Model(F f) {  // NOLINT: models are assigned
+    if constexpr (std::is_constructible_v<bool, F>)
+      if (!static_cast<bool>(f)) return;
+    run_ = [f = std::move(f)](const Call& c) -> LumStatus {
+      if constexpr (std::is_void_v<decltype(f(c))>)
+        return f(c), lumStatusOk;
+      else
+        return f(c);
+    };
+  }
+  explicit operator bool() const { return static_cast<bool>(run_); }
+  LumStatus operator()(const Call& c) const { return run_(c); }
+
+ private:
+  std::function<LumStatus(const Call&)> run_;
 };
 
 // An image argument, or as many as it has planes.
@@ -80,55 +128,86 @@ struct Member {
   bool inPlace = false;
   Aliasing aliasing = Aliasing::None;
   bool masked = false, checksSteps = false;
-  bool mayStream = true;      // whether large images are tried
-  bool floatResults = false;  // NaNs need not have equal bits, and rows of the destination are apart
-  int values = 0;             // samples of the value argument; one is passed by value
+  bool mayStream = true;          // whether large images are tried
+  int64_t streamsFrom = 2 << 20;  // bytes moved from which on a path may depend on them, at the most
+  bool floatResults = false;      // NaNs need not have equal bits, and rows of the destination are apart
+  int values = 0;                 // samples of the value argument; one is passed by value
   std::vector<Contents> contents = {Contents::Bytes};  // of sources and values
-  std::vector<std::vector<int>> numbers;               // what each number is chosen from
+  std::vector<std::vector<int>> numbers;  // what each number that is not chosen by name is chosen from
   std::vector<std::pair<Lum32f, Lum32f>> bounds;
-  std::function<LumStatus(const Call&)> run;
-  std::function<void(const Call&)> model;
+  const ExportRow* row = nullptr;
+  Model model;
+  bool allocates =
+      false;  // scratch, by lumcore: fails with lumStatusMemAlloc and leaves everything as it was
 
+  // Memory besides images: results between guards, and arrays of values.
+  struct Block {
+    const char *name, *length;
+    std::string type;
+    bool isResult;
+    std::vector<int> counts;  // how many samples, chosen from these
+    std::function<void(Random&, Byte*, int)> fill;
+  };
+  struct Choice {
+    const char* name;
+    std::vector<Value> values;
+  };
+  std::vector<Block> blocks;
+  std::vector<Choice> choices;
+
+  // The results of this name: samples of a type, one or one for each channel.
+  void results(const std::string& argument, const std::string& type);
+  // An array of one of these lengths. Its values are any of the type where fill does not make others.
+  void array(const std::string& argument, const std::string& type, const std::vector<int>& lengths,
+             std::function<void(Random&, Byte*, int)> fill = {});
+  // What a number, a size, a point or a rectangle is chosen from.
+  void choose(const std::string& argument, const std::vector<Value>& among);
+  // Ends the program where an argument is not described: a default could hide that it is not tested.
+  void requireAll() const;
+
+  Outcome invoke(const Call& call, int misalignment = 0) const;
+  // Expects that the rules of the calling convention are kept.
+  LumStatus run(const Call& call) const;
   bool planar() const { return src.planes > 1 || dst.planes > 1; }
 };
+
+// Images of a sample type and a layout, by the words of names.
+Operand operandOf(const std::string& type, const std::string& layout);
 
 // All that follows from the row.
 Member memberOf(const ExportRow& row);
 
-// Calls f with a value of the sample type.
-template <typename F>
-auto withType(const std::string& token, F f) {
-  if (token == "8u" || token == "1u") return f(Lum8u());
-  if (token == "8s") return f(Lum8s());
-  if (token == "16u") return f(Lum16u());
-  if (token == "16s" || token == "16sc") return f(Lum16s());  // complex: of its component
-  if (token == "32u") return f(Lum32u());
-  if (token == "32s" || token == "32sc") return f(Lum32s());
-  return f(Lum32f());
-}
-
-// The members of an operation, each given its model by describe(member, source sample, destination sample).
-template <typename Describe>
-std::vector<Member> membersOf(const std::string& operation, Describe describe) {
+// The members of an operation of this program's family, each given its model by describe(member, source
+// sample, destination sample). A list of the sample types that there are makes less to compile; one that is
+// not in it ends the program.
+template <typename Describe, typename List = CommonTypes>
+std::vector<Member> membersOf(const std::string& operation, Describe describe, List types = {}) {
   std::vector<Member> result;
   for (const ExportRow& row : exportRows()) {
-    if (row.operation != operation) continue;
+    if (row.operation != operation || row.family != programFamily()) continue;
     result.push_back(memberOf(row));
     Member& member = result.back();
-    withType(row.types.front(),
-             [&](auto src) { withType(row.types.back(), [&](auto dst) { describe(member, src, dst); }); });
+    const auto withBoth = [&](auto src) {
+      withType(
+          row.types.back(), [&](auto dst) { describe(member, src, dst); }, types);
+    };
+    withType(row.types.front(), withBoth, types);
   }
   return result;
 }
 
-// Registers a test of each member against its model, and the members as covered.
+// Registers the tests that every member has (tests/common), and the members as covered.
 bool addModelTests(const std::vector<Member>& members);
 
 // All members that have been added.
-const std::vector<Member>& members();
+const std::deque<Member>& members();
 const Member& memberNamed(const std::string& name);
 
 // Registers exports that have tests of their own, which need no images.
 bool addCovered(const std::vector<std::string>& names);
+
+// What has been registered so far.
+std::deque<Member>& addedMembers();
+std::set<std::string>& coveredNames();
 
 }  // namespace test

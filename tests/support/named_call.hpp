@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -16,46 +14,22 @@ class NamedCall {
   explicit NamedCall(const std::string& name) : NamedCall(rowNamed(name)) {}
   explicit NamedCall(const ExportRow& row) : row_(row), slots_(row.arguments.size()) {}
 
-  NamedCall& pointer(const std::string& name, const void* p) {
-    slot(name).pointer = const_cast<void*>(p);
-    return *this;
-  }
-  NamedCall& number(const std::string& name, int n) {
-    slot(name).number = n;
-    return *this;
-  }
-  NamedCall& size(const std::string& name, LumiSize s) {
-    slot(name).size = s;
-    return *this;
-  }
-  NamedCall& point(const std::string& name, LumiPoint p) {
-    slot(name).point = p;
-    return *this;
-  }
+  NamedCall& pointer(const std::string& name, const void* p);
+  NamedCall& number(const std::string& name, double n);
+  NamedCall& size(const std::string& name, LumiSize s);
+  NamedCall& point(const std::string& name, LumiPoint p);
+  NamedCall& rect(const std::string& name, LumiRect r);
   // With its step.
-  NamedCall& image(const std::string& name, const void* first, int step) {
-    return pointer(name, first).number(name + "Step", step);
-  }
+  NamedCall& image(const std::string& name, const void* first, int step);
   // Samples of which one is passed by value, and more by pointer.
-  NamedCall& values(const std::string& name, const void* samples) {
-    slot(name).value = samples;
-    return pointer(name, samples);
-  }
-  LumStatus run() const { return row_.invoke.call(row_.invoke.function, slots_.data()); }
+  NamedCall& values(const std::string& name, const void* samples);
+
+  // Expects that the rules of the calling convention are kept; 32-bit stacks are misaligned in turn.
+  LumStatus run() const;
 
  private:
-  static const ExportRow& rowNamed(const std::string& name) {
-    for (const ExportRow& row : exportRows())
-      if (row.name == name) return row;
-    std::fprintf(stderr, "no export %s\n", name.c_str());
-    std::abort();
-  }
-  Slot& slot(const std::string& name) {
-    for (size_t i = 0; i < slots_.size(); ++i)
-      if (row_.arguments[i].name == name) return slots_[i];
-    std::fprintf(stderr, "no argument %s of %s\n", name.c_str(), row_.name);
-    std::abort();
-  }
+  size_t indexOf(const std::string& name) const;
+  Slot& slot(const std::string& name, Passing passing);
 
   const ExportRow& row_;
   std::vector<Slot> slots_;

@@ -12,8 +12,9 @@
 namespace test {
 namespace {
 
-constexpr ptrdiff_t kMargin = 160;       // bytes around an image that are filled anew for each case
-constexpr size_t kPlacementRoom = 8192;  // what a phase and its line add to an image
+constexpr ptrdiff_t kMargin = 160;         // bytes around an image that are filled anew for each case
+constexpr size_t kLargestBlock = 1 << 18;  // of results and arrays
+constexpr size_t kPlacementRoom = 8192;    // what a phase and its line add to an image
 
 // The bytes of an image, relative to its first pixel.
 struct Extent {
@@ -155,9 +156,10 @@ void Stage::placeImages(const Member& member, const Case& c, Call& call) {
 
 void Stage::placeValues(const Member& member, const Case& c, Call& call, Random& random) {
   if (member.values == 0) return;
+  if (placed_.empty()) abortOver("image of", member.name);
   const int bytes = member.values * member.sampleBytes;
   const Placed& dst = placed_.front();
-  if (c.valuesInDst && dst.rowBytes >= bytes) {
+  if (c.valuesInDst && member.dst.planes > 0 && dst.rowBytes >= bytes) {
     call.values = dst.first + random.below(dst.rowBytes - bytes + 1);
     return;
   }
@@ -165,6 +167,38 @@ void Stage::placeValues(const Member& member, const Case& c, Call& call, Random&
   fillSamples(member.types.front(), values, bytes, c.inputs, random);
   call.values = values;
   placed_.push_back({"values", values_, values, 0, bytes, 1, values_->begin(), values_->end()});
+}
+
+void Stage::placeBlocks(const Member& member, const Case& c, Call& call, Random& random) {
+  for (size_t i = 0; i < member.blocks.size(); ++i) {
+    const Member::Block& block = member.blocks[i];
+    const auto [count, atEnd, phase] = c.blocks[i];
+    const int bytes = count * sampleBytes(block.type);
+    if (i == blocks_.size()) {
+      arenas_.push_back(std::make_unique<Arena>(kLargestBlock));
+      blocks_.push_back(arenas_.back().get());
+    }
+    const Arena& arena = *blocks_[i];
+    if (bytes + phase > arena.end() - arena.begin()) abortOver("memory for", block.name);
+    Byte* const first = atEnd ? arena.end() - bytes - phase : arena.begin() + phase;
+    const Placed placed{block.name,
+                        &arena,
+                        first,
+                        bytes,
+                        bytes,
+                        1,
+                        std::max(first - kMargin, arena.begin()),
+                        std::min(first + bytes + kMargin, arena.end())};
+    random.fill(placed.low, static_cast<size_t>(placed.high - placed.low));
+    if (block.fill)
+      block.fill(random, first, count);
+    else if (!block.isResult)
+      fillSamples(block.type, first, bytes, c.inputs, random);
+    call.blocks.push_back({block.name, first, count});
+    placed_.push_back(placed);
+  }
+  for (size_t i = 0; i < member.choices.size(); ++i)
+    call.chosen.push_back({member.choices[i].name, c.chosen[i]});
 }
 
 void Stage::fillMask(const Call& call, MaskKind kind, Random& random) const {
@@ -186,10 +220,11 @@ Call Stage::onTwins(const Member& member, const Call& call) const {
   if (call.mask) result.mask = twin(call.mask);
   if (call.values) result.values = twin(call.values);
   result.planes = nullptr;
+  for (Call::Block& block : result.blocks) block.data = twin(block.data);
   return result;
 }
 
-std::optional<std::string> Stage::run(const Member& member, const Case& c) {
+std::optional<std::string> Stage::run(const Member& member, const Case& c, std::optional<LumStatus> refusal) {
   Random random(c.contents);
   Call call;
   call.roi = c.roi;
@@ -211,23 +246,27 @@ std::optional<std::string> Stage::run(const Member& member, const Case& c) {
                     p.first + static_cast<ptrdiff_t>(y) * p.step, p.rowBytes, c.inputs, random);
   if (member.masked) fillMask(call, c.maskKind, random);
   placeValues(member, c, call, random);
+  placeBlocks(member, c, call, random);
   for (const Placed& p : placed_) p.arena->copyToTwin(p.low, p.high);
 
-  member.model(onTwins(member, call));
-  LumStatus status = 0;
-  if (const auto fault = faultOf([&] { status = member.run(call); })) {
+  const LumStatus expected = refusal ? *refusal : member.model(onTwins(member, call));
+  Outcome outcome;
+  const int misalignment = sizeof(void*) == 4 ? 4 * random.below(4) : 0;
+  if (const auto fault = faultOf([&] { outcome = member.invoke(call, misalignment); })) {
     makeEqual();
     return "memory fault, " + where(fault->address);
   }
-  if (status != lumStatusOk) return "status " + std::to_string(status);
   auto failure = compare(member);
+  if (outcome.status != expected)
+    failure = "status " + std::to_string(outcome.status) + ", not " + std::to_string(expected);
+  if (!outcome.broken.empty()) failure = "calling convention: " + outcome.broken;
   if (failure) makeEqual();
   return failure;
 }
 
 std::optional<std::string> Stage::compare(const Member& member) const {
   for (const Placed& p : placed_) {
-    if (member.floatResults && p.role == "destination") equateNaNs(p);
+    if (member.floatResults && p.role != "source") equateNaNs(member, p);
     const Byte* at = p.arena->firstDifference(p.low, p.high);
     if (!at) continue;
     std::ostringstream out;
@@ -250,13 +289,22 @@ std::optional<std::string> Stage::compare(const Member& member) const {
 }
 
 // Where both have a NaN, the model gets the bits of ours.
-void Stage::equateNaNs(const Placed& p) const {
+template <typename T>
+void Stage::equateNaNsOf(const Placed& p) const {
   for (int y = 0; y < p.rows; ++y) {
     Byte* const row = p.first + static_cast<ptrdiff_t>(y) * p.step;
-    for (int i = 0; i < p.rowBytes / 4; ++i)
-      if (std::isnan(model::load<float>(row, i)) && std::isnan(model::load<float>(p.arena->twin(row), i)))
-        std::memcpy(p.arena->twin(row) + 4 * i, row + 4 * i, 4);
+    for (int i = 0; i < p.rowBytes / static_cast<int>(sizeof(T)); ++i)
+      if (std::isnan(model::load<T>(row, i)) && std::isnan(model::load<T>(p.arena->twin(row), i)))
+        model::store<T>(p.arena->twin(row), i, model::load<T>(row, i));
   }
+}
+
+void Stage::equateNaNs(const Member& member, const Placed& p) const {
+  std::string type = p.role == "destination" ? member.types.back() : "";
+  for (const Member::Block& block : member.blocks)
+    if (block.isResult && p.role == block.name) type = block.type;
+  if (isTypeOf<Lum32f>(type)) equateNaNsOf<Lum32f>(p);
+  if (isTypeOf<Lum64f>(type)) equateNaNsOf<Lum64f>(p);
 }
 
 std::optional<std::string> Stage::compareEverything() const {

@@ -16,8 +16,10 @@ class Stage {
  public:
   explicit Stage(size_t largestImage);
 
-  // Runs the member and its model; what went wrong, or nothing.
-  std::optional<std::string> run(const Member& member, const Case& c);
+  // Runs the member and its model; what went wrong, or nothing. Where a refusal is expected, nothing but that
+  // status may come of the call.
+  std::optional<std::string> run(const Member& member, const Case& c,
+                                 std::optional<LumStatus> refusal = std::nullopt);
 
   // Whether every byte of every arena, far from the images too, is as the models left it.
   std::optional<std::string> compareEverything() const;
@@ -36,16 +38,20 @@ class Stage {
                int bitOffset, const Operand& operand) const;
   void placeImages(const Member& member, const Case& c, Call& call);
   void placeValues(const Member& member, const Case& c, Call& call, Random& random);
+  void placeBlocks(const Member& member, const Case& c, Call& call, Random& random);
   void fillMask(const Call& call, MaskKind kind, Random& random) const;
   Call onTwins(const Member& member, const Call& call) const;
   Byte* twin(const Byte* at) const;
   std::optional<std::string> compare(const Member& member) const;
-  void equateNaNs(const Placed& placed) const;
+  template <typename T>
+  void equateNaNsOf(const Placed& placed) const;
+  void equateNaNs(const Member& member, const Placed& placed) const;
   std::string where(const void* fault) const;
   void makeEqual() const;
 
   std::vector<std::unique_ptr<Arena>> arenas_;
   Arena *src_[kMaxPlanes], *src2_, *dst_[kMaxPlanes], *mask_, *values_, *planes_;
+  std::vector<Arena*> blocks_;
   std::vector<Placed> placed_;
 };
 

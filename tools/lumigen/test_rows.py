@@ -9,19 +9,22 @@ from .names import GENERATED_ALL, all_exports
 class _Pool:
     """Lists of C++ initialisers, one behind the other; a list that is there already is not repeated."""
 
-    def __init__(self):
-        self.items, self.first = [], {}
+    def __init__(self, name):
+        self.name, self.items, self.first = name, [], {}
 
     def add(self, items):
+        """The span of these items in the table."""
         key = tuple(items)
+        if not key:
+            return "{}"
         if key not in self.first:
             self.first[key] = len(self.items)
             self.items += key
-        return f"{{{self.first[key]}, {len(key)}}}"
+        return f"{{{self.name} + {self.first[key]}, {len(key)}}}"
 
-    def table(self, declaration):
+    def table(self, kind):
         rows = "".join(f"    {item},\n" for item in self.items or ["{}"])
-        return f"constexpr {declaration}[] = {{\n{rows}}};\n"
+        return f"constexpr {kind} {self.name}[] = {{\n{rows}}};\n"
 
 
 def _value(numbers):
@@ -34,12 +37,18 @@ def _refused(refused):
     return f"{{Check::Status, lumStatus{refused.by}, {_value(refused.value)}}}"
 
 
+def _base(arg):
+    if arg.kind == "upper":
+        return (255,)
+    if arg.name == "roi":
+        return (7, 3)
+    return arg.base if arg.kind in ("number", "size", "point", "rect") else (0,)
+
+
 def _argument(arg, refused):
-    count = 255 if arg.kind == "upper" else arg.count
-    base = _value(arg.base if arg.kind in ("number", "size", "point", "rect") else (0,))
     length = f'"{arg.length}"' if arg.length else "nullptr"
-    return (f'{{Kind::{arg.kind.capitalize()}, Passing::{arg.passing.capitalize()}, "{arg.name}", {count}, {base}, '
-            f'{length}, {refused.add(map(_refused, arg.refused))}}}')
+    return (f'{{Kind::{arg.kind.capitalize()}, Passing::{arg.passing.capitalize()}, "{arg.name}", {arg.count}, '
+            f'{_value(_base(arg))}, {length}, {refused.add(map(_refused, arg.refused))}}}')
 
 
 def _check(word, export):
@@ -56,22 +65,25 @@ def _words(words):
 
 
 def export_table(families):
-    """A row for each export that returns a status: what the tests know of it."""
-    refused, arguments, checks = _Pool(), _Pool(), _Pool()
+    """The name of each export, and a row for each that returns a status: what the tests know of it."""
+    refused, arguments, checks = _Pool("kRefused"), _Pool("kArguments"), _Pool("kChecks")
+    family_of = {e.name: f.stem for f in families for op in f.operations for e in op.exports}
     exports = [e for e in all_exports(families) if e.returns == "LumStatus"]
     rows = []
     for e in exports:
         args = arguments.add(_argument(a, refused) for a in e.args)
         order = checks.add(_check(word, e) for word in e.check)
-        rows.append(f'    {{"{e.name}", "{e.op.name}", {_words(e.types)}, {_words(e.layouts)}, &{e.name}, '
-                    f'{args}, {order}}},\n')
+        rows.append(f'    {{"{e.name}", "{family_of[e.name]}", "{e.op.name}", {_words(e.types)}, {_words(e.layouts)}, '
+                    f'&{e.name}, {args}, {order}}},\n')
     declared = "".join(f"void {e.name}();\n" for e in exports)
+    names = "".join(f'    {{"{e.name}", "{family_of[e.name]}"}},\n' for e in all_exports(families))
     return "\n".join([
         "// " + GENERATED_ALL,
         "// The functions are declared without their arguments: they are called by description.",
         'extern "C" {\n' + declared + "}",
-        refused.table("Refused kRefused"),
-        arguments.table("Argument kArguments"),
-        checks.table("CheckStep kChecks"),
+        refused.table("Refused"),
+        arguments.table("Argument"),
+        checks.table("CheckStep"),
         "constexpr ExportRow kRows[] = {\n" + "".join(rows) + "};\n",
+        "constexpr ExportName kNames[] = {\n" + names + "};\n",
     ])

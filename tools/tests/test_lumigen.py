@@ -118,7 +118,7 @@ class Rows(unittest.TestCase):
         self.assertEqual((top.kind, top.base, [r.value for r in top.refused]), ("number", ("2",), [("-1",), ("2147483647",)]))
         table = test_rows.export_table([family])
         self.assertIn("{Check::Inside, lumStatusOk, {{7, 2}}},", table)
-        self.assertIn('{Kind::Number, Passing::Int32, "top", 0, {{2}}, nullptr, {2, 2}},', table)
+        self.assertIn('{Kind::Number, Passing::Int32, "top", 0, {{2}}, nullptr, {kRefused + 2, 2}},', table)
 
     def test_values_refused_by_a_status(self):
         family = read(HEAD + "  param mask LumiSize = 3 3 : the mask\n  param kind int = 1 : a kind\n"

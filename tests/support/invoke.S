@@ -2,36 +2,37 @@
 /*
  * Calls a function with everything around it watched.
  *
- *   int32_t lumiCallChecked(CheckedCall* call);
+ *   int32_t lumiInvoke(PackedCall* call);
  *
- * struct CheckedCall (offsets in words, then doubles; see call_checked.hpp): function, count of words,
- * words, misalignment of the stack in bytes, doubles; the result of each check comes back in `broken`.
+ * The members of PackedCall, in words: function 0, stackWords 1, misalignment 2, tellsStates 3, broken 4,
+ * statesInUse 5, integers 6 to 11; then vectors and stack.
  */
 #define MAGIC(n) (0x5A5A0000 + n)
 
 .text
-.globl lumiCallChecked
-.type lumiCallChecked, @function
+.globl lumiInvoke
+.type lumiInvoke, @function
 
 #ifdef __i386__
-lumiCallChecked:
+#define STACK 112
+lumiInvoke:
 	pushl %ebp
 	pushl %ebx
 	pushl %esi
 	pushl %edi
 	movl 20(%esp), %eax          /* the record */
-	movl %esp, %ecx
+	movl %esp, %edx
 	subl $512, %esp
 	andl $-64, %esp
-	subl 12(%eax), %esp          /* misalignment */
+	subl 8(%eax), %esp           /* misalignment */
 	movl %eax, 256(%esp)         /* kept out of the reach of the arguments */
-	movl %ecx, 260(%esp)
-	movl 4(%eax), %ecx           /* words */
-	movl 8(%eax), %esi
+	movl %edx, 260(%esp)
+	movl %esp, 264(%esp)
+	movl 4(%eax), %ecx
+	leal STACK(%eax), %esi
 	movl %esp, %edi
 	cld
 	rep movsl
-	movl %esp, 264(%esp)
 	movl (%eax), %eax
 	vzeroupper
 	movl $MAGIC(1), %ebx
@@ -60,62 +61,68 @@ lumiCallChecked:
 	leal 4(%esp), %esp
 	jz 1f
 	orl $32, %edx
-1:	movl 256(%esp), %ecx
-	movl %edx, 16(%ecx)
+	cld
+1:	movl 256(%esp), %ebx
+	movl %edx, 16(%ebx)
+	cmpl $0, 12(%ebx)
+	je 1f
 	movl %eax, %esi
-	movl $1, %ecx                /* which register states are in use; bit 2: upper vector halves */
+	movl $1, %ecx
 	xgetbv
-	movl 256(%esp), %ecx
-	movl %eax, 20(%ecx)
+	movl %eax, 20(%ebx)
 	movl %esi, %eax
-	movl 260(%esp), %esp
+1:	movl 260(%esp), %esp
 	popl %edi
 	popl %esi
 	popl %ebx
 	popl %ebp
 	ret
 #else
-lumiCallChecked:
+#define INTEGERS 48
+#define VECTORS 96
+#define STACK 160
+lumiInvoke:
 	pushq %rbp
 	pushq %rbx
 	pushq %r12
 	pushq %r13
 	pushq %r14
 	pushq %r15
-	movq %rsp, %rax
+	movq %rsp, %rdx
 	subq $1024, %rsp
 	andq $-64, %rsp
-	movq %rdi, 512(%rsp)
-	movq %rax, 520(%rsp)
+	movq %rdi, 512(%rsp)         /* kept out of the reach of the arguments */
+	movq %rdx, 520(%rsp)
+	movq %rsp, 528(%rsp)
 	movq %rdi, %rax
-	movq 8(%rax), %rcx           /* words beyond six go to the stack */
-	movq 16(%rax), %r10
-	subq $6, %rcx
-	jle 2f
-	leaq 48(%r10), %rsi
+	movq 8(%rax), %rcx
+	leaq STACK(%rax), %rsi
 	movq %rsp, %rdi
 	cld
 	rep movsq
-2:	movq 48(%rax), %r11          /* doubles */
-	vmovsd (%r11), %xmm0
-	vmovsd 8(%r11), %xmm1
-	vmovsd 16(%r11), %xmm2
-	vmovsd 24(%r11), %xmm3
-	movq (%rax), %r11
-	movq (%r10), %rdi
-	movq 8(%r10), %rsi
-	movq 16(%r10), %rdx
-	movq 24(%r10), %rcx
-	movq 32(%r10), %r8
-	movq 40(%r10), %r9
-	movq %rsp, 528(%rsp)
+	vzeroupper
+	vmovsd VECTORS(%rax), %xmm0
+	vmovsd VECTORS+8(%rax), %xmm1
+	vmovsd VECTORS+16(%rax), %xmm2
+	vmovsd VECTORS+24(%rax), %xmm3
+	vmovsd VECTORS+32(%rax), %xmm4
+	vmovsd VECTORS+40(%rax), %xmm5
+	vmovsd VECTORS+48(%rax), %xmm6
+	vmovsd VECTORS+56(%rax), %xmm7
+	movq INTEGERS(%rax), %rdi
+	movq INTEGERS+8(%rax), %rsi
+	movq INTEGERS+16(%rax), %rdx
+	movq INTEGERS+24(%rax), %rcx
+	movq INTEGERS+32(%rax), %r8
+	movq INTEGERS+40(%rax), %r9
+	movq (%rax), %rax
 	movq $MAGIC(1), %rbx
 	movq $MAGIC(2), %r12
 	movq $MAGIC(3), %r13
 	movq $MAGIC(4), %rbp
 	movq $MAGIC(5), %r14
 	movq $MAGIC(6), %r15
-	call *%r11
+	call *%rax
 	xorl %edx, %edx
 	cmpq $MAGIC(1), %rbx
 	je 1f
@@ -133,25 +140,27 @@ lumiCallChecked:
 	je 1f
 	orl $16, %edx
 1:	pushfq
-	testq $0x400, (%rsp)
+	testq $0x400, (%rsp)         /* direction flag */
 	leaq 8(%rsp), %rsp
 	jz 1f
 	orl $32, %edx
+	cld
 1:	cmpq $MAGIC(5), %r14
 	je 1f
 	orl $64, %edx
 1:	cmpq $MAGIC(6), %r15
 	je 1f
 	orl $128, %edx
-1:	movq 512(%rsp), %rcx
-	movl %edx, 32(%rcx)
+1:	movq 512(%rsp), %rbx
+	movq %rdx, 32(%rbx)
+	cmpq $0, 24(%rbx)
+	je 1f
 	movl %eax, %esi
 	movl $1, %ecx
 	xgetbv
-	movq 512(%rsp), %rcx
-	movl %eax, 40(%rcx)
+	movq %rax, 40(%rbx)
 	movl %esi, %eax
-	movq 520(%rsp), %rsp
+1:	movq 520(%rsp), %rsp
 	popq %r15
 	popq %r14
 	popq %r13
@@ -160,5 +169,5 @@ lumiCallChecked:
 	popq %rbp
 	ret
 #endif
-.size lumiCallChecked, .-lumiCallChecked
+.size lumiInvoke, .-lumiInvoke
 .section .note.GNU-stack,"",@progbits

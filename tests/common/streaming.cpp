@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "common/member_checks.hpp"
 #include "support/core_guard.hpp"
-#include "support/member.hpp"
 #include "support/settings.hpp"
 #include "support/stage.hpp"
 
@@ -52,7 +52,8 @@ struct Rows {
   bool tight;    // they touch one another
   bool aligned;  // they start on 64-byte boundaries
 };
-constexpr Rows kRows[] = {{true, true}, {true, false}, {false, true}, {false, false}};
+// Two that follow one another differ in both.
+constexpr Rows kRows[] = {{true, true}, {false, false}, {true, false}, {false, true}};
 
 // A ROI of that many moved bytes or a little less: many rows, or few long ones.
 Case largeCase(const Member& m, int64_t moved, Rows rows, int index) {
@@ -64,7 +65,9 @@ Case largeCase(const Member& m, int64_t moved, Rows rows, int index) {
   c.roi.height = random.pick(heights);
   c.roi.width = static_cast<int>(moved / bytesMoved(m) / c.roi.height);
   if (rows.aligned && c.roi.width >= 64) c.roi.width = c.roi.width / 64 * 64;
-  for (size_t i = 0; i < m.numbers.size(); ++i) c.numbers[i] = random.pick(m.numbers[i]);
+  for (size_t i = 0; i < m.numbers.size(); ++i)
+    if (!m.numbers[i].empty()) c.numbers[i] = random.pick(m.numbers[i]);
+  chooseNamed(m, random, c);
   if (!m.bounds.empty()) c.bounds = random.pick(m.bounds);
   c.inputs = random.pick(m.contents);
   const auto step = [&](const Operand& operand) {
@@ -94,71 +97,34 @@ void expectEqualToModel(const Member& m, const Case& c, const char* report) {
                         << "\nLUMI_TEST_SEED=" << settings().seed;
 }
 
-// One test for each kind of member keeps shards even.
-class Streaming : public testing::TestWithParam<std::string> {
- protected:
-  bool chosen(const Member& m) const { return m.mayStream && m.name.rfind(GetParam(), 0) == 0; }
-  const CoreGuard guard_;
-};
-
-TEST_P(Streaming, AsksNothingUpToTheFloor) {
-  for (const Member& m : members()) {
-    if (!chosen(m)) continue;
-    for (const Rows& rows : kRows) {
-      testcore::setCacheSize(1);
-      const Case c = largeCase(m, kFloor, rows, 0);
-      ASSERT_LE(int64_t{c.roi.width} * c.roi.height * bytesMoved(m), kFloor);
-      ASSERT_NO_FATAL_FAILURE(expectEqualToModel(m, c, "none expected"));
-      EXPECT_EQ(testcore::counts().cacheQueries, 0) << describe(m, c);
-    }
-  }
-}
-
-TEST_P(Streaming, BypassedCacheStoresTheSame) {
-  testcore::setCacheSize(1);
-  for (const Member& m : members()) {
-    if (!chosen(m)) continue;
-    int index = 0;
-    // The second is above every size from which on stores may bypass the cache.
-    for (int64_t moved : {2 * kFloor + 65536, 6 * kFloor + 65536})
-      for (const Rows& rows : kRows)
-        ASSERT_NO_FATAL_FAILURE(expectEqualToModel(m, largeCase(m, moved, rows, ++index), "1 byte"));
-  }
-}
-
-TEST_P(Streaming, AnyReportOfTheCacheIsTaken) {
-  constexpr int64_t sizes[] = {kFloor + 64, 2 * kFloor - 1, 2 * kFloor, 2 * kFloor + 4096, 4 * kFloor};
-  for (const Member& m : members()) {
-    if (!chosen(m)) continue;
-    Random random(mixSeed(settings().seed, m.name, -1));
-    for (int i = 0; i < settings().scaled(4); ++i) {
-      const CacheReport report = random.pick(kReports);
-      report.apply();
-      const Case c = largeCase(m, random.pick(sizes), random.pick(kRows), 100 + i);
-      ASSERT_NO_FATAL_FAILURE(expectEqualToModel(m, c, report.about));
-    }
-    EXPECT_EQ(testcore::counts().allocations, 0) << m.name;
-  }
-}
-
-// Members by the beginnings of their names, so that they run in parallel.
-const std::vector<std::string> kGroups = {
-    "lumiSet_8u",      "lumiSet_16s",     "lumiSet_16u",     "lumiSet_32s",     "lumiSet_32f",
-    "lumiCopy_8u",     "lumiCopy_16s",    "lumiCopy_16u",    "lumiCopy_32s",    "lumiCopy_32f",
-    "lumiCopyManaged", "lumiDup",         "lumiAddC_",       "lumiSubC_",       "lumiConvert_8u",
-    "lumiConvert_8s",  "lumiConvert_16s", "lumiConvert_16u", "lumiConvert_32s", "lumiConvert_32u",
-    "lumiConvert_32f", "lumiScale_8u",    "lumiScale_16",    "lumiScale_32",    "lumiBinToGray",
-    "lumiGrayToBin",   "lumiConvert_1u"};
-
-TEST(StreamingGroups, HoldEveryMember) {
-  for (const Member& m : members()) {
-    const auto begins = [&](const std::string& group) { return m.name.rfind(group, 0) == 0; };
-    EXPECT_TRUE(!m.mayStream || std::any_of(kGroups.begin(), kGroups.end(), begins)) << m.name;
-  }
-}
-
-INSTANTIATE_TEST_SUITE_P(Each, Streaming, testing::ValuesIn(kGroups),
-                         [](const auto& each) { return each.param; });
-
 }  // namespace
+
+bool isTriedWithLargeImages(const Member& m) { return m.mayStream; }
+
+void expectModelOfLargeImages(const Member& m) {
+  const CoreGuard guard;
+  Random random(mixSeed(settings().seed, m.name, -1));
+  const auto rows = [&, first = random.below(4)](int i) { return kRows[(first + i) % 4]; };
+
+  testcore::setCacheSize(1);
+  const Case small = largeCase(m, kFloor, rows(0), 0);
+  ASSERT_LE(int64_t{small.roi.width} * small.roi.height * bytesMoved(m), kFloor);
+  ASSERT_NO_FATAL_FAILURE(expectEqualToModel(m, small, "none expected"));
+  EXPECT_EQ(testcore::counts().cacheQueries, 0) << describe(m, small);
+
+  // Above every size from which on stores may bypass the cache, which is too small: aligned rows and others.
+  for (int i = 0; i < settings().scaled(2); ++i)
+    ASSERT_NO_FATAL_FAILURE(
+        expectEqualToModel(m, largeCase(m, m.streamsFrom + 65536, rows(i), 1 + i), "1 byte"));
+
+  constexpr int64_t sizes[] = {kFloor + 64, kFloor + 4096, 2 * kFloor - 1, 2 * kFloor};
+  for (int i = 0; i < settings().scaled(2); ++i) {
+    const CacheReport report = random.pick(kReports);
+    report.apply();
+    ASSERT_NO_FATAL_FAILURE(
+        expectEqualToModel(m, largeCase(m, random.pick(sizes), rows(2 + i), 100 + i), report.about));
+  }
+  EXPECT_EQ(testcore::counts().allocations, 0) << m.name;
+}
+
 }  // namespace test

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+// Copies between layouts, planes and pixels, against the model.
+#include "data/copy_members.hpp"
+
+namespace test {
+namespace {
+
+const bool added = addModelTests(membersOf("Copy", [](Member& m, auto, auto dst) {
+  m.model = copyModelOf<decltype(dst)>(m);
+  // Of a plane and pixels one channel takes part: the pixels' image ends with its last sample.
+  if (m.channels.moved == 1 && !m.planar()) m.src.lastPixelBytes = m.dst.lastPixelBytes = m.sampleBytes;
+}));
+
+const bool spreadAdded = addModelTests(membersOf("Dup", [](Member& m, auto, auto dst) {
+  const int channels = m.channels.dst;
+  m.model = [=](const Call& c) {
+    model::duplicate<decltype(dst)>(c.srcImage(), c.dstImage(), c.roi, channels);
+  };
+}));
+
+}  // namespace
+}  // namespace test
