@@ -36,9 +36,9 @@ double roundedToEven(double x) {
 
 }  // namespace
 
-// Rounded in any direction, the quotient is one of its two neighbours: from there the remainder tells the nearer
-// one. It is below 2^32, so that modulo 2^64 is enough. No quotient of 31-bit sizes is halfway between its
-// neighbours, or so close to a power of two that their distance would change.
+// Rounded in any direction, the quotient is one of its two neighbours: from there the remainder tells the
+// nearer one. It is below 2^32, so that modulo 2^64 is enough. No quotient of 31-bit sizes is halfway between
+// its neighbours, or so close to a power of two that their distance would change.
 ExactPositions::ExactPositions(int32_t src, int32_t dst) {
   const uint64_t bits = bitsOf(static_cast<double>(src) / static_cast<double>(dst));
   shift_ = kBias - static_cast<int>(bits >> kMantissaBits);
@@ -62,15 +62,14 @@ double ExactPositions::product(uint32_t n, int shift) const {
   return doubleOf((static_cast<uint64_t>(kBias + dropped - shift - 1) << kMantissaBits) + kept);
 }
 
-
 int32_t ExactPositions::nearest(int32_t i) const {
   const double at = centre(i), index = std::floor(at);
   const bool isBelow = index >= 1 && !sumReaches(at, -kBelowTie, index);
   return static_cast<int32_t>(index) - (isBelow ? 1 : 0);
 }
 
-// From 0 on the subtractions are exact, but a difference of zero has the sign of the rounding mode. Before, both
-// round to what doubles hold between 1/4 and 1/2, and between 1/2 and 1.
+// From 0 on the subtractions are exact, but a difference of zero has the sign of the rounding mode. Before,
+// both round to what doubles hold between 1/4 and 1/2, and between 1/2 and 1.
 Between ExactPositions::between(int32_t i) const {
   const double at = centre(i);
   if (at >= 0.5) {

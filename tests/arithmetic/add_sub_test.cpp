@@ -236,6 +236,32 @@ TEST(AddSub, ResultsThatAreAllZeroReadNoSource) {
 }
 
 // Nothing to add: a copy, or nothing at all; wrong arguments are still wrong.
+// A factor that shifts every bit out of a constant that is not zero makes every sum the maximum.
+template <typename T, typename Function>
+void expectMaximum(Function* function, int firstScale) {
+  const Arena closed(1 << 12);
+  closed.setAccessible(closed.begin(), closed.end(), false);
+  const T* const src = reinterpret_cast<const T*>(closed.begin());
+  const LumiSize roi{37, 2};
+  for (int s : {firstScale, firstScale - 1, -1000, INT32_MIN})
+    for (T value : {T{1}, std::numeric_limits<T>::max()}) {
+      std::vector<T> dst(40 * 2, 7);
+      LumStatus status = 0;
+      ASSERT_FALSE(faultOf([&] {
+        status = function(src, 64, value, dst.data(), 40 * static_cast<int>(sizeof(T)), roi, s);
+      })) << "reads the source at "
+          << s;
+      ASSERT_EQ(status, lumStatusOk);
+      for (size_t i = 0; i < dst.size(); ++i)
+        ASSERT_EQ(dst[i], i % 40 < 37 ? std::numeric_limits<T>::max() : T{7}) << i << " at " << s;
+    }
+}
+
+TEST(AddSub, SumsThatAreAllMaximumReadNoSource) {
+  expectMaximum<Lum8u>(lumiAddC_8u_C1RSfs, -8);
+  expectMaximum<Lum16u>(lumiAddC_16u_C1RSfs, -16);
+}
+
 TEST(AddSub, ZeroConstantInPlaceTouchesNothing) {
   Arena closed(4096);
   closed.setAccessible(closed.begin(), closed.end(), false);

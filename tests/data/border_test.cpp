@@ -302,7 +302,7 @@ TEST(BorderMode, TypeAndSides) {
     EXPECT_TRUE(lumi::BorderMode(all).isInMemory(lumiBorderInMemoryLeft)) << all;
   }
   EXPECT_EQ(lumi::BorderMode(8 | lumiBorderReplicate).type(), 9);
-  const lumi::Frame sides = lumi::Frame::around({3, 2}, {10, 9}, 4, 1);
+  const lumi::Margins sides = lumi::Margins::around({3, 2}, {10, 9}, 4, 1);
   EXPECT_EQ(sides.left, 1);
   EXPECT_EQ(sides.top, 4);
   EXPECT_EQ(sides.right, 6);
