@@ -51,6 +51,30 @@ template <typename Kernel, typename... Image>
   for (int y = 0; y < rows; ++y) kernel(images.row(y)...);
 }
 
+// The same for kernels that return a status, or any number: every row is done, and the first result that is
+// not zero is kept.
+template <typename Kernel, typename... Image>
+[[gnu::always_inline]] inline auto walkKeepingFirst(int rows, Kernel&& kernel, Image... images) {
+  decltype(kernel(images.row(0)...)) first{};
+  walkRows(
+      rows,
+      [&](auto... row) {
+        const auto result = kernel(row...);
+        if (first == 0) first = result;
+      },
+      images...);
+  return first;
+}
+
+// The same for kernels that add a row to what is known of the rows before: sum = kernel(sum, row of each
+// image...).
+template <typename Sum, typename Kernel, typename... Image>
+[[gnu::always_inline]] inline Sum walkAccumulating(int rows, Sum sum, Kernel&& kernel, Image... images) {
+  walkRows(
+      rows, [&](auto... row) { sum = kernel(sum, row...); }, images...);
+  return sum;
+}
+
 // The same for a row kernel of one source and one destination.
 template <typename RowKernel>
 [[gnu::always_inline]] inline void walkPixels(RowKernel&& kernel, SourceRows src, TargetRows dst,
