@@ -26,16 +26,23 @@ struct Chosen {
     store32(dst, ifThenElse(load32(kMask.bytes + kVector * k), load32(src), load32(dst)));
   }
 
-  // Blends whole vectors and returns the pixels that are done. A source that stands still is one block.
+  // Blends all of a row that vectors may touch, or nothing where it is shorter than one; returns the pixels
+  // that are done. A source that stands still is one block. The last vector lies over others, and is made
+  // before them: its loads would wait for their stores.
   template <bool moving>
   static size_t blend(const Byte* src, Byte* dst, size_t bytes) {
+    if (bytes < kVector) return 0;
+    const size_t lastAt = bytes - kVector, phase = lastAt % kPixelBytes;
+    const Bytes32 last = ifThenElse(load32(kMask.bytes + phase), load32(src + (moving ? lastAt : phase)),
+                                    load32(dst + lastAt));
     size_t at = 0;
     for (; at + kBlockBytes <= bytes; at += kBlockBytes)
       for (size_t k = 0; k < stored; ++k)
         blendVector(src + (moving ? at : 0) + kVector * k, dst + at + kVector * k, k);
     for (size_t k = 0; at + kVector <= bytes; ++k, at += kVector)
       blendVector(src + (moving ? at : kVector * k), dst + at, k);
-    return (at + kPixelBytes - 1) / kPixelBytes;  // no sample lies across the end of a vector
+    store32(dst + lastAt, last);
+    return (bytes + kPixelBytes - 1) / kPixelBytes;
   }
 
   // Pixels up to the first that starts a vector, on rows long enough to gain by aligned stores; none where

@@ -32,6 +32,18 @@ template <typename S, typename D, typename Store, typename F, size_t... k>
         src, dst);
     return;
   }
+  if (length * sizeof(D) <= kShortRow) {
+    walkRows(
+        samples.rows,
+        [&](const Byte* s, Byte* d) {
+          for (size_t i = 0; i + block < length; i += block)
+            Cached::store(d + i * sizeof(D), blockOf<S, D>(f, s + i * sizeof(S)));
+          const size_t last = length - block;
+          Cached::store(d + last * sizeof(D), blockOf<S, D>(f, s + last * sizeof(S)));
+        },
+        src, dst);
+    return;
+  }
   const auto convertRow = [&](const Byte* s, Byte* d) {
     const auto results = [&](size_t i) { return blockOf<S, D>(f, s + i * sizeof(S)); };
     size_t next = (reachPastBoundary(d, kBlock) + sizeof(D) - 1) / sizeof(D);  // 1 at least

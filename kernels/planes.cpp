@@ -180,6 +180,15 @@ template <int sampleBytes, int channels>
     for (; i + 16 < bytes; i += 16)
       store16(dst + i, splitBlock<sampleBytes, channels>(src + channels * i).row[0]);
   }
+  // The rest but one pixel in a block that begins before it.
+  if (i > 0 && i + sampleBytes < bytes) {
+    i = bytes - sampleBytes - 16;
+    if constexpr (sampleBytes == 4 && channels == 3)
+      store16(dst + i, firstOfThree(src + channels * i));
+    else
+      store16(dst + i, splitBlock<sampleBytes, channels>(src + channels * i).row[0]);
+    i += 16;
+  }
   for (; i < bytes; i += sampleBytes) move<sampleBytes>(dst + i, src + channels * i);
 }
 

@@ -53,18 +53,38 @@ template <typename Store, typename Rule, size_t... k, size_t... rest>
   Cached::store(d + bytes - kBlock, last);
 }
 
+// Up to here rows are done in unaligned blocks from their start on: less work than to find the boundaries.
+inline constexpr size_t kShortRow = 8 * kBlock;
+
+template <typename Rule, size_t... k>
+[[gnu::always_inline]] inline void runShort(TargetRows dst, size_t bytes, int rows, Rule& rule,
+                                            std::index_sequence<k...>) {
+  const typename Rule::Phase phases[] = {rule.phase(k * kBlock)...};
+  const auto lastPhase = rule.phase(bytes - kBlock);
+  for (int y = 0; y < rows; ++y, rule.advance(1)) {
+    Byte* const d = dst.row(y);
+    const auto last = rule.block(bytes - kBlock, lastPhase);
+    size_t at = 0;
+    const auto one = [&](const auto& phase) {
+      if (at + kBlock >= bytes) return false;
+      Cached::store(d + at, rule.block(at, phase));
+      at += kBlock;
+      return true;
+    };
+    while ((one(phases[k]) && ...)) {
+    }
+    Cached::store(d + bytes - kBlock, last);
+  }
+}
+
 // Rows of a vector or more that overlap no source but themselves. The length decides once for all of them.
 template <typename Store, typename Rule>
 [[gnu::noinline, gnu::flatten]] void runApart(TargetRows dst, size_t bytes, int rows, const Rule& given) {
   Rule rule = given;  // of our own: bytes stored could change the other, for all that compilers know
-  Byte* d = dst.first;
-  const auto next = [&] {
-    d = TargetRows{d, dst.step}.row(1);
-    rule.advance(1);
-  };
   if constexpr (kVectorBytes < kBlock) {
     if (bytes < kBlock) {
-      for (; rows > 0; --rows, next()) {
+      for (int y = 0; y < rows; ++y, rule.advance(1)) {
+        Byte* const d = dst.row(y);
         const VectorBytes first = rule.vector(0), last = rule.vector(bytes - kVectorBytes);
         storeVector(d, first);
         storeVector(d + bytes - kVectorBytes, last);
@@ -72,18 +92,11 @@ template <typename Store, typename Rule>
       return;
     }
   }
-  if (bytes <= 2 * kBlock) {
-    const auto firstPhase = rule.phase(0), lastPhase = rule.phase(bytes - kBlock);
-    for (; rows > 0; --rows, next()) {
-      const auto first = rule.block(0, firstPhase), last = rule.block(bytes - kBlock, lastPhase);
-      Cached::store(d, first);
-      Cached::store(d + bytes - kBlock, last);
-    }
-    return;
-  }
+  if (bytes <= kShortRow) return runShort(dst, bytes, rows, rule, std::make_index_sequence<Rule::kPeriod>());
   constexpr size_t round = Rule::kPeriod == 1 ? 2 : Rule::kPeriod;
-  for (; rows > 0; --rows, next())
-    runLong<Store>(d, bytes, rule, std::make_index_sequence<round>(), std::make_index_sequence<round - 1>());
+  for (int y = 0; y < rows; ++y, rule.advance(1))
+    runLong<Store>(dst.row(y), bytes, rule, std::make_index_sequence<round>(),
+                   std::make_index_sequence<round - 1>());
 }
 
 // How rows are done piece by piece, or one by one, without another loop for each rule.

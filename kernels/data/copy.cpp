@@ -72,8 +72,7 @@ constexpr size_t kStringMove = 0x7000;
 void copyRows(SourceRows src, TargetRows dst, Extent bytes) {
   const size_t length = bytes.length;
   if (length <= kShortCopy)
-    walkRows(
-        bytes.rows, [=](const Byte* s, Byte* d) { copyShort(s, d, length); }, src, dst);
+    withShortCopy(length, [=](auto copy) { walkRows(bytes.rows, copy, src, dst); });
   else if (length >= kStringMove)
     walkRows(
         bytes.rows, [=](const Byte* s, Byte* d) { copyByString(s, d, length); }, src, dst);
@@ -95,7 +94,7 @@ namespace {
 
 void copyRowManaged(const Byte* src, Byte* dst, size_t bytes, CacheUse use) {
   constexpr size_t line = 64;
-  if (bytes < line || !(use.streamingStores || use.streamingLoads)) return copyRow(src, dst, bytes);
+  if (bytes < line) return copyShort(src, dst, bytes);
   const size_t head = bytesToBoundary(src, line);
   if (head > bytes) return copyRow(src, dst, bytes);
   copyRow(src, dst, head);
@@ -116,6 +115,7 @@ void copyRowManaged(const Byte* src, Byte* dst, size_t bytes, CacheUse use) {
 }  // namespace
 
 void copyRowsManaged(SourceRows src, TargetRows dst, Extent bytes, CacheUse use) {
+  if (!use.streamingStores && !use.streamingLoads) return copyRows(src, dst, bytes);
   walkRows(
       bytes.rows, [=](const Byte* s, Byte* d) { copyRowManaged(s, d, bytes.length, use); }, src, dst);
 }

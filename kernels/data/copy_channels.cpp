@@ -70,15 +70,6 @@ void narrowEight(const Byte* src, Byte* dst) {
                       blendDwords<0b11101110>(c, d));
 }
 
-// Eight 32-bit samples into one channel of three. In each half the samples are turned so that each stands
-// where one of the three vectors of four pixels wants it; the halves then go to the vectors of memory.
-void spreadEight(const Byte* src, Byte* dst) {
-  const Bytes32 turned = permuteDwords<0, 3, 2, 1>(load32(src));
-  store32(dst, blendDwords<0b01001001>(load32(dst), permuteHalves<0, 0>(turned, turned)));
-  store32(dst + 32, blendDwords<0b10010010>(load32(dst + 32), turned));
-  store32(dst + 64, blendDwords<0b00100100>(load32(dst + 64), permuteHalves<1, 1>(turned, turned)));
-}
-
 template <int sampleBytes>
 [[gnu::always_inline]] inline void copyColourToAlphaRow(const Byte* src, Byte* dst, size_t pixels) {
   static constexpr Control control = widenControl<sampleBytes>(0), last = widenControl<sampleBytes>(4);
@@ -110,24 +101,65 @@ template <int sampleBytes>
   for (; pixels; --pixels, src += 4 * sampleBytes, dst += 3 * sampleBytes) move<3 * sampleBytes>(dst, src);
 }
 
-// A block ends with the last pixel's other channels, which lie outside the image when the chosen channel
-// is not the first: one pixel at least is left for the tail. Single dwords into four channels go one by
-// one: a vector holds too few of them to gain.
+// A block of a plane's samples among the other channels of a destination.
 template <int sampleBytes, int channels>
-[[gnu::always_inline]] inline void planeToChannelRow(const Byte* src, Byte* dst, size_t pixels) {
-  if constexpr (sampleBytes == 4 && channels == 3) {
-    for (; pixels > 8; pixels -= 8, src += 32, dst += 96) spreadEight(src, dst);
-  } else if constexpr (sampleBytes < 4) {
+struct SpreadBlock {
+  static constexpr size_t kPixels = kBlock<sampleBytes>;
+  Bytes16 vectors[channels];
+
+  SpreadBlock(const Byte* src, const Byte* dst) {
     static constexpr auto controls = spreadControls<sampleBytes, channels>(false);
     static constexpr auto others = otherChannels<sampleBytes, channels>();
-    for (; pixels > kBlock<sampleBytes>; pixels -= kBlock<sampleBytes>, src += 16, dst += 16 * channels) {
-      const Bytes16 samples = load16(src);
-      for (int i = 0; i < channels; ++i)
-        store16(dst + 16 * i, bitOr(bitAnd(load16(dst + 16 * i), vectorOf(others[i])),
-                                    shuffleBytes(samples, vectorOf(controls[i]))));
+    const Bytes16 samples = load16(src);
+    for (size_t i = 0; i < channels; ++i)
+      vectors[i] = bitOr(bitAnd(load16(dst + 16 * i), vectorOf(others[i])),
+                         shuffleBytes(samples, vectorOf(controls[i])));
+  }
+  void store(Byte* dst) const {
+    for (size_t i = 0; i < channels; ++i) store16(dst + 16 * i, vectors[i]);
+  }
+};
+
+// Eight 32-bit samples into one channel of three. In each half the samples are turned so that each stands
+// where one of the three vectors of four pixels wants it; the halves then go to the vectors of memory.
+template <>
+struct SpreadBlock<4, 3> {
+  static constexpr size_t kPixels = 8;
+  Bytes32 first, second, third;
+
+  SpreadBlock(const Byte* src, const Byte* dst) {
+    const Bytes32 turned = permuteDwords<0, 3, 2, 1>(load32(src));
+    first = blendDwords<0b01001001>(load32(dst), permuteHalves<0, 0>(turned, turned));
+    second = blendDwords<0b10010010>(load32(dst + 32), turned);
+    third = blendDwords<0b00100100>(load32(dst + 64), permuteHalves<1, 1>(turned, turned));
+  }
+  void store(Byte* dst) const {
+    store32(dst, first);
+    store32(dst + 32, second);
+    store32(dst + 64, third);
+  }
+};
+
+// A block ends with the last pixel's other channels, which lie outside the image when the chosen channel
+// is not the first: one pixel at least is left for the tail. What else is left goes in a block that begins
+// before it, and is made before all others: loads would wait for their stores. Single dwords into four
+// channels go one by one: a vector holds too few of them to gain.
+template <int sampleBytes, int channels>
+[[gnu::always_inline]] inline void planeToChannelRow(const Byte* src, Byte* dst, size_t pixels) {
+  constexpr size_t step = sampleBytes * channels;
+  size_t i = 0;
+  if constexpr (sampleBytes * channels < 16) {
+    using Block = SpreadBlock<sampleBytes, channels>;
+    if (pixels > Block::kPixels) {
+      const size_t end = pixels - 1, lastFirst = end - Block::kPixels;
+      const Block last(src + lastFirst * sampleBytes, dst + lastFirst * step);
+      for (; i + Block::kPixels <= end; i += Block::kPixels)
+        Block(src + i * sampleBytes, dst + i * step).store(dst + i * step);
+      last.store(dst + lastFirst * step);
+      i = end;
     }
   }
-  for (; pixels; --pixels, src += sampleBytes, dst += sampleBytes * channels) move<sampleBytes>(dst, src);
+  for (; i < pixels; ++i) move<sampleBytes>(dst + i * step, src + i * sampleBytes);
 }
 
 template <int channels>

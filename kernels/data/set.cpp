@@ -65,6 +65,37 @@ template <int pixelBytes, typename Store>
   store32(end - kVector, last);
 }
 
+// Rows up to eight vectors, unaligned from their start on: less work than to find the boundaries.
+constexpr size_t kShortFill = 8 * kVector;
+
+template <int pixelBytes>
+void fillShortRows(const PixelPattern& p, TargetRows dst, Extent bytes) {
+  constexpr size_t period = kUniform<pixelBytes> ? 1 : 3;
+  const size_t length = bytes.length;
+  const Bytes32 last = lastVector<pixelBytes>(p, length);
+  Bytes32 v[period];
+  for (size_t i = 0; i < period; ++i) v[i] = load32(p.bytes + i * kVector);
+  walkRows(
+      bytes.rows,
+      [&](Byte* row) {
+        size_t at = 0;
+        const auto one = [&](Bytes32 vector) {
+          if (at + kVector >= length) return false;
+          store32(row + at, vector);
+          at += kVector;
+          return true;
+        };
+        if constexpr (period == 1)
+          while (one(v[0])) {
+          }
+        else
+          while (one(v[0]) && one(v[1]) && one(v[2])) {
+          }
+        store32(row + length - kVector, last);
+      },
+      dst);
+}
+
 // From here on, measured from 1.5 MiB to beyond the largest cache, the processor's string store is ahead of
 // vector stores, streaming ones included.
 constexpr size_t kStringFill = 0x180000;
@@ -87,6 +118,7 @@ void fillRows(const PixelPattern& pattern, TargetRows dst, Extent bytes, bool st
   const size_t length = bytes.length;
   const auto eachRow = [&](auto fill) { walkRows(bytes.rows, fill, dst); };
   if (length < kVector) return eachRow([&](Byte* row) { fillShort(pattern, row, length); });
+  if (length <= kShortFill) return fillShortRows<pixelBytes>(pattern, dst, bytes);
   if constexpr (4 % pixelBytes == 0)
     if (length >= kStringFill)
       return eachRow([&](Byte* row) { fillByString<pixelBytes>(pattern, row, length); });

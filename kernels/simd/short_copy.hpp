@@ -45,27 +45,36 @@ inline void copyTwos(const Byte* src, Byte* dst, size_t second) {
 
 inline constexpr size_t kShortCopy = 8 * sizeof(Bytes32);
 
-// Up to kShortCopy bytes. All is read before anything is stored.
-inline void copyShort(const Byte* src, Byte* dst, size_t bytes) {
+// Calls run(copy) with the way to copy up to kShortCopy bytes: copy(src, dst), which reads all before it
+// stores anything.
+template <typename Run>
+inline void withShortCopy(size_t bytes, Run run) {
+  const auto ends = [&](auto unit) {
+    run([=](const Byte* src, Byte* dst) { copyEnds<decltype(unit)>(src, dst, bytes); });
+  };
   if (bytes >= sizeof(Bytes32)) {
     if (bytes > 4 * sizeof(Bytes32))
-      copyFours(src, dst, bytes - 4 * sizeof(Bytes32));
+      run([=](const Byte* src, Byte* dst) { copyFours(src, dst, bytes - 4 * sizeof(Bytes32)); });
     else if (bytes > 2 * sizeof(Bytes32))
-      copyTwos(src, dst, bytes - 2 * sizeof(Bytes32));
+      run([=](const Byte* src, Byte* dst) { copyTwos(src, dst, bytes - 2 * sizeof(Bytes32)); });
     else
-      copyEnds<Bytes32>(src, dst, bytes);
+      ends(Bytes32());
   } else if (bytes >= 8) {
     if (bytes >= 16)
-      copyEnds<Bytes16>(src, dst, bytes);
+      ends(Bytes16());
     else
-      copyEnds<uint64_t>(src, dst, bytes);
+      ends(uint64_t());
   } else if (bytes >= 4) {
-    copyEnds<uint32_t>(src, dst, bytes);
+    ends(uint32_t());
   } else if (bytes >= 2) {
-    copyEnds<uint16_t>(src, dst, bytes);
+    ends(uint16_t());
   } else if (bytes) {
-    *dst = *src;
+    run([](const Byte* src, Byte* dst) { *dst = *src; });
   }
+}
+
+inline void copyShort(const Byte* src, Byte* dst, size_t bytes) {
+  withShortCopy(bytes, [=](auto copy) { copy(src, dst); });
 }
 
 }  // namespace lumi::simd

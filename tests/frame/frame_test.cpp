@@ -26,7 +26,8 @@ LumStatus identityOf(const Plan* plan) {
 TEST(Frame, ChecksAreEvaluatedInTurn) {
   using namespace lumi::check;
   const auto check = [](const Plan* plan, LumiSize roi) {
-    return firstFault(pointers(plan), [=] { return identityOf(plan); }, size(roi));
+    return firstFault(
+        pointers(plan), [=] { return identityOf(plan); }, size(roi));
   };
   const Plan good{kPlan, 0}, bad{0, 0};
   EXPECT_EQ(check(nullptr, {0, 0}), lumStatusNullPointer);
@@ -51,8 +52,8 @@ TEST(Frame, TheFirstStatusIsKeptAndEveryRowIsDone) {
   Lum8u dst[6] = {};
   const auto walk = [&](int rows) {
     return lumi::walkKeepingFirst(
-        rows, [](auto x, auto y, auto d) { return divideRow(x, y, d, 2); }, lumi::rows(a, 2), lumi::rows(b, 2),
-        lumi::rows(dst, 2));
+        rows, [](auto x, auto y, auto d) { return divideRow(x, y, d, 2); }, lumi::rows(a, 2),
+        lumi::rows(b, 2), lumi::rows(dst, 2));
   };
   EXPECT_EQ(walk(1), lumStatusOk);
   EXPECT_EQ(walk(3), lumStatusLogOfZero) << "of row 1, not that of row 2";
@@ -62,7 +63,8 @@ TEST(Frame, TheFirstStatusIsKeptAndEveryRowIsDone) {
 TEST(Frame, RowsAreAddedUpInOrder) {
   const Lum8u image[] = {1, 2, 99, 3, 4, 99, 5, 6};
   const auto sum = lumi::walkAccumulating(
-      3, std::vector<int>(), [](std::vector<int> all, const Lum8u* row) {
+      3, std::vector<int>(),
+      [](std::vector<int> all, const Lum8u* row) {
         all.push_back(row[0] + row[1]);
         return all;
       },
