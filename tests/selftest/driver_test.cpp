@@ -55,8 +55,9 @@ struct Sums {
   }
 };
 
-extern "C" LumStatus inventedSums(const Lum16u* src, int srcStep, LumiSize roi, LumiPoint at, const Lum32s* levels,
-                                  int count, Lum64f* sum, LumiRect part, Lum64f factor, Lum64s unused) {
+extern "C" LumStatus inventedSums(const Lum16u* src, int srcStep, LumiSize roi, LumiPoint at,
+                                  const Lum32s* levels, int count, Lum64f* sum, LumiRect part, Lum64f factor,
+                                  Lum64s unused) {
   auto* const bytes = reinterpret_cast<const Byte*>(levels);
   if (mistake == Mistake::WritesSource) const_cast<Lum16u*>(src)[0] ^= 1;
   if (mistake == Mistake::ReadsBehindLevels) {
@@ -79,12 +80,12 @@ extern "C" LumStatus inventedSums(const Lum16u* src, int srcStep, LumiSize roi, 
 }
 
 const ExportRow& sumsRow() {
-  static const ExportRow row =
-      invented(inventedSums, {{"16u"}}, {{"C3"}},
-               {pointerOf(Kind::Image, "src"), stepOf("srcStep"), roi(), passed(Kind::Point, Passing::Pair, "at"),
-                pointerOf(Kind::Array, "levels", 0, "count"), passed(Kind::Number, Passing::Int32, "count"),
-                pointerOf(Kind::Results, "sum", 3), passed(Kind::Rect, Passing::Rect, "part"),
-                passed(Kind::Number, Passing::Double, "factor"), passed(Kind::Number, Passing::Int64, "unused")});
+  static const ExportRow row = invented(
+      inventedSums, {{"16u"}}, {{"C3"}},
+      {pointerOf(Kind::Image, "src"), stepOf("srcStep"), roi(), passed(Kind::Point, Passing::Pair, "at"),
+       pointerOf(Kind::Array, "levels", 0, "count"), passed(Kind::Number, Passing::Int32, "count"),
+       pointerOf(Kind::Results, "sum", 3), passed(Kind::Rect, Passing::Rect, "part"),
+       passed(Kind::Number, Passing::Double, "factor"), passed(Kind::Number, Passing::Int64, "unused")});
   return row;
 }
 

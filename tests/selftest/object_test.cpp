@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The steps of objects on an object of this test's own.
-#include "support/object_memory.hpp"
-
 #include <gtest/gtest.h>
 
 #include <cstring>
 
 #include "lumcore.h"
 #include "selftest/invented.hpp"
+#include "support/object_memory.hpp"
 
 namespace test {
 namespace {
@@ -73,8 +72,9 @@ const Argument kGain = passed(Kind::Number, Passing::Int32, "gain"), kSize = poi
 const ExportRow kGetSize = invented(inventedGetSize, {}, {}, {kGain, kSize}),
                 kInit = invented(inventedInit, {}, {}, {kGain, kObject}),
                 kGetBufferSize = invented(inventedGetBufferSize, {}, {}, {kObject, kSize}),
-                kRun = invented(inventedRun, {}, {},
-                                {pointerOf(Kind::Image, "src"), pointerOf(Kind::Image, "dst"), kObject, kBuffer}),
+                kRun = invented(
+                    inventedRun, {}, {},
+                    {pointerOf(Kind::Image, "src"), pointerOf(Kind::Image, "dst"), kObject, kBuffer}),
                 kInitAlloc = invented(inventedInitAlloc, {}, {}, {kObject}),
                 kFree = invented(inventedFree, {}, {}, {kObject});
 
@@ -87,7 +87,8 @@ std::string failureOf(Mistake made) {
     ObjectSteps steps(random);
     const Lum8u src = 5;
     Lum8u dst = 0;
-    failure = steps.init(NamedCall(kGetSize).number("gain", 3), "size", NamedCall(kInit).number("gain", 3), "object");
+    failure = steps.init(NamedCall(kGetSize).number("gain", 3), "size", NamedCall(kInit).number("gain", 3),
+                         "object");
     if (failure.empty())
       failure = steps.makeScratch(NamedCall(kGetBufferSize).pointer("object", steps.object().at()), "size");
     if (failure.empty())

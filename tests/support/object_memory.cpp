@@ -28,12 +28,14 @@ GuardedBlock::GuardedBlock(int bytes, int phase, Random& random)
 }
 
 bool GuardedBlock::staysInside() const {
-  return !arena_->firstDifference(arena_->begin(), at_) && !arena_->firstDifference(at_ + bytes_, arena_->end());
+  return !arena_->firstDifference(arena_->begin(), at_) &&
+         !arena_->firstDifference(at_ + bytes_, arena_->end());
 }
 
 bool GuardedBlock::isUnchanged() const { return !arena_->firstDifference(arena_->begin(), arena_->end()); }
 
-std::string ObjectSteps::ask(NamedCall& query, const std::string& size, std::unique_ptr<GuardedBlock>& block) {
+std::string ObjectSteps::ask(NamedCall& query, const std::string& size,
+                             std::unique_ptr<GuardedBlock>& block) {
   Lum32s bytes = -1;
   const std::string failure = statusOf(query.pointer(size, &bytes), lumStatusOk, "query");
   if (!failure.empty()) return failure;

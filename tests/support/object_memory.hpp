@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Objects as the interface has them: a query tells sizes, Init builds the object in the caller's memory, runs only
-// read it and work in the caller's scratch. Both blocks are exactly as large as told, at any address.
+// Objects as the interface has them: a query tells sizes, Init builds the object in the caller's memory, runs
+// only read it and work in the caller's scratch. Both blocks are exactly as large as told, at any address.
 #pragma once
 
 #include <functional>
@@ -13,8 +13,8 @@
 
 namespace test {
 
-// A block between inaccessible pages, as far from the last byte of memory as the phase says. What lies beside it
-// is watched.
+// A block between inaccessible pages, as far from the last byte of memory as the phase says. What lies beside
+// it is watched.
 class GuardedBlock {
  public:
   GuardedBlock(int bytes, int phase, Random& random);
