@@ -7,6 +7,7 @@ namespace {
 
 const bool added = addModelTests(membersOfOneType("Copy", [](Member& m, auto sample) {
   m.model = copyModelOf<decltype(sample)>(m);
+  m.streamsFrom = 6 << 20;  // beyond the limits of planes
   // Of a plane and pixels one channel takes part: the pixels' image ends with its last sample.
   if (m.channels.moved == 1 && !m.planar()) m.src.lastPixelBytes = m.dst.lastPixelBytes = m.sampleBytes;
 }));
