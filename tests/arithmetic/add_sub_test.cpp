@@ -35,11 +35,12 @@ void describe(Member& m) {
 
 bool addAll() {
   for (const char* operation : {"Add", "AddC"})
-    addModelTests(membersOf(
-        operation, [](Member& m, auto src, auto) { describe<decltype(src), model::add<decltype(src)>>(m); }));
+    addModelTests(membersOfOneType(operation, [](Member& m, auto sample) {
+      describe<decltype(sample), model::add<decltype(sample)>>(m);
+    }));
   for (const char* operation : {"Sub", "SubC"})
-    addModelTests(membersOf(operation, [](Member& m, auto src, auto) {
-      describe<decltype(src), model::subtract<decltype(src)>>(m);
+    addModelTests(membersOfOneType(operation, [](Member& m, auto sample) {
+      describe<decltype(sample), model::subtract<decltype(sample)>>(m);
     }));
   return true;
 }

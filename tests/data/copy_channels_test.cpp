@@ -5,16 +5,17 @@
 namespace test {
 namespace {
 
-const bool added = addModelTests(membersOf("Copy", [](Member& m, auto, auto dst) {
-  m.model = copyModelOf<decltype(dst)>(m);
+const bool added = addModelTests(membersOfOneType("Copy", [](Member& m, auto sample) {
+  m.model = copyModelOf<decltype(sample)>(m);
+  m.streamsFrom = 6 << 20;  // beyond the limits of planes
   // Of a plane and pixels one channel takes part: the pixels' image ends with its last sample.
   if (m.channels.moved == 1 && !m.planar()) m.src.lastPixelBytes = m.dst.lastPixelBytes = m.sampleBytes;
 }));
 
-const bool spreadAdded = addModelTests(membersOf("Dup", [](Member& m, auto, auto dst) {
+const bool spreadAdded = addModelTests(membersOfOneType("Dup", [](Member& m, auto sample) {
   const int channels = m.channels.dst;
   m.model = [=](const Call& c) {
-    model::duplicate<decltype(dst)>(c.srcImage(), c.dstImage(), c.roi, channels);
+    model::duplicate<decltype(sample)>(c.srcImage(), c.dstImage(), c.roi, channels);
   };
 }));
 

@@ -5,14 +5,14 @@
 namespace test {
 namespace {
 
-const bool added = addModelTests(membersOf("Copy", [](Member& m, auto, auto dst) {
-  m.model = copyModelOf<decltype(dst)>(m);
+const bool added = addModelTests(membersOfOneType("Copy", [](Member& m, auto sample) {
+  m.model = copyModelOf<decltype(sample)>(m);
   if (m.layouts.size() == 1)
     m.aliasing = m.channels.moved == 1 && m.channels.dst > 1 ? Aliasing::OtherChannel : Aliasing::SameImage;
 }));
 
-const bool managedAdded = addModelTests(
-    membersOf("CopyManaged", [](Member& m, auto, auto dst) { m.model = copyModelOf<decltype(dst)>(m); }));
+const bool managedAdded = addModelTests(membersOfOneType(
+    "CopyManaged", [](Member& m, auto sample) { m.model = copyModelOf<decltype(sample)>(m); }));
 
 }  // namespace
 }  // namespace test

@@ -39,6 +39,8 @@ std::function<void(const Call&)> modelOf(model::Channels channels) {
 
 const bool added = addModelTests(membersOf("Scale", [](Member& m, auto src, auto dst) {
   m.contents = kAnyContents;
+  m.streamsFrom =
+      6 << 20;  // beyond 1398101 pixels; those of several channels are among the large images below
   m.model = modelOf<decltype(src), decltype(dst)>(m.channels);
 }));
 

@@ -7,8 +7,8 @@
 namespace test {
 namespace {
 
-const bool added = addModelTests(membersOf("Set", [](Member& m, auto, auto dst) {
-  using T = decltype(dst);
+const bool added = addModelTests(membersOfOneType("Set", [](Member& m, auto sample) {
+  using T = decltype(sample);
   const model::Channels channels = m.channels;
   if (m.masked)
     m.model = [=](const Call& c) {

@@ -6,6 +6,7 @@
 #include "lumcore.h"
 #include "selftest/invented.hpp"
 #include "support/core_guard.hpp"
+#include "support/named_call.hpp"
 
 namespace test {
 namespace {
@@ -55,11 +56,13 @@ struct Sums {
   }
 };
 
-extern "C" LumStatus inventedSums(const Lum16u* src, int srcStep, LumiSize roi, LumiPoint at,
-                                  const Lum32s* levels, int count, Lum64f* sum, LumiRect part, Lum64f factor,
-                                  Lum64s unused) {
+extern "C" [[gnu::force_align_arg_pointer]] LumStatus inventedSums(const Lum16u* src, int srcStep,
+                                                                   LumiSize roi, LumiPoint at,
+                                                                   const Lum32s* levels, int count,
+                                                                   Lum64f* sum, LumiRect part, Lum64f factor,
+                                                                   Lum64s unused) {
   auto* const bytes = reinterpret_cast<const Byte*>(levels);
-  if (mistake == Mistake::WritesSource) const_cast<Lum16u*>(src)[0] ^= 1;
+  if (mistake == Mistake::WritesSource) reinterpret_cast<Byte*>(const_cast<Lum16u*>(src))[0] ^= 1;
   if (mistake == Mistake::ReadsBehindLevels) {
     volatile Byte behind = bytes[4 * count];
     static_cast<void>(behind);
@@ -168,7 +171,8 @@ TEST(Driver, EveryTypeAndLayout) {
 }
 
 // A copy that goes through two blocks of scratch.
-extern "C" LumStatus inventedScratch(const Lum8u* src, int srcStep, Lum8u* dst, int dstStep, LumiSize roi) {
+extern "C" [[gnu::force_align_arg_pointer]] LumStatus inventedScratch(const Lum8u* src, int srcStep,
+                                                                      Lum8u* dst, int dstStep, LumiSize roi) {
   if (mistake == Mistake::WritesBeforeAllocating) dst[0] = static_cast<Lum8u>(src[0] + 1);
   void* const first = lumMalloc(roi.width);
   if (!first) return lumStatusNoMemory;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Operations of the tests' own, described by hand, by which the drivers are tested.
+// Operations of the tests' own, described by hand, by which the drivers are tested. The drivers call
+// with any stack, so that each function aligns its own, as the library's do.
 #pragma once
 
 #include <deque>

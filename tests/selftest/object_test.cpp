@@ -26,19 +26,20 @@ Mistake mistake = Mistake::None;
 constexpr int kBytes = 24, kScratch = 40;
 
 extern "C" {
-LumStatus inventedGetSize(int, int* size) {
+[[gnu::force_align_arg_pointer]] LumStatus inventedGetSize(int, int* size) {
   *size = kBytes;
   return lumStatusOk;
 }
-LumStatus inventedInit(int gain, void* object) {
+[[gnu::force_align_arg_pointer]] LumStatus inventedInit(int gain, void* object) {
   std::memset(object, gain, kBytes + (mistake == Mistake::LargerObject));
   return lumStatusOk;
 }
-LumStatus inventedGetBufferSize(const void*, int* size) {
+[[gnu::force_align_arg_pointer]] LumStatus inventedGetBufferSize(const void*, int* size) {
   *size = kScratch;
   return lumStatusOk;
 }
-LumStatus inventedRun(const Lum8u* src, Lum8u* dst, void* object, void* buffer) {
+[[gnu::force_align_arg_pointer]] LumStatus inventedRun(const Lum8u* src, Lum8u* dst, void* object,
+                                                       void* buffer) {
   auto* const spec = static_cast<unsigned char*>(object);
   auto* const scratch = static_cast<unsigned char*>(buffer);
   std::memset(scratch, 1, kScratch);
@@ -47,7 +48,7 @@ LumStatus inventedRun(const Lum8u* src, Lum8u* dst, void* object, void* buffer) 
   *dst = static_cast<Lum8u>(*src * spec[0]);
   return mistake == Mistake::OtherStatus ? lumStatusBadArgument : lumStatusOk;
 }
-LumStatus inventedInitAlloc(void** object) {
+[[gnu::force_align_arg_pointer]] LumStatus inventedInitAlloc(void** object) {
   void* const first = lumMalloc(8);
   void* const second = first ? lumMalloc(8) : nullptr;
   if (!second) {
@@ -58,7 +59,7 @@ LumStatus inventedInitAlloc(void** object) {
   *object = first;
   return lumStatusOk;
 }
-LumStatus inventedFree(void* object) {
+[[gnu::force_align_arg_pointer]] LumStatus inventedFree(void* object) {
   void* second = nullptr;
   std::memcpy(&second, object, sizeof second);
   if (mistake != Mistake::FreesNothing) lumFree(second);

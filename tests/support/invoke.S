@@ -4,10 +4,26 @@
  *
  *   int32_t lumiInvoke(PackedCall* call);
  *
- * The members of PackedCall, in words: function 0, stackWords 1, misalignment 2, tellsStates 3, broken 4,
- * statesInUse 5, integers 6 to 11; then vectors and stack.
+ * The members of PackedCall, in words: function 0, stackWords 1, misalignment 2, broken 3, upperHalves 4,
+ * integers 5 to 10, none 11; then vectors and stack.
  */
 #define MAGIC(n) (0x5A5A0000 + n)
+
+/* The upper halves of the vector registers, joined in xmm0. The processor's own record of what is in use may
+   say so of halves that are clean. */
+.macro join_upper_halves last
+	vextractf128 $1, %ymm0, %xmm0
+	.set n, 1
+	.rept \last
+	join_upper_half %n
+	.set n, n + 1
+	.endr
+.endm
+.altmacro
+.macro join_upper_half n
+	vextractf128 $1, %ymm\n, %xmm\n
+	vorps %xmm\n, %xmm0, %xmm0
+.endm
 
 .text
 .globl lumiInvoke
@@ -63,14 +79,12 @@ lumiInvoke:
 	orl $32, %edx
 	cld
 1:	movl 256(%esp), %ebx
-	movl %edx, 16(%ebx)
-	cmpl $0, 12(%ebx)
-	je 1f
-	movl %eax, %esi
-	movl $1, %ecx
-	xgetbv
-	movl %eax, 20(%ebx)
-	movl %esi, %eax
+	movl %edx, 12(%ebx)
+	join_upper_halves 7
+	vptest %xmm0, %xmm0
+	jz 1f
+	movl $1, 16(%ebx)
+	vzeroupper
 1:	movl 260(%esp), %esp
 	popl %edi
 	popl %esi
@@ -78,7 +92,7 @@ lumiInvoke:
 	popl %ebp
 	ret
 #else
-#define INTEGERS 48
+#define INTEGERS 40
 #define VECTORS 96
 #define STACK 160
 lumiInvoke:
@@ -152,14 +166,12 @@ lumiInvoke:
 	je 1f
 	orl $128, %edx
 1:	movq 512(%rsp), %rbx
-	movq %rdx, 32(%rbx)
-	cmpq $0, 24(%rbx)
-	je 1f
-	movl %eax, %esi
-	movl $1, %ecx
-	xgetbv
-	movq %rax, 40(%rbx)
-	movl %esi, %eax
+	movq %rdx, 24(%rbx)
+	join_upper_halves 15
+	vptest %xmm0, %xmm0
+	jz 1f
+	movq $1, 32(%rbx)
+	vzeroupper
 1:	movq 520(%rsp), %rsp
 	popq %r15
 	popq %r14

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/invoke.hpp"
 
-#include <cpuid.h>
-
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
@@ -77,15 +75,7 @@ uint16_t x87Tags() {
   return static_cast<uint16_t>(environment.tags);
 }
 
-bool tellsStatesInUse() {
-  static const bool tells = [] {
-    unsigned a = 0, b = 0, c = 0, d = 0;
-    return __get_cpuid_count(0xD, 1, &a, &b, &c, &d) && (a & 4);
-  }();
-  return tells;
-}
-
-static_assert(offsetof(PackedCall, integers) == 6 * sizeof(uintptr_t));
+static_assert(offsetof(PackedCall, integers) == 5 * sizeof(uintptr_t));
 static_assert(offsetof(PackedCall, vectors) == 12 * sizeof(uintptr_t));
 static_assert(offsetof(PackedCall, stack) == 12 * sizeof(uintptr_t) + 64);
 
@@ -167,13 +157,12 @@ std::vector<Slot> baseSlots(const ExportRow& row) {
 Outcome invoke(const ExportRow& row, const Slot* slots, int misalignment) {
   PackedCall call(row, slots);
   call.misalignment = static_cast<uintptr_t>(misalignment);
-  call.tellsStates = tellsStatesInUse();
   const uint32_t control = vectorControl();
   const uint16_t x87 = x87Control(), tags = x87Tags();
   Outcome outcome{lumiInvoke(&call), {}};
   if (call.broken != 0)
     outcome.broken = "registers, stack pointer or direction flag " + std::to_string(call.broken);
-  if (call.statesInUse & 4) outcome.broken += " upper vector halves in use";
+  if (call.upperHalves != 0) outcome.broken += " upper vector halves in use";
   if (x87Control() != x87) outcome.broken += " x87 control word";
   if (x87Tags() != tags) outcome.broken += " x87 registers";
   // A call that is refused may leave the rounding as it set it.

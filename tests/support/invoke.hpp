@@ -147,10 +147,10 @@ struct PackedCall {
   AnyFunction function;
   uintptr_t stackWords = 0;
   uintptr_t misalignment = 0;  // of the stack, in bytes below a 64-byte boundary; 32 bits only
-  uintptr_t tellsStates = 0;   // whether the processor tells which register states are in use
   uintptr_t broken = 0;        // a bit for each callee-saved register, stack pointer and direction flag
-  uintptr_t statesInUse = 0;   // bit 2 are the upper vector halves
+  uintptr_t upperHalves = 0;   // whether upper vector halves hold anything
   uintptr_t integers[6] = {};  // 64 bits only, like vectors
+  uintptr_t unused = 0;
   uint64_t vectors[8] = {};
   uintptr_t stack[48] = {};
 

@@ -196,6 +196,20 @@ std::vector<Member> membersOf(const std::string& operation, Describe describe, L
   return result;
 }
 
+// The same where source and destination are of one type: describe(member, sample).
+template <typename Describe, typename List = CommonTypes>
+std::vector<Member> membersOfOneType(const std::string& operation, Describe describe, List types = {}) {
+  std::vector<Member> result;
+  for (const ExportRow& row : exportRows()) {
+    if (row.operation != operation || row.family != programFamily()) continue;
+    if (row.types.size() != 1) abortOver("single type of", row.name);
+    result.push_back(memberOf(row));
+    withType(
+        row.types.front(), [&](auto sample) { describe(result.back(), sample); }, types);
+  }
+  return result;
+}
+
 // Registers the tests that every member has (tests/common), and the members as covered.
 bool addModelTests(const std::vector<Member>& members);
 
