@@ -39,6 +39,9 @@ if(NOT LUMI_COVERAGE)
   add_compile_options(-ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${PROJECT_BINARY_DIR}=build)
 endif()
 
+# Lines and functions are what a failing test needs; all of the debug information takes as long to make as the code.
+add_compile_options($<$<CONFIG:RelWithDebInfo>:-g1>)
+
 option(LUMI_SANITIZE "AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 if(LUMI_SANITIZE)
   add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:-fsanitize=address,undefined>

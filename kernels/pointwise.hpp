@@ -30,9 +30,9 @@ inline constexpr size_t kBlock = 32;
 
 // Where the first and last block lie over others, all of them are made of what was there before: they are
 // made first and stored last, so that the destination may be the source.
-template <typename Store, typename Rule, size_t... k, size_t... rest>
-[[gnu::always_inline]] inline void runLong(Byte* d, size_t bytes, const Rule& rule, std::index_sequence<k...>,
-                                           std::index_sequence<rest...>) {
+template <typename Store, typename Rule, size_t... k>
+[[gnu::always_inline]] inline void runLong(Byte* d, size_t bytes, const Rule& rule,
+                                           std::index_sequence<k...>) {
   const size_t reach = reachPastBoundary(d, kBlock);
   const bool canAlign = reach % Rule::kSample == 0;
   const auto first = rule.block(0, rule.phase(0));
@@ -42,13 +42,7 @@ template <typename Store, typename Rule, size_t... k, size_t... rest>
   constexpr size_t round = sizeof...(k) * kBlock;
   for (; at + round <= bytes; at += round)
     (Store::store(d + at + k * kBlock, rule.block(at + k * kBlock, phases[k])), ...);
-  const auto one = [&](const auto& phase) {
-    if (at + kBlock > bytes) return false;
-    Cached::store(d + at, rule.block(at, phase));
-    at += kBlock;
-    return true;
-  };
-  static_cast<void>((one(phases[rest]) && ...));
+  for (; at + kBlock <= bytes; at += kBlock) Cached::store(d + at, rule.block(at, rule.phase(at)));
   Cached::store(d, first);
   Cached::store(d + bytes - kBlock, last);
 }
@@ -95,8 +89,7 @@ template <typename Store, typename Rule>
   if (bytes <= kShortRow) return runShort(dst, bytes, rows, rule, std::make_index_sequence<Rule::kPeriod>());
   constexpr size_t round = Rule::kPeriod == 1 ? 2 : Rule::kPeriod;
   for (int y = 0; y < rows; ++y, rule.advance(1))
-    runLong<Store>(dst.row(y), bytes, rule, std::make_index_sequence<round>(),
-                   std::make_index_sequence<round - 1>());
+    runLong<Store>(dst.row(y), bytes, rule, std::make_index_sequence<round>());
 }
 
 // How rows are done piece by piece, or one by one, without another loop for each rule.

@@ -15,7 +15,8 @@ import sys
 import tempfile
 
 EPOCH, DATE = "1000000000", b"Sep  9 2001"
-OPTIONS = ("-DLUMI_TESTS=OFF", "-DLUMI_EXAMPLES=OFF", "-DLUMI_BENCH=OFF")
+OPTIONS = ("-DLUMI_TESTS=OFF", "-DLUMI_EXAMPLES=OFF", "-DLUMI_BENCH=OFF",
+           "-DCMAKE_BUILD_TYPE=Release")  # debug information takes as long as all else
 
 
 def build(root, preset, folder):

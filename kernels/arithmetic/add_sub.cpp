@@ -1,264 +1,30 @@
 // SPDX-License-Identifier: MIT
-#include "kernels/arithmetic/add_sub.hpp"
-
-#include "kernels/pointwise.hpp"
+// Of two images.
+#include "kernels/arithmetic/add_sub_functions.hpp"
 
 namespace lumi {
-namespace {
 
 using namespace simd;
-
-// An exact sum or difference x, which may have a bit more than the samples: half of it, rounded down for
-// signed samples and up for unsigned ones, and a word whose last bit tells whether x is odd.
-template <typename T>
-struct Exact {
-  Samples<T> half, odd;
-};
-
-template <typename Op>
-struct Combine;
-
-template <>
-struct Combine<Add> {
-  template <typename T>
-  static Samples<T> saturated(Samples<T> a, Samples<T> b) {
-    return addSaturated(a, b);
-  }
-  template <typename T>
-  static Exact<T> exact(Samples<T> a, Samples<T> b) {
-    if constexpr (std::is_signed_v<T>)
-      return {(a & b) + shiftRight<1>(a ^ b), a ^ b};
-    else
-      return {averageUp(a, b), a ^ b};
-  }
-  template <typename V>
-  static V ofFloats(V a, V b) {
-    return a + b;
-  }
-};
-
-template <>
-struct Combine<Sub> {
-  template <typename T>
-  static Samples<T> saturated(Samples<T> a, Samples<T> b) {
-    return subSaturated(b, a);
-  }
-  template <typename T>
-  static Exact<T> exact(Samples<T> a, Samples<T> b) {
-    if constexpr (std::is_signed_v<T>) {
-      return {shiftRight<1>(a ^ b) - andNot(b, a), a ^ b};
-    } else {
-      const Samples<T> difference = subSaturated(b, a);
-      return {averageUp(difference, broadcast<T>(0)), difference};
-    }
-  }
-  template <typename V>
-  static V ofFloats(V a, V b) {
-    return b - a;
-  }
-};
-
-// Bytes shift as words: bits of their neighbours come along.
-template <typename T>
-Samples<T> shiftedAsWords(Samples<T> x, Shift bits) {
-  if constexpr (sizeof(T) == 1)
-    return as<T>(as<uint16_t>(x) >> bits);
-  else
-    return x >> bits;
-}
-
-// Without the bits of the neighbours.
-template <typename T>
-class RightShift {
- public:
-  explicit RightShift(int bits) : shift_(bits), kept_(broadcast(static_cast<uint8_t>(0xFF >> bits))) {}
-  Samples<T> operator()(Samples<T> x) const {
-    const Samples<T> shifted = shiftedAsWords(x, shift_);
-    return sizeof(T) == 1 ? shifted & as<T>(kept_) : shifted;
-  }
-
- private:
-  Shift shift_;
-  Samples<uint8_t> kept_;
-};
-
-template <typename T>
-class LeftShift {
- public:
-  explicit LeftShift(int bits)
-      : shift_(bits), kept_(broadcast(static_cast<uint8_t>(uint32_t{0xFF} << bits))) {}
-  Samples<T> operator()(Samples<T> x) const {
-    if constexpr (sizeof(T) == 1)
-      return as<T>(as<uint16_t>(x) << shift_) & kept_;
-    else
-      return x << shift_;
-  }
-
- private:
-  Shift shift_;
-  Samples<uint8_t> kept_;
-};
-
-template <typename Op, typename T>
-struct Saturated {
-  Samples<T> operator()(Samples<T> a, Samples<T> b) const { return Combine<Op>::saturated(a, b); }
-};
-
-template <typename Op>
-struct Saturated<Op, float> {
-  template <typename V>
-  V operator()(V a, V b) const {
-    return Combine<Op>::ofFloats(a, b);
-  }
-};
-
-// x / 2: of the two neighbours of a half the even one. Only a signed difference can leave the type, as
-// (2^n - 1) / 2 rounded up.
-template <typename Op, typename T>
-struct Halved {
-  Samples<T> operator()(Samples<T> a, Samples<T> b) const {
-    const Exact<T> x = Combine<Op>::exact(a, b);
-    const Samples<T> wrong = x.half & x.odd & broadcast<T>(1);
-    if constexpr (std::is_signed_v<T>)
-      return addSaturated(x.half, wrong);
-    else
-      return x.half - wrong;
-  }
-};
-
-template <typename Op, typename T, bool isSigned = std::is_signed_v<T>>
-struct Divided;
-
-// x / 2^s for s >= 2, unsigned. With u = x / 2 rounded up, (x + 2^(s-1) - 1 + q) >> s is
-// (u + 2^(s-2) - 1 + e) >> (s - 1), where q is the last bit of x >> s and e is q where x is even, else 0; for
-// an even x, q is bit s - 1 of u. The sum may need a bit more than the type: the rounding-up average of u - 1
-// and the rest is its half. (At u = 0 the average comes out one too large before the last shift, which drops
-// it.)
-template <typename Op, typename T>
-struct Divided<Op, T, false> {
-  Shift toLast;
-  RightShift<T> rest;
-  Samples<T> bias, last;  // no bit where the type has none so high
-
-  explicit Divided(int s)
-      : toLast(s - 1),
-        rest(s - 2),
-        bias(broadcast(static_cast<T>((uint32_t{1} << (s - 2)) - 1))),
-        last(broadcast(static_cast<T>(s <= std::numeric_limits<T>::digits))) {}
-
-  Samples<T> operator()(Samples<T> a, Samples<T> b) const {
-    const Samples<T> one = broadcast<T>(1);
-    const Exact<T> x = Combine<Op>::exact(a, b);
-    const Samples<T> tieUp = andNot(x.odd, shiftedAsWords(x.half, toLast)) & last;
-    return rest(averageUp(subSaturated(x.half, one), bias + tieUp));
-  }
-};
-
-// Signed: q is the floor, and what remains decides. Of the remainder, the half's low s - 1 bits count in
-// full, and an odd x only tells a tie from more than a tie. It rounds up above half, and at half if q is odd:
-// low + (x odd or q odd) > 2^(s-2). No step leaves the type, whose bits are at least s.
-template <typename Op, typename T>
-struct Divided<Op, T, true> {
-  Shift shift;
-  Samples<T> low, aboveHalf;
-
-  explicit Divided(int s)
-      : shift(s - 1),
-        low(broadcast(static_cast<T>((uint32_t{1} << (s - 1)) - 1))),
-        aboveHalf(broadcast(static_cast<T>((uint32_t{1} << (s - 2)) + 1))) {}
-
-  Samples<T> operator()(Samples<T> a, Samples<T> b) const {
-    const Exact<T> x = Combine<Op>::exact(a, b);
-    const Samples<T> q = x.half >> shift;
-    const Samples<T> tieUp = (x.odd | q) & broadcast<T>(1);
-    return q - isAtLeast(x.half & low, aboveHalf - tieUp);  // all ones is -1
-  }
-};
-
-// x * 2^k. Saturating x first loses nothing, for it saturates again.
-template <typename Op, typename T>
-struct Multiplied {
-  LeftShift<T> shift;
-  Samples<T> lowest, aboveHighest;
-
-  explicit Multiplied(int k)
-      : shift(k),
-        lowest(broadcast(static_cast<T>(std::numeric_limits<T>::min() >> k))),
-        aboveHighest(broadcast(static_cast<T>((std::numeric_limits<T>::max() >> k) + 1))) {}
-
-  Samples<T> operator()(Samples<T> a, Samples<T> b) const {
-    const Samples<T> x = Combine<Op>::saturated(a, b), over = isAtLeast(x, aboveHighest);
-    if constexpr (std::is_signed_v<T>)
-      return ifThenElse(over, broadcast(std::numeric_limits<T>::max()), shift(max(x, lowest)));
-    else
-      return shift(x) | over;
-  }
-};
-
-// Calls run(f) with the function of a scaling.
-template <typename Op, typename T, typename Run>
-void withFunction(Scaling scaling, Run run) {
-  if constexpr (std::is_same_v<T, float>) {
-    run(Saturated<Op, T>());
-  } else {
-    switch (scaling.path) {
-      case Scaling::Saturate:
-        return run(Saturated<Op, T>());
-      case Scaling::Halve:
-        return run(Halved<Op, T>());
-      case Scaling::Divide:
-        return run(Divided<Op, T>(scaling.bits));
-      case Scaling::Multiply:
-        return run(Multiplied<Op, T>(scaling.bits));
-    }
-  }
-}
-
-template <typename T, int alpha, typename Store, typename F, typename A>
-void run(TargetRows dst, Extent samples, A a, SourceRows b, F f) {
-  constexpr size_t pixel = alpha ? 4 * alpha * sizeof(T) : sizeof(T);
-  const ImageRow<T, T> second(b);
-  runPixels<pixel, pixel - alpha * sizeof(T), Store>(dst, samples,
-                                                     Binary<T, F, A, ImageRow<T, T>>{a, second, f});
-}
-
-}  // namespace
 
 template <typename Op, typename T, int alpha>
 void combineRows(SourceRows a, SourceRows b, TargetRows dst, Extent samples, Scaling scaling) {
   withFunction<Op, T>(scaling, [&](auto f) { run<T, alpha, Cached>(dst, samples, ImageRow<T, T>(a), b, f); });
 }
 
-template <typename Op, typename T, int alpha, bool ofThree, bool streaming>
-void combineWithConstant(const PixelPattern& a, SourceRows b, TargetRows dst, Extent samples,
-                         Scaling scaling) {
-  using Store = std::conditional_t<streaming, Streaming, Cached>;
-  withFunction<Op, T>(scaling,
-                      [&](auto f) { run<T, alpha, Store>(dst, samples, ConstantRow<ofThree>{a}, b, f); });
-}
-
 #define LUMI_IMAGES(T, alpha)                                                                    \
   template void combineRows<Add, T, alpha>(SourceRows, SourceRows, TargetRows, Extent, Scaling); \
   template void combineRows<Sub, T, alpha>(SourceRows, SourceRows, TargetRows, Extent, Scaling);
-#define LUMI_CONSTANT(T, ...)                                                                         \
-  template void combineWithConstant<Add, T, __VA_ARGS__>(const PixelPattern&, SourceRows, TargetRows, \
-                                                         Extent, Scaling);                            \
-  template void combineWithConstant<Sub, T, __VA_ARGS__>(const PixelPattern&, SourceRows, TargetRows, \
-                                                         Extent, Scaling);
-#define LUMI_WHOLE(T) LUMI_IMAGES(T, 0) LUMI_CONSTANT(T, 0, false, false) LUMI_CONSTANT(T, 0, true, false)
-#define LUMI_ALPHA(T, samples) LUMI_IMAGES(T, samples) LUMI_CONSTANT(T, samples, false, false)
-LUMI_WHOLE(uint8_t)
-LUMI_WHOLE(uint16_t)
-LUMI_WHOLE(int16_t)
-LUMI_WHOLE(int32_t)
-LUMI_WHOLE(float)
-LUMI_ALPHA(uint8_t, 1)
-LUMI_ALPHA(uint16_t, 1)
-LUMI_ALPHA(int16_t, 1)
-LUMI_ALPHA(int16_t, 2)
-LUMI_ALPHA(int32_t, 2)
-LUMI_ALPHA(float, 1)
-LUMI_ALPHA(float, 2)
-LUMI_CONSTANT(int16_t, 0, true, true)
+LUMI_IMAGES(uint8_t, 0)
+LUMI_IMAGES(uint16_t, 0)
+LUMI_IMAGES(int16_t, 0)
+LUMI_IMAGES(int32_t, 0)
+LUMI_IMAGES(float, 0)
+LUMI_IMAGES(uint8_t, 1)
+LUMI_IMAGES(uint16_t, 1)
+LUMI_IMAGES(int16_t, 1)
+LUMI_IMAGES(int16_t, 2)
+LUMI_IMAGES(int32_t, 2)
+LUMI_IMAGES(float, 1)
+LUMI_IMAGES(float, 2)
 
 }  // namespace lumi
