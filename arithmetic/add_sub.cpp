@@ -89,12 +89,13 @@ constexpr bool kFillsWhenShiftedOut =
     std::is_same_v<Op, Add>&& std::is_unsigned_v<T>&& std::is_same_v<Layout, C1>;
 
 // Rows of three 16-bit complex samples bypass the cache where both images together span a mebibyte and are
-// not the same; no fence follows.
+// not the same, and where samples begin on their boundaries; no fence follows.
 template <typename T, typename Layout>
 constexpr bool kMayStream = std::is_same_v<T, Lum16sc>&& std::is_same_v<Layout, C3>;
 
-bool streamsRows(int srcStep, int dstStep, int height) {
-  return (int64_t{srcStep} + dstStep) * height >= kStreamingFloor;
+bool streamsRows(int srcStep, const Lum16sc* dst, int dstStep, int height) {
+  const bool aligned = ((reinterpret_cast<uintptr_t>(dst) | static_cast<uintptr_t>(dstStep)) & 3) == 0;
+  return aligned && (int64_t{srcStep} + dstStep) * height >= kStreamingFloor;
 }
 
 template <typename Op, typename T, typename Layout, typename Value>
@@ -115,7 +116,9 @@ LumStatus combineConstant(const T* src, int srcStep, Value value, T* dst, int ds
   constexpr int alpha = kAlpha<T, Layout>;
   constexpr bool ofThree = Layout::kStored == 3;
   const PixelPattern constant = patternOf<T, Layout>(value);
-  const bool streaming = kMayStream<T, Layout> && src != dst && streamsRows(srcStep, dstStep, roi.height);
+  bool streaming = false;
+  if constexpr (kMayStream<T, Layout>)
+    streaming = src != dst && streamsRows(srcStep, dst, dstStep, roi.height);
   runFused(
       roi,
       [&](SourceRows s, TargetRows d, Extent pixels) {

@@ -7,6 +7,7 @@
 #include <type_traits>
 
 #include "frame/layout.hpp"
+#include "kernels/path_count.hpp"
 #include "kernels/rows.hpp"
 #include "lumi/types.h"
 
@@ -55,8 +56,9 @@ inline Extent fusedExtent(LumiSize roi, const Image&... images) {
   const auto width = static_cast<size_t>(roi.width);
   size_t all = 0;
   const bool fits = !__builtin_mul_overflow(width, static_cast<size_t>(roi.height), &all);
-  if (fits && (isTight(images.step, roi.width, images.pixelBytes) && ...)) return {all, 1};
-  return {width, roi.height};
+  if (!fits || !(isTight(images.step, roi.width, images.pixelBytes) && ...)) return {width, roi.height};
+  if (roi.height > 1) countPath(Path::FusedRows);
+  return {all, 1};
 }
 
 // Calls kernel(rows of each image..., extent in pixels) once: the kernel walks.

@@ -48,9 +48,10 @@ template <typename T, typename Opaque, typename Plan>
 LumStatus runFault(const T* src, int srcStep, const T* dst, int dstStep, LumiPoint offset, LumiSize tile,
                    const Opaque* object, const Lum8u* buffer, const Plan* plan,
                    LumiInterpolationType interpolation) {
-  if (LumStatus fault = firstFault(pointers(src, dst, object, buffer), notZero(tile))) return fault;
-  return firstFault(identity(*plan), size(tile), stepsOfSamples<T>(srcStep, dstStep),
-                    offsetInside(*plan, offset), madeFor<T>(*plan, interpolation));
+  return firstFault(
+      pointers(src, dst, object, buffer), notZero(tile), [=] { return identity(*plan); }, size(tile),
+      stepsOfSamples<T>(srcStep, dstStep), [=] { return offsetInside(*plan, offset); },
+      [=] { return madeFor<T>(*plan, interpolation); });
 }
 
 // Builds that count paths also watch that no run takes more of its scratch than the query tells for its tile.

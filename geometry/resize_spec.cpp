@@ -272,13 +272,24 @@ LumStatus initLinear(LumiSize srcSize, LumiSize dstSize, Opaque* object) {
   return lumStatusOk;
 }
 
+// Checks that look into the plan, when their turn comes.
+template <typename Opaque>
+auto isPlan(const Opaque* object) {
+  return [=] { return identity(*planAt(object)); };
+}
+template <typename Opaque>
+auto isInside(const Opaque* object, LumiPoint dstOffset) {
+  return [=] { return offsetInside(*planAt(object), dstOffset); };
+}
+
 template <typename Opaque>
 LumStatus bufferSizeOf(const Opaque* object, LumiSize dstSize, Lum32u channels, Lum32s* bufferSize) {
-  if (LumStatus fault = firstFault(pointers(object, bufferSize), lumi::notZero(dstSize))) return fault;
-  const auto& plan = *planAt(object);
   const bool taken = channels == 1 || channels == 3 || channels == 4;
   const LumStatus badChannels = taken ? lumStatusOk : lumStatusBadChannelCount;
-  if (LumStatus fault = firstFault(identity(plan), badChannels, size(dstSize))) return fault;
+  if (LumStatus fault = firstFault(pointers(object, bufferSize), lumi::notZero(dstSize), isPlan(object),
+                                   badChannels, size(dstSize)))
+    return fault;
+  const auto& plan = *planAt(object);
   const int64_t bytes = scratchBytes(plan, clipped(plan, {0, 0}, dstSize), channels);
   if (!fitsInt(bytes)) return lumStatusBadSize;
   *bufferSize = static_cast<Lum32s>(bytes);
@@ -287,18 +298,16 @@ LumStatus bufferSizeOf(const Opaque* object, LumiSize dstSize, Lum32u channels, 
 
 template <typename Opaque>
 LumStatus borderSizeOf(const Opaque* object, LumiBorderSize* borderSize) {
-  if (LumStatus fault = pointers(object, borderSize)) return fault;
-  const auto& plan = *planAt(object);
-  if (LumStatus fault = identity(plan)) return fault;
-  *borderSize = plan.border;
+  if (LumStatus fault = firstFault(pointers(object, borderSize), isPlan(object))) return fault;
+  *borderSize = planAt(object)->border;
   return lumStatusOk;
 }
 
 template <typename Opaque>
 LumStatus sourceOffset(const Opaque* object, LumiPoint dstOffset, LumiPoint* srcOffset) {
-  if (LumStatus fault = pointers(object, srcOffset)) return fault;
+  if (LumStatus fault = firstFault(pointers(object, srcOffset), isPlan(object), isInside(object, dstOffset)))
+    return fault;
   const auto& plan = *planAt(object);
-  if (LumStatus fault = firstFault(identity(plan), offsetInside(plan, dstOffset))) return fault;
   *srcOffset = {sourceStart(plan.horizontal, dstOffset.x), sourceStart(plan.vertical, dstOffset.y)};
   return lumStatusOk;
 }
@@ -306,9 +315,10 @@ LumStatus sourceOffset(const Opaque* object, LumiPoint dstOffset, LumiPoint* src
 template <typename Opaque>
 LumStatus sourceRoi(const Opaque* object, LumiPoint dstOffset, LumiSize dstSize, LumiPoint* srcOffset,
                     LumiSize* srcSize) {
-  if (LumStatus fault = firstFault(pointers(object, srcOffset, srcSize), size(dstSize))) return fault;
+  if (LumStatus fault = firstFault(pointers(object, srcOffset, srcSize), size(dstSize), isPlan(object),
+                                   isInside(object, dstOffset)))
+    return fault;
   const auto& plan = *planAt(object);
-  if (LumStatus fault = firstFault(identity(plan), offsetInside(plan, dstOffset))) return fault;
   const LumiSize tile = clipped(plan, dstOffset, dstSize);
   const LumiPoint start{sourceStart(plan.horizontal, dstOffset.x), sourceStart(plan.vertical, dstOffset.y)};
   *srcOffset = start;

@@ -21,40 +21,27 @@ template <typename S, typename D, typename Store, typename F, size_t... k>
                    round = sizeof...(k) * block;
   const F f = work;  // no store changes a copy
   const size_t length = samples.length;
-  if (length < block) {
-    walkRows(
-        samples.rows,
-        [&](const Byte* s, Byte* d) {
-          const VectorBytes first = vectorOf(f, s), last = vectorOf(f, s + (length - vector) * sizeof(S));
-          storeVector(d, first);
-          storeVector(d + (length - vector) * sizeof(D), last);
-        },
-        src, dst);
-    return;
-  }
-  if (length * sizeof(D) <= kShortRow) {
-    walkRows(
-        samples.rows,
-        [&](const Byte* s, Byte* d) {
-          for (size_t i = 0; i + block < length; i += block)
-            Cached::store(d + i * sizeof(D), blockOf<S, D>(f, s + i * sizeof(S)));
-          const size_t last = length - block;
-          Cached::store(d + last * sizeof(D), blockOf<S, D>(f, s + last * sizeof(S)));
-        },
-        src, dst);
-    return;
-  }
-  const auto convertRow = [&](const Byte* s, Byte* d) {
+  for (int y = 0; y < samples.rows; ++y) {
+    const Byte* const s = src.row(y);
+    Byte* const d = dst.row(y);
+    if (length < block) {
+      const VectorBytes first = vectorOf(f, s), last = vectorOf(f, s + (length - vector) * sizeof(S));
+      storeVector(d, first);
+      storeVector(d + (length - vector) * sizeof(D), last);
+      continue;
+    }
     const auto results = [&](size_t i) { return blockOf<S, D>(f, s + i * sizeof(S)); };
-    size_t next = (reachPastBoundary(d, kBlock) + sizeof(D) - 1) / sizeof(D);  // 1 at least
-    for (; next + round <= length; next += round)
-      (Store::store(d + (next + k * block) * sizeof(D), results(next + k * block)), ...);
+    size_t next = block;
+    if (length * sizeof(D) > kShortRow) {
+      next = (reachPastBoundary(d, kBlock) + sizeof(D) - 1) / sizeof(D);  // 1 at least
+      for (; next + round <= length; next += round)
+        (Store::store(d + (next + k * block) * sizeof(D), results(next + k * block)), ...);
+    }
     for (size_t i = 0; i < length; i = i == 0 ? next : i + block) {
       const size_t at = i + block <= length ? i : length - block;
       Cached::store(d + at * sizeof(D), results(at));
     }
-  };
-  walkRows(samples.rows, convertRow, src, dst);
+  }
 }
 
 // Runs a conversion over rows of samples, of which the last `alpha` of every four stay; `blocks` a round.
@@ -71,6 +58,7 @@ void runConversion(SourceRows src, TargetRows dst, Extent samples, const F& f) {
   } else if (std::is_same_v<Store, Cached> || !allAligned<sizeof(D)>(dst)) {
     convertApart<S, D, Cached>(src, dst, samples, f, std::make_index_sequence<blocks>());
   } else {
+    countPath(Path::StreamingRows);
     convertApart<S, D, Store>(src, dst, samples, f, std::make_index_sequence<blocks>());
   }
 }

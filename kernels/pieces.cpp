@@ -57,12 +57,12 @@ class PieceLoop {
 
 }  // namespace
 
-bool areApartInRange(TargetRows dst, size_t bytes, int rows, const PieceSource& source) {
+bool areApartInRange(SourceRows source, TargetRows dst, size_t bytes, int rows) {
   const auto reach = [=](uintptr_t first, ptrdiff_t step) {
     const auto last = first + static_cast<uintptr_t>(rows - 1) * static_cast<uintptr_t>(step);
     return std::pair(std::min(first, last), std::max(first, last));
   };
-  const auto src = reach(reinterpret_cast<uintptr_t>(source.rows.first), source.rows.step),
+  const auto src = reach(reinterpret_cast<uintptr_t>(source.first), source.step),
              to = reach(reinterpret_cast<uintptr_t>(dst.first), dst.step);
   return src.first > to.second ? src.first - to.second >= bytes
                                : to.first > src.second && to.first - src.second >= bytes;

@@ -35,20 +35,14 @@ inline constexpr size_t kPieceRoom = simd::kVectorBytes * 8;
 
 // Whether every row of the destination, of so many bytes, shares memory only with a source row that is the
 // same row. Other rows do not count: each is finished before the next begins.
-bool areApartInRange(TargetRows dst, size_t bytes, int rows, const PieceSource& source);
+bool areApartInRange(SourceRows src, TargetRows dst, size_t bytes, int rows);
 
-inline bool areApart(TargetRows dst, size_t bytes, int rows, const PieceSource* sources, int count) {
-  for (int i = 0; i < count; ++i) {
-    const SourceRows src = sources[i].rows;
-    if (!sources[i].mayOverlap) continue;
-    // Where rows lie equally far apart in all images, the first ones tell for all.
-    const auto from = reinterpret_cast<uintptr_t>(src.first), to = reinterpret_cast<uintptr_t>(dst.first);
-    const uintptr_t distance = from < to ? to - from : from - to;
-    const bool apart = distance == 0 || distance >= bytes;
-    if (apart && (rows == 1 || src.step == dst.step)) continue;
-    if (!areApartInRange(dst, bytes, rows, sources[i])) return false;
-  }
-  return true;
+inline bool areApart(SourceRows src, TargetRows dst, size_t bytes, int rows) {
+  // Where rows lie equally far apart in both images, the first ones tell for all.
+  const auto from = reinterpret_cast<uintptr_t>(src.first), to = reinterpret_cast<uintptr_t>(dst.first);
+  const uintptr_t distance = from < to ? to - from : from - to;
+  const bool apart = distance == 0 || distance >= bytes;
+  return (apart && (rows == 1 || src.step == dst.step)) || areApartInRange(src, dst, bytes, rows);
 }
 
 void runInPieces(TargetRows dst, Extent samples, const Pieces& pieces);

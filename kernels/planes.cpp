@@ -6,6 +6,7 @@
 
 #include <atomic>
 
+#include "kernels/path_count.hpp"
 #include "kernels/simd/bytes.hpp"
 
 namespace lumi {
@@ -204,7 +205,9 @@ void splitRows(SourceRows src, const PlaneRows<uint8_t, channels>& planes, Exten
         },
         src, planes);
   };
-  streaming ? walk(Streaming()) : walk(Cached());
+  if (!streaming) return walk(Cached());
+  countPath(Path::StreamingPlanes);
+  walk(Streaming());
 }
 
 template <int sampleBytes, int channels>
@@ -218,7 +221,9 @@ void mergeRows(const PlaneRows<const uint8_t, channels>& planes, TargetRows dst,
         },
         planes, dst);
   };
-  streaming ? walk(Streaming()) : walk(Cached());
+  if (!streaming) return walk(Cached());
+  countPath(Path::StreamingPlanes);
+  walk(Streaming());
 }
 
 template <int sampleBytes, int channels>

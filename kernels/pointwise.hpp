@@ -10,6 +10,8 @@
 //   block(at, phase)  the 32 bytes of results there, as Bytes32 or Halves32
 //   vector(at)        the kVectorBytes bytes of results there
 //   advance(rows)     moves on to a later row
+//   isApart(dst, bytes, rows)
+//                     whether rows share memory with no source but sample for sample
 //   kSources, describe(sources)
 //                     the images that samples come from
 //   onPieces(pieces, at)
@@ -19,6 +21,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "kernels/path_count.hpp"
 #include "kernels/pattern.hpp"
 #include "kernels/pieces.hpp"
 #include "kernels/rows.hpp"
@@ -111,23 +114,26 @@ bool allAligned(TargetRows dst) {
   return (reinterpret_cast<uintptr_t>(dst.first) | static_cast<uintptr_t>(dst.step)) % sample == 0;
 }
 
+// What the length or the place of rows keeps from vectors.
+template <typename Rule>
+[[gnu::noinline]] void runCarefully(TargetRows dst, Extent extent, const Rule& rule) {
+  PieceSource sources[Rule::kSources];
+  rule.describe(sources);
+  runInPieces(dst, extent,
+              {Rule::kSample, sources, Rule::kSources, &rule, InPieces<Rule>::make, InPieces<Rule>::runRow});
+}
+
 // Makes rows of extent.length samples. A destination may be a source, sample for sample; where they overlap
 // otherwise, the samples of a row are made one by one from the first to the last. Store is how whole blocks
 // on boundaries are stored.
 template <typename Store = Cached, typename Rule>
 [[gnu::always_inline]] inline void runRows(TargetRows dst, Extent extent, const Rule& rule) {
   const size_t bytes = extent.length * Rule::kSample;
-  PieceSource sources[Rule::kSources];
-  rule.describe(sources);
-  if (bytes >= kVectorBytes && areApart(dst, bytes, extent.rows, sources, Rule::kSources)) {
-    if (std::is_same_v<Store, Cached> || !allAligned<Rule::kSample>(dst))
-      runApart<Cached>(dst, bytes, extent.rows, rule);
-    else
-      runApart<Store>(dst, bytes, extent.rows, rule);
-    return;
-  }
-  runInPieces(dst, extent,
-              {Rule::kSample, sources, Rule::kSources, &rule, InPieces<Rule>::make, InPieces<Rule>::runRow});
+  if (bytes < kVectorBytes || !rule.isApart(dst, bytes, extent.rows)) return runCarefully(dst, extent, rule);
+  if (std::is_same_v<Store, Cached> || !allAligned<Rule::kSample>(dst))
+    return runApart<Cached>(dst, bytes, extent.rows, rule);
+  countPath(Path::StreamingRows);
+  return runApart<Store>(dst, bytes, extent.rows, rule);
 }
 
 // Rows shorter than a vector that overlap no source.
@@ -159,6 +165,9 @@ struct ImageRow {
   }
   VectorBytes vector(size_t at) const { return loadVector(first + at); }
   void advance(int rows) { first = SourceRows{first, step}.row(rows); }
+  bool isApart(TargetRows dst, size_t bytes, int rows) const {
+    return sizeof(S) != sizeof(D) || areApart({first, step}, dst, bytes, rows);
+  }
   void describe(PieceSource* source) const { *source = {{first, step}, sizeof(S), sizeof(S) == sizeof(D)}; }
   ImageRow onPieces(const Byte* const* pieces, size_t) const { return ImageRow(*pieces); }
 };
@@ -178,6 +187,7 @@ struct ConstantRow {
   Bytes32 block(size_t, Phase phase) const { return phase; }
   VectorBytes vector(size_t at) const { return loadVector(from(at)); }
   void advance(int) {}
+  static bool isApart(TargetRows, size_t, int) { return true; }
   void describe(PieceSource*) const {}
   ConstantRow onPieces(const Byte* const*, size_t at) const { return {pattern, start + at}; }
 };
@@ -185,7 +195,7 @@ struct ConstantRow {
 // Applies f, which takes vectors of T samples, to 32 bytes of each operand. Floats go at once; integers go by
 // halves where the build has no wider ones.
 template <typename T, typename F, typename... Operand>
-auto applyToBlock(const F& f, Operand... operands) {
+[[gnu::always_inline]] inline auto applyToBlock(const F& f, Operand... operands) {
   if constexpr (std::is_floating_point_v<T> || kVectorBytes == 32)
     return bytesOf(f(samplesOf<T>(operands)...));
   else
@@ -218,6 +228,9 @@ struct Binary {
     a.advance(rows);
     b.advance(rows);
   }
+  bool isApart(TargetRows dst, size_t bytes, int rows) const {
+    return a.isApart(dst, bytes, rows) && b.isApart(dst, bytes, rows);
+  }
   void describe(PieceSource* sources) const {
     a.describe(sources);
     b.describe(sources + A::kSources);
@@ -236,7 +249,7 @@ inline constexpr bool kHasBlock<F, decltype(static_cast<void>(std::declval<const
     true;
 
 template <typename S, typename D, typename F>
-auto blockOf(const F& f, const Byte* p) {
+[[gnu::always_inline]] inline auto blockOf(const F& f, const Byte* p) {
   if constexpr (kHasBlock<F>)
     return f.block(p);
   else if constexpr (kVectorBytes == kBlock)
@@ -245,7 +258,7 @@ auto blockOf(const F& f, const Byte* p) {
     return Halves32{f.vector(p), f.vector(p + kVectorBytes / sizeof(D) * sizeof(S))};
 }
 template <typename F>
-VectorBytes vectorOf(const F& f, const Byte* p) {
+[[gnu::always_inline]] inline VectorBytes vectorOf(const F& f, const Byte* p) {
   if constexpr (!kHasBlock<F>)
     return f.vector(p);
   else if constexpr (kVectorBytes == kBlock)
@@ -267,6 +280,7 @@ struct Unary {
   auto block(size_t at, Phase) const { return blockOf<S, D>(f, a(at)); }
   VectorBytes vector(size_t at) const { return vectorOf(f, a(at)); }
   void advance(int rows) { a.advance(rows); }
+  bool isApart(TargetRows dst, size_t bytes, int rows) const { return a.isApart(dst, bytes, rows); }
   void describe(PieceSource* sources) const { a.describe(sources); }
   Unary onPieces(const Byte* const* pieces, size_t at) const { return {a.onPieces(pieces, at), f}; }
 };
@@ -298,6 +312,7 @@ struct KeepAlpha {
     rule.advance(rows);
     old.advance(rows);
   }
+  bool isApart(TargetRows dst, size_t bytes, int rows) const { return rule.isApart(dst, bytes, rows); }
   // The destination itself, which overlaps nothing that it should not.
   void describe(PieceSource* sources) const {
     rule.describe(sources);
@@ -310,7 +325,7 @@ struct KeepAlpha {
 
 // Runs a rule over the samples of a layout: all of them, or the colour of pixels with alpha.
 template <size_t pixelBytes, size_t usedBytes, typename Store = Cached, typename Rule>
-void runPixels(TargetRows dst, Extent samples, const Rule& rule) {
+[[gnu::always_inline]] inline void runPixels(TargetRows dst, Extent samples, const Rule& rule) {
   if constexpr (usedBytes == pixelBytes)
     runRows<Store>(dst, samples, rule);
   else

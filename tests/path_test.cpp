@@ -13,7 +13,10 @@
 #include "filters/filter_border_calls.hpp"
 #include "geometry/resize_calls.hpp"
 #include "kernels/path_count.hpp"
+#include "lumi/add_sub.h"
+#include "lumi/convert.h"
 #include "lumi/copy.h"
+#include "lumi/copy_channels.h"
 #include "lumi/set.h"
 #include "support/core_guard.hpp"
 
@@ -73,6 +76,66 @@ TEST(Paths, FillsBeyondTheCacheStream) {
   EXPECT_EQ(fills((1 << 20) - 1), 0);
   testcore::setCacheSize((1 << 20) + 3);
   EXPECT_EQ(fills((1 << 20) + 2), 0);
+}
+
+TEST(Paths, RowsThatTouchRunAsOne) {
+  std::vector<Lum8u> src(40 * 3), dst(40 * 3);
+  const auto adds = [&](int srcStep, int dstStep, int height) {
+    return taken(Path::FusedRows, [&] {
+      return lumiAdd_8u_C1IRSfs(src.data(), srcStep, dst.data(), dstStep, {39, height}, 0);
+    });
+  };
+  EXPECT_EQ(adds(39, 39, 3), 1);
+  EXPECT_EQ(adds(39, 40, 3), 0);
+  EXPECT_EQ(adds(40, 39, 3), 0);
+  EXPECT_EQ(adds(39, 39, 1), 0);
+}
+
+TEST(Paths, LargeConversionsBypassTheCache) {
+  const CoreGuard guard;
+  testcore::setCacheSize(1);
+  constexpr int kPixels = 349526;  // with three bytes each, just above a mebibyte
+  const std::vector<Lum8u> src(kPixels);
+  std::vector<Lum16s> dst(kPixels + 1);
+  const auto converts = [&](int pixels, size_t byte) {
+    auto* const to = reinterpret_cast<Lum16s*>(reinterpret_cast<Lum8u*>(dst.data()) + byte);
+    return taken(Path::StreamingRows, [&] {
+      return lumiConvert_8u16s_C1R(src.data(), pixels, to, 2 * pixels, {pixels, 1});
+    });
+  };
+  EXPECT_EQ(converts(kPixels, 0), 1);
+  EXPECT_EQ(converts(kPixels - 1, 0), 0);
+  EXPECT_EQ(converts(kPixels, 1), 0) << "no sample there starts on a boundary";
+}
+
+TEST(Paths, LargeComplexSumsBypassTheCache) {
+  const Lum16sc value[3] = {{1, 2}, {3, 4}, {5, 6}};
+  constexpr int kStep = 12 * 64, kRows = (1 << 20) / (2 * kStep) + 1;
+  std::vector<Lum16sc> src(kStep / 4 * kRows), dst(src.size());
+  const auto adds = [&](int rows) {
+    return taken(Path::StreamingRows, [&] {
+      return lumiAddC_16sc_C3RSfs(src.data(), kStep, value, dst.data(), kStep, {64, rows}, 0);
+    });
+  };
+  EXPECT_EQ(adds(kRows), 1);
+  EXPECT_EQ(adds(kRows - 1), 0);
+}
+
+TEST(Paths, LargeMergesBypassTheCache) {
+  const CoreGuard guard;
+  testcore::setCacheSize(1 << 20);
+  constexpr int kWidth = 512;
+  const auto merges = [&](int rows, int width) {
+    std::vector<Lum8u> plane(static_cast<size_t>(width) * rows), dst(3 * plane.size() + 32);
+    const Lum8u* const planes[3] = {plane.data(), plane.data(), plane.data()};
+    auto* const to = dst.data() + (32 - reinterpret_cast<uintptr_t>(dst.data()) % 32) % 32;
+    return taken(Path::StreamingPlanes, [&] {
+      return lumiCopy_8u_P3C3R(planes, width, to, 3 * width, {width, rows});
+    });
+  };
+  EXPECT_EQ(merges((1 << 20) / (6 * kWidth) + 1, kWidth), 1);
+  EXPECT_EQ(merges((1 << 20) / (6 * kWidth), kWidth), 0);
+  EXPECT_EQ(merges((1 << 20) / (6 * kWidth) + 30, kWidth - 32), 0);
 }
 
 // How often a resize takes a path: of the first columns, or of all.

@@ -7,7 +7,8 @@ namespace lumi {
 using namespace simd;
 
 template <typename Op, typename T, int alpha>
-void combineRows(SourceRows a, SourceRows b, TargetRows dst, Extent samples, Scaling scaling) {
+[[gnu::flatten]] void combineRows(SourceRows a, SourceRows b, TargetRows dst, Extent samples,
+                                  Scaling scaling) {
   withFunction<Op, T>(scaling, [&](auto f) { run<T, alpha, Cached>(dst, samples, ImageRow<T, T>(a), b, f); });
 }
 

@@ -7,8 +7,8 @@ namespace lumi {
 using namespace simd;
 
 template <typename Op, typename T, int alpha, bool ofThree, bool streaming>
-void combineWithConstant(const PixelPattern& a, SourceRows b, TargetRows dst, Extent samples,
-                         Scaling scaling) {
+[[gnu::flatten]] void combineWithConstant(const PixelPattern& a, SourceRows b, TargetRows dst, Extent samples,
+                                          Scaling scaling) {
   using Store = std::conditional_t<streaming, Streaming, Cached>;
   withFunction<Op, T>(scaling,
                       [&](auto f) { run<T, alpha, Store>(dst, samples, ConstantRow<ofThree>{a}, b, f); });

@@ -196,7 +196,7 @@ struct Multiplied {
 
 // Calls run(f) with the function of a scaling.
 template <typename Op, typename T, typename Run>
-void withFunction(Scaling scaling, Run run) {
+[[gnu::always_inline]] inline void withFunction(Scaling scaling, const Run& run) {
   if constexpr (std::is_same_v<T, float>) {
     run(Saturated<Op, T>());
   } else {
@@ -214,7 +214,7 @@ void withFunction(Scaling scaling, Run run) {
 }
 
 template <typename T, int alpha, typename Store, typename F, typename A>
-void run(TargetRows dst, Extent samples, A a, SourceRows b, F f) {
+[[gnu::always_inline]] inline void run(TargetRows dst, Extent samples, A a, SourceRows b, F f) {
   constexpr size_t pixel = alpha ? 4 * alpha * sizeof(T) : sizeof(T);
   const ImageRow<T, T> second(b);
   runPixels<pixel, pixel - alpha * sizeof(T), Store>(dst, samples,

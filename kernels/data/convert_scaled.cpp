@@ -128,7 +128,7 @@ struct Rescaled {
 }  // namespace
 
 template <typename S, typename D>
-void convertScaledRows(SourceRows src, TargetRows dst, Extent samples, Rescaling how) {
+[[gnu::flatten]] void convertScaledRows(SourceRows src, TargetRows dst, Extent samples, Rescaling how) {
   using W = WorkOf<S>;
   const auto run = [&](auto f) {
     runConversion<S, D, 0, 2>(src, dst, samples, Rescaled<S, D, decltype(f)>{f});

@@ -107,7 +107,7 @@ struct SpreadBlock {
   static constexpr size_t kPixels = kBlock<sampleBytes>;
   Bytes16 vectors[channels];
 
-  SpreadBlock(const Byte* src, const Byte* dst) {
+  [[gnu::always_inline]] SpreadBlock(const Byte* src, const Byte* dst) {
     static constexpr auto controls = spreadControls<sampleBytes, channels>(false);
     static constexpr auto others = otherChannels<sampleBytes, channels>();
     const Bytes16 samples = load16(src);
@@ -127,7 +127,7 @@ struct SpreadBlock<4, 3> {
   static constexpr size_t kPixels = 8;
   Bytes32 first, second, third;
 
-  SpreadBlock(const Byte* src, const Byte* dst) {
+  [[gnu::always_inline]] SpreadBlock(const Byte* src, const Byte* dst) {
     const Bytes32 turned = permuteDwords<0, 3, 2, 1>(load32(src));
     first = blendDwords<0b01001001>(load32(dst), permuteHalves<0, 0>(turned, turned));
     second = blendDwords<0b10010010>(load32(dst + 32), turned);

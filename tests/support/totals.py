@@ -1,4 +1,4 @@
-#SPDX - License - Identifier : MIT
+# SPDX-License-Identifier: MIT
 """Sums up test runs: totals.py <build folder>...; the last line is "N passed, M failed".
 
 Each folder holds ctest.xml, as ctest wrote it. An entry that ran GoogleTest counts as the tests that its

@@ -58,6 +58,10 @@ class Families(unittest.TestCase):
         self.write("registry/planned_names.txt", PLANNED + "lumiAbs_32f_C3R\n")
         self.assertEqual(readme_families.main(["--check"]), 1)
 
+    def test_the_committed_table_is_current(self):
+        with mock.patch.object(readme_families, "ROOT", ROOT):
+            self.assertEqual(readme_families.main(["--check"]), 0)
+
     def test_names_outside_the_plan_are_refused(self):
         self.write("registry/planned_names.txt", "lumiAbs_16s_C1R\n")
         self.assertEqual(readme_families.main([]), 1)
