@@ -43,7 +43,8 @@ TEST(PointwiseDoubles, OverlappingRowsAreDoneInOrder) {
   for (size_t shift = 1; shift <= 9; ++shift) {
     std::vector<double> image(40), expected(40);
     for (size_t i = 0; i < image.size(); ++i) expected[i] = image[i] = 1.0 / static_cast<double>(i + 1);
-    for (size_t i = 0; i + shift < expected.size(); ++i) expected[i + shift] = weighted(expected[i], expected[i]);
+    for (size_t i = 0; i + shift < expected.size(); ++i)
+      expected[i + shift] = weighted(expected[i], expected[i]);
     auto* const first = reinterpret_cast<uint8_t*>(image.data());
     using Image = ImageRow<double, double>;
     const Image src(SourceRows{first, 0});
