@@ -18,6 +18,14 @@ void note(const T& argument) {
   received.insert(received.end(), bytes, bytes + sizeof argument);
 }
 
+// Whether the functions here can be called on a badly aligned stack. Clang reads neighbouring arguments at
+// once, from where an aligned stack would have them; the library is compiled otherwise.
+#if defined(__i386__) && !defined(__clang__)
+constexpr bool kAnyStack = true;
+#else
+constexpr bool kAnyStack = false;
+#endif
+
 template <typename... T>
 LumStatus noteAll(const T&... arguments) {
   received.clear();
@@ -104,7 +112,7 @@ void expectReceived(Function* function, const std::vector<Passing>& classes) {
   const ExportRow row = rowOf(function, arguments);
   for (const int misalignment : {0, 4, 8, 12}) {
     received.clear();
-    const Outcome outcome = invoke(row, slots.data(), sizeof(void*) == 4 ? misalignment : 0);
+    const Outcome outcome = invoke(row, slots.data(), kAnyStack ? misalignment : 0);
     EXPECT_EQ(outcome.status, 77);
     EXPECT_EQ(outcome.broken, "");
     EXPECT_EQ(received, sent);
