@@ -173,7 +173,9 @@ TEST(Driver, EveryTypeAndLayout) {
 // Planted mistakes leak: blocks that are kept, and what a call held that ended in a memory fault. Only looked
 // at by programs with address checks.
 extern "C" const char* __lsan_default_suppressions();
-extern "C" const char* __lsan_default_suppressions() { return "leak:inventedScratch\nleak:test::faultOf\n"; }
+extern "C" const char* __lsan_default_suppressions() {
+  return "leak:inventedScratch\nleak:inventedInitAlloc\nleak:test::faultOf\n";
+}
 
 // A copy that goes through two blocks of scratch.
 extern "C" [[gnu::force_align_arg_pointer]] LumStatus inventedScratch(const Lum8u* src, int srcStep,
