@@ -54,7 +54,7 @@ void runConversion(SourceRows src, TargetRows dst, Extent samples, const F& f) {
   } else if constexpr (sizeof(S) == sizeof(D)) {
     runRows(dst, samples, rule);
   } else if (samples.length * sizeof(D) < kVectorBytes) {
-    runOnlyInPieces(dst, samples, rule);
+    runCarefully(dst, samples, rule);
   } else if (std::is_same_v<Store, Cached> || !allAligned<sizeof(D)>(dst)) {
     convertApart<S, D, Cached>(src, dst, samples, f, std::make_index_sequence<blocks>());
   } else {

@@ -43,7 +43,7 @@ class PieceLoop {
         copyFew(rooms_[i], pieces_.sources[i].rows.row(y) + done * sample, now * sample);
       }
       alignas(32) Byte results[kVectorBytes];
-      pieces_.make(pieces_.rule, at_, at, results);
+      pieces_.make(pieces_.work, at_, at, now * pieces_.sampleBytes, results);
       copyFew(dst + at, results, now * pieces_.sampleBytes);
     }
   }
@@ -77,13 +77,9 @@ void runInPieces(TargetRows dst, Extent samples, const Pieces& pieces) {
     for (int i = 0; i < pieces.count; ++i)
       if (pieces.sources[i].mayOverlap)
         distance = std::min(distance, distanceTo(pieces.sources[i].rows.row(y), row, bytes));
-    if (distance == bytes && bytes >= kVectorBytes) {
-      pieces.runRow(pieces.rule, row, bytes, y);
-    } else {
-      // No piece reaches what it changes itself.
-      const size_t most = std::min(distance, kVectorBytes) / pieces.sampleBytes;
-      loop.run(row, samples.length, std::max<size_t>(most, 1), y);
-    }
+    // No piece reaches what it changes itself.
+    const size_t most = std::min(distance, kVectorBytes) / pieces.sampleBytes;
+    loop.run(row, samples.length, std::max<size_t>(most, 1), y);
   }
 }
 

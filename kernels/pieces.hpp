@@ -21,11 +21,10 @@ struct Pieces {
   size_t sampleBytes;  // of the destination
   const PieceSource* sources;
   int count;
-  const void* rule;
-  // A vector of results of the samples from byte `at` of the destination on, which lie where pieces point.
-  void (*make)(const void* rule, const uint8_t* const* pieces, size_t at, uint8_t* results);
-  // Row y, a vector or longer, that overlaps no source.
-  void (*runRow)(const void* rule, uint8_t* row, size_t bytes, int y);
+  void* work;
+  // A vector of results of the samples from byte `at` of the destination on, which lie where pieces point; so
+  // many bytes of it are wanted.
+  void (*make)(void* work, const uint8_t* const* pieces, size_t at, size_t bytes, uint8_t* results);
 };
 
 // The most that a rule has: two operands, and what the destination holds.

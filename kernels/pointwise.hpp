@@ -9,6 +9,7 @@
 //   phase(at)         what stays the same for the blocks at `at`, `at` + kPeriod blocks and so on
 //   block(at, phase)  the 32 bytes of results there, as Bytes32 or Halves32
 //   vector(at)        the kVectorBytes bytes of results there
+//                     Either may be Marked: what runs the rule returns the marks of all samples.
 //   advance(rows)     moves on to a later row
 //   isApart(dst, bytes, rows)
 //                     whether rows share memory with no source but sample for sample
@@ -21,11 +22,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "kernels/marks.hpp"
 #include "kernels/path_count.hpp"
 #include "kernels/pattern.hpp"
 #include "kernels/pieces.hpp"
 #include "kernels/rows.hpp"
-#include "kernels/simd/floats.hpp"
 
 namespace lumi::simd {
 
@@ -33,19 +34,20 @@ inline constexpr size_t kBlock = 32;
 
 // Where the first and last block lie over others, all of them are made of what was there before: they are
 // made first and stored last, so that the destination may be the source.
-template <typename Store, typename Rule, size_t... k>
-[[gnu::always_inline]] inline void runLong(Byte* d, size_t bytes, const Rule& rule,
+template <typename Store, typename Rule, typename Marks, size_t... k>
+[[gnu::always_inline]] inline void runLong(Byte* d, size_t bytes, const Rule& rule, Marks& marks,
                                            std::index_sequence<k...>) {
   const size_t reach = reachPastBoundary(d, kBlock);
   const bool canAlign = reach % Rule::kSample == 0;
-  const auto first = rule.block(0, rule.phase(0));
-  const auto last = rule.block(bytes - kBlock, rule.phase(bytes - kBlock));
+  const auto first = marks.take(rule.block(0, rule.phase(0)));
+  const auto last = marks.take(rule.block(bytes - kBlock, rule.phase(bytes - kBlock)));
   size_t at = canAlign ? reach : kBlock;
   const typename Rule::Phase phases[] = {rule.phase(at + k % Rule::kPeriod * kBlock)...};
   constexpr size_t round = sizeof...(k) * kBlock;
   for (; at + round <= bytes; at += round)
-    (Store::store(d + at + k * kBlock, rule.block(at + k * kBlock, phases[k])), ...);
-  for (; at + kBlock <= bytes; at += kBlock) Cached::store(d + at, rule.block(at, rule.phase(at)));
+    (Store::store(d + at + k * kBlock, marks.take(rule.block(at + k * kBlock, phases[k]))), ...);
+  for (; at + kBlock <= bytes; at += kBlock)
+    Cached::store(d + at, marks.take(rule.block(at, rule.phase(at))));
   Cached::store(d, first);
   Cached::store(d + bytes - kBlock, last);
 }
@@ -53,60 +55,49 @@ template <typename Store, typename Rule, size_t... k>
 // Up to here rows are done in unaligned blocks from their start on: less work than to find the boundaries.
 inline constexpr size_t kShortRow = 8 * kBlock;
 
-template <typename Rule, size_t... k>
-[[gnu::always_inline]] inline void runShort(TargetRows dst, size_t bytes, int rows, Rule& rule,
+template <typename Rule, typename Marks, size_t... k>
+[[gnu::always_inline]] inline void runShort(TargetRows dst, size_t bytes, int rows, Rule& rule, Marks& marks,
                                             std::index_sequence<k...>) {
   const typename Rule::Phase phases[] = {rule.phase(k * kBlock)...};
   const auto lastPhase = rule.phase(bytes - kBlock);
   for (int y = 0; y < rows; ++y, rule.advance(1)) {
     Byte* const d = dst.row(y);
-    const auto last = rule.block(bytes - kBlock, lastPhase);
-    size_t at = 0;
-    const auto one = [&](const auto& phase) {
+    const auto last = marks.take(rule.block(bytes - kBlock, lastPhase));
+    const auto one = [&](size_t at, const auto& phase) {
       if (at + kBlock >= bytes) return false;
-      Cached::store(d + at, rule.block(at, phase));
-      at += kBlock;
+      Cached::store(d + at, marks.take(rule.block(at, phase)));
       return true;
     };
-    while ((one(phases[k]) && ...)) {
-    }
+    for (size_t at = 0; at + kBlock < bytes; at += sizeof...(k) * kBlock)
+      static_cast<void>((one(at + k * kBlock, phases[k]) && ...));
     Cached::store(d + bytes - kBlock, last);
   }
 }
 
 // Rows of a vector or more that overlap no source but themselves. The length decides once for all of them.
 template <typename Store, typename Rule>
-[[gnu::noinline, gnu::flatten]] void runApart(TargetRows dst, size_t bytes, int rows, const Rule& given) {
-  Rule rule = given;  // of our own: bytes stored could change the other, for all that compilers know
+[[gnu::always_inline]] inline MarksOf<Rule> runApart(TargetRows dst, size_t bytes, int rows, Rule rule) {
+  MarksOf<Rule> marks;
   if constexpr (kVectorBytes < kBlock) {
     if (bytes < kBlock) {
       for (int y = 0; y < rows; ++y, rule.advance(1)) {
         Byte* const d = dst.row(y);
-        const VectorBytes first = rule.vector(0), last = rule.vector(bytes - kVectorBytes);
+        const VectorBytes first = marks.take(rule.vector(0)),
+                          last = marks.take(rule.vector(bytes - kVectorBytes));
         storeVector(d, first);
         storeVector(d + bytes - kVectorBytes, last);
       }
-      return;
+      return marks;
     }
   }
-  if (bytes <= kShortRow) return runShort(dst, bytes, rows, rule, std::make_index_sequence<Rule::kPeriod>());
   constexpr size_t round = Rule::kPeriod == 1 ? 2 : Rule::kPeriod;
-  for (int y = 0; y < rows; ++y, rule.advance(1))
-    runLong<Store>(dst.row(y), bytes, rule, std::make_index_sequence<round>());
+  if (bytes <= kShortRow)
+    runShort(dst, bytes, rows, rule, marks, std::make_index_sequence<Rule::kPeriod>());
+  else
+    for (int y = 0; y < rows; ++y, rule.advance(1))
+      runLong<Store>(dst.row(y), bytes, rule, marks, std::make_index_sequence<round>());
+  return marks;
 }
-
-// How rows are done piece by piece, or one by one, without another loop for each rule.
-template <typename Rule>
-struct InPieces {
-  static void make(const void* rule, const Byte* const* pieces, size_t at, Byte* results) {
-    storeVector(results, static_cast<const Rule*>(rule)->onPieces(pieces, at).vector(0));
-  }
-  static void runRow(const void* rule, Byte* row, size_t bytes, int y) {
-    Rule there = *static_cast<const Rule*>(rule);
-    there.advance(y);
-    runApart<Cached>({row, 0}, bytes, 1, there);
-  }
-};
 
 // No sample of a row at an odd address starts on a boundary, and stores that bypass the cache need one.
 template <size_t sample>
@@ -114,34 +105,36 @@ bool allAligned(TargetRows dst) {
   return (reinterpret_cast<uintptr_t>(dst.first) | static_cast<uintptr_t>(dst.step)) % sample == 0;
 }
 
-// What the length or the place of rows keeps from vectors.
+// What the length or the place of rows keeps from vectors, without another loop for each rule.
 template <typename Rule>
-[[gnu::noinline]] void runCarefully(TargetRows dst, Extent extent, const Rule& rule) {
+[[gnu::noinline]] MarksOf<Rule> runCarefully(TargetRows dst, Extent extent, const Rule& rule) {
+  struct Work {
+    const Rule& rule;
+    MarksOf<Rule> marks;
+
+    static void make(void* work, const Byte* const* pieces, size_t at, size_t bytes, Byte* results) {
+      auto& [of, marks] = *static_cast<Work*>(work);
+      storeVector(results, marks.takeFirst(bytes, of.onPieces(pieces, at).vector(0)));
+    }
+  };
   PieceSource sources[Rule::kSources];
   rule.describe(sources);
-  runInPieces(dst, extent,
-              {Rule::kSample, sources, Rule::kSources, &rule, InPieces<Rule>::make, InPieces<Rule>::runRow});
+  Work work{rule, {}};
+  runInPieces(dst, extent, {Rule::kSample, sources, Rule::kSources, &work, Work::make});
+  return work.marks;
 }
 
 // Makes rows of extent.length samples. A destination may be a source, sample for sample; where they overlap
 // otherwise, the samples of a row are made one by one from the first to the last. Store is how whole blocks
 // on boundaries are stored.
 template <typename Store = Cached, typename Rule>
-[[gnu::always_inline]] inline void runRows(TargetRows dst, Extent extent, const Rule& rule) {
+[[gnu::always_inline]] inline MarksOf<Rule> runRows(TargetRows dst, Extent extent, const Rule& rule) {
   const size_t bytes = extent.length * Rule::kSample;
   if (bytes < kVectorBytes || !rule.isApart(dst, bytes, extent.rows)) return runCarefully(dst, extent, rule);
   if (std::is_same_v<Store, Cached> || !allAligned<Rule::kSample>(dst))
     return runApart<Cached>(dst, bytes, extent.rows, rule);
   countPath(Path::StreamingRows);
   return runApart<Store>(dst, bytes, extent.rows, rule);
-}
-
-// Rows shorter than a vector that overlap no source.
-template <typename Rule>
-void runOnlyInPieces(TargetRows dst, Extent extent, const Rule& rule) {
-  PieceSource sources[Rule::kSources];
-  rule.describe(sources);
-  runInPieces(dst, extent, {Rule::kSample, sources, Rule::kSources, &rule, InPieces<Rule>::make, nullptr});
 }
 
 // An image of S samples, whose operation makes D samples of them.
@@ -199,8 +192,8 @@ template <typename T, typename F, typename... Operand>
   if constexpr (std::is_floating_point_v<T> || kVectorBytes == 32)
     return bytesOf(f(samplesOf<T>(operands)...));
   else
-    return Halves32{bytesOf(f(samplesOf<T>(lowHalf(operands))...)),
-                    bytesOf(f(samplesOf<T>(highHalf(operands))...))};
+    return halves(bytesOf(f(samplesOf<T>(lowHalf(operands))...)),
+                  bytesOf(f(samplesOf<T>(highHalf(operands))...)));
 }
 
 // d = f(a, b), samples of one type T.
@@ -218,10 +211,10 @@ struct Binary {
   };
 
   Phase phase(size_t at) const { return {a.phase(at), b.phase(at)}; }
-  auto block(size_t at, const Phase& phase) const {
+  [[gnu::always_inline]] auto block(size_t at, const Phase& phase) const {
     return applyToBlock<T>(f, a.block(at, phase.a), b.block(at, phase.b));
   }
-  VectorBytes vector(size_t at) const {
+  [[gnu::always_inline]] auto vector(size_t at) const {
     return bytesOf(f(samplesOf<T>(a.vector(at)), samplesOf<T>(b.vector(at))));
   }
   void advance(int rows) {
@@ -255,10 +248,10 @@ template <typename S, typename D, typename F>
   else if constexpr (kVectorBytes == kBlock)
     return f.vector(p);
   else
-    return Halves32{f.vector(p), f.vector(p + kVectorBytes / sizeof(D) * sizeof(S))};
+    return halves(f.vector(p), f.vector(p + kVectorBytes / sizeof(D) * sizeof(S)));
 }
 template <typename F>
-[[gnu::always_inline]] inline VectorBytes vectorOf(const F& f, const Byte* p) {
+[[gnu::always_inline]] inline auto vectorOf(const F& f, const Byte* p) {
   if constexpr (!kHasBlock<F>)
     return f.vector(p);
   else if constexpr (kVectorBytes == kBlock)
@@ -277,8 +270,8 @@ struct Unary {
   struct Phase {};
 
   Phase phase(size_t) const { return {}; }
-  auto block(size_t at, Phase) const { return blockOf<S, D>(f, a(at)); }
-  VectorBytes vector(size_t at) const { return vectorOf(f, a(at)); }
+  [[gnu::always_inline]] auto block(size_t at, Phase) const { return blockOf<S, D>(f, a(at)); }
+  [[gnu::always_inline]] auto vector(size_t at) const { return vectorOf(f, a(at)); }
   void advance(int rows) { a.advance(rows); }
   bool isApart(TargetRows dst, size_t bytes, int rows) const { return a.isApart(dst, bytes, rows); }
   void describe(PieceSource* sources) const { a.describe(sources); }
@@ -302,10 +295,10 @@ struct KeepAlpha {
 
   const Byte* maskFrom(size_t at) const { return kUsed.bytes + (start + at) % pixelBytes; }
   Phase phase(size_t at) const { return {rule.phase(at), load32(maskFrom(at))}; }
-  auto block(size_t at, const Phase& phase) const {
+  [[gnu::always_inline]] auto block(size_t at, const Phase& phase) const {
     return ifThenElse(phase.mask, rule.block(at, phase.rule), old.block(at, {}));
   }
-  VectorBytes vector(size_t at) const {
+  [[gnu::always_inline]] auto vector(size_t at) const {
     return ifThenElse(loadVector(maskFrom(at)), rule.vector(at), old.vector(at));
   }
   void advance(int rows) {
@@ -325,11 +318,11 @@ struct KeepAlpha {
 
 // Runs a rule over the samples of a layout: all of them, or the colour of pixels with alpha.
 template <size_t pixelBytes, size_t usedBytes, typename Store = Cached, typename Rule>
-[[gnu::always_inline]] inline void runPixels(TargetRows dst, Extent samples, const Rule& rule) {
+[[gnu::always_inline]] inline MarksOf<Rule> runPixels(TargetRows dst, Extent samples, const Rule& rule) {
   if constexpr (usedBytes == pixelBytes)
-    runRows<Store>(dst, samples, rule);
+    return runRows<Store>(dst, samples, rule);
   else
-    runRows<Store>(
+    return runRows<Store>(
         dst, samples,
         KeepAlpha<pixelBytes, usedBytes, Rule>{rule, ImageRow<Byte, Byte>(SourceRows{dst.first, dst.step})});
 }

@@ -103,11 +103,13 @@ struct Expand {
 };
 
 template <typename D, typename Order, typename Choice>
-void expand(SourceRows src, unsigned offset, TargetRows dst, Extent pixels, Choice choice) {
+void expand(SourceRows src, unsigned offset, TargetRows dst, Extent pixels, const Choice& choice) {
   using Rule = Expand<D, Order, Choice>;
   const size_t bytes = pixels.length * sizeof(D);
-  if (bytes >= kVectorBytes)
-    return runApart<Cached>(dst, bytes, pixels.rows, Rule{src.first, src.step, offset, choice});
+  if (bytes >= kVectorBytes) {
+    runApart<Cached>(dst, bytes, pixels.rows, Rule{src.first, src.step, offset, choice});
+    return;
+  }
   // Of rows shorter than a vector nothing behind the last bit may be read.
   walkRows(
       pixels.rows,

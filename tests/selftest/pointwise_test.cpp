@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The loop of pointwise rows on vectors of doubles, which no export has yet.
+// The loop of pointwise rows: vectors of doubles, and marks of bad samples.
 #include "kernels/pointwise.hpp"
 
 #include <gtest/gtest.h>
@@ -51,6 +51,59 @@ TEST(PointwiseDoubles, OverlappingRowsAreDoneInOrder) {
     runRows({first + 8 * shift, 0}, {image.size() - shift, 1},
             Binary<double, Weighted, Image, Image>{src, src, {}});
     EXPECT_EQ(image, expected) << "shifted by " << shift;
+  }
+}
+
+// Half of each sample; negative ones are bad, and give 0.
+struct HalfOfGood {
+  static auto vector(const Byte* p) {
+    const Samples<int16_t> x{loadVector(p)}, bad = isAtLeast(broadcast<int16_t>(-1), x);
+    return bytesOf(Marked<Samples<int16_t>>{andNot(shiftRight<1>(x), bad), bad});
+  }
+};
+
+// Whether a walk over an image tells of a bad sample at any place that counts, and of no other.
+template <size_t usedBytes>
+void expectMarks(size_t pixels, size_t gap, ptrdiff_t distance) {
+  constexpr size_t rows = 2, pixelBytes = 8, samples = 4;
+  const size_t length = pixels * samples, step = length + gap;
+  for (size_t bad = 0; bad <= rows * step; bad += 1 + bad % 3) {
+    std::vector<int16_t> image(rows * step + 64, 100);
+    int16_t* const src = image.data() + 32;
+    src[bad] = -5;
+    if (usedBytes < pixelBytes)
+      for (size_t i = 3; i < step; i += samples) src[i] = -7;  // alpha, in the first row
+    const auto byteStep = static_cast<ptrdiff_t>(2 * step);
+    std::vector<int16_t> apart(image.size());
+    auto* const dst = reinterpret_cast<uint8_t*>(distance == 99 ? apart.data() + 32 : src + distance);
+    const bool any = runPixels<pixelBytes, usedBytes>(
+                         {dst, byteStep}, {length, rows},
+                         Unary<int16_t, int16_t, HalfOfGood>{
+                             ImageRow<int16_t, int16_t>({reinterpret_cast<uint8_t*>(src), byteStep}), {}})
+                         .any();
+    const size_t at = bad % step;
+    const bool counts = bad < rows * step && at < length && at % samples < usedBytes / 2;
+    ASSERT_EQ(any, counts) << "sample " << bad << " of rows of " << length << " and " << gap << ", to "
+                           << distance;
+  }
+}
+
+TEST(PointwiseMarks, BadSamplesAreMarkedWhereverTheyAre) {
+  for (size_t pixels : {1U, 2U, 3U, 4U, 5U, 9U, 20U, 33U, 40U})
+    for (size_t gap : {0U, 3U})
+      for (ptrdiff_t distance : {99, 0}) {
+        expectMarks<8>(pixels, gap, distance);
+        expectMarks<6>(pixels, gap, distance);
+      }
+}
+
+// One by one or a few at a time: what is in the rest of a vector does not count. Results replace sources
+// that were not read yet, and none of them is bad.
+TEST(PointwiseMarks, SamplesMadeInOrder) {
+  for (size_t pixels : {1U, 3U, 9U, 20U}) {
+    expectMarks<8>(pixels, 0, -1);
+    expectMarks<8>(pixels, 3, -5);
+    expectMarks<8>(pixels, 3, -16);
   }
 }
 
