@@ -7,7 +7,8 @@ add_dependencies(lumi lumi_generated)
 # Kernels are optimised in every build type: unoptimised vector code is many times slower.
 # Loops start on 32 bytes: where one falls otherwise costs up to a third of a copy's speed. Tails of up to
 # fifteen samples stay loops: unrolled, they would take registers from the loop before them.
-set(LUMI_KERNEL_OPTIONS -O3 -falign-loops=32)
+set(LUMI_KERNEL_OPTIMISATION -O3 CACHE STRING "Optimisation of the kernels, in every build type")
+set(LUMI_KERNEL_OPTIONS ${LUMI_KERNEL_OPTIMISATION} -falign-loops=32)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   list(APPEND LUMI_KERNEL_OPTIONS --param=max-completely-peel-times=8)
   # Kernels call nothing that wants an aligned stack: each function aligns its own, if it needs to, and only then.

@@ -16,7 +16,8 @@ import tempfile
 
 EPOCH, DATE = "1000000000", b"Sep  9 2001"
 OPTIONS = ("-DLUMI_TESTS=OFF", "-DLUMI_EXAMPLES=OFF", "-DLUMI_BENCH=OFF",
-           "-DCMAKE_BUILD_TYPE=Release")  # debug information takes as long as all else
+           # What could differ does so at every optimisation and without debug information, which take most of the time.
+           "-DCMAKE_BUILD_TYPE=Release", "-DCMAKE_CXX_FLAGS_RELEASE=-O1 -DNDEBUG", "-DLUMI_KERNEL_OPTIMISATION=-O1")
 
 
 def build(root, preset, folder):

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -27,18 +28,13 @@ D converted(S x) {
 // away from zero.
 inline double rounded(double x, int mode) {
   const double low = std::floor(std::fabs(x)), rest = std::fabs(x) - low;
-  const bool isOdd = std::fmod(low, 2) != 0;
+  const bool isOdd = std::floor(low / 2) * 2 != low;
   const bool up = mode == 0 ? false : mode == 1 ? rest > 0.5 || (rest == 0.5 && isOdd) : rest >= 0.5;
   return std::copysign(low + (up ? 1 : 0), x);
 }
 
-// 1 doubled -s times, or halved s times.
-inline float floatFactor(int s) {
-  float factor = 1;
-  for (; s < 0 && factor <= std::numeric_limits<float>::max(); ++s) factor *= 2;
-  for (; s > 0 && factor > 0; --s) factor /= 2;
-  return factor;
-}
+// 1 doubled -s times, or halved s times: beyond a thousand it is infinity or 0 for long.
+inline float floatFactor(int s) { return std::ldexp(1.0F, -std::clamp(s, -1000, 1000)); }
 
 template <typename D>
 D convertedFloat(float x, int mode, int scaleFactor) {

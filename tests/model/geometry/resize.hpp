@@ -14,20 +14,20 @@ namespace model::resize {
 
 inline int64_t upTo(int64_t n, int64_t multiple) { return (n + multiple - 1) / multiple * multiple; }
 
-// One axis of a resize.
 // The C library's own takes most of a 32-bit test's time.
 inline int floorOf(double x) {
   const int truncated = static_cast<int>(x);
   return x < truncated ? truncated - 1 : truncated;
 }
 
+// One axis of a resize.
 struct Axis {
   int src, dst;
+  double ratio = static_cast<double>(src) / static_cast<double>(dst);
 
-  double ratio() const { return static_cast<double>(src) / static_cast<double>(dst); }
-  int start(int position) const { return floorOf(position * ratio()); }
-  int nearest(int position) const { return static_cast<int>((position + 0.5) * ratio() - 1e-10); }
-  double centre(int position) const { return (position + 0.5) * ratio() - 0.5; }
+  int start(int position) const { return floorOf(position * ratio); }
+  int nearest(int position) const { return static_cast<int>((position + 0.5) * ratio - 1e-10); }
+  double centre(int position) const { return (position + 0.5) * ratio - 0.5; }
   int index(int position) const { return floorOf(centre(position)); }
   double fraction(int position) const { return centre(position) - floorOf(centre(position)); }
 };
@@ -45,21 +45,32 @@ struct Tile {
   int height() const { return std::min(size.height, dst.height - offset.y); }
 };
 
-// The source image is given by the pixel where the tile starts.
-template <typename T>
-T sampleAt(const Tile& tile, Image src, int column, int row, int channel) {
-  const int x = column - tile.horizontal().start(tile.offset.x);
-  return load<T>(src.row(row - tile.vertical().start(tile.offset.y)), x * tile.channels + channel);
-}
+// The source image, given by the pixel where the tile starts.
+struct Source {
+  Image image;
+  int left, top, channels;
+
+  Source(const Tile& tile, Image given)
+      : image(given),
+        left(tile.horizontal().start(tile.offset.x)),
+        top(tile.vertical().start(tile.offset.y)),
+        channels(tile.channels) {}
+
+  template <typename T>
+  T sample(int column, int row, int channel) const {
+    return load<T>(image.row(row - top), (column - left) * channels + channel);
+  }
+};
 
 template <typename T>
-void nearest(const Tile& tile, Image src, Image dst) {
+void nearest(const Tile& tile, Image given, Image dst) {
+  const Source src(tile, given);
   for (int y = 0; y < tile.height(); ++y)
     for (int x = 0; x < tile.width(); ++x)
       for (int k = 0; k < tile.channels; ++k)
         store<T>(dst.row(y), x * tile.channels + k,
-                 sampleAt<T>(tile, src, tile.horizontal().nearest(tile.offset.x + x),
-                             tile.vertical().nearest(tile.offset.y + y), k));
+                 src.sample<T>(tile.horizontal().nearest(tile.offset.x + x),
+                               tile.vertical().nearest(tile.offset.y + y), k));
 }
 
 // Arithmetic by sample type; weights are the fractions in double.
@@ -110,13 +121,13 @@ inline Side sideOf(const Axis& axis, int position, bool lowInMemory, bool highIn
 }
 
 template <typename T>
-T linearSample(const Tile& tile, Image src, int x, int y, int k) {
+T linearSample(const Tile& tile, const Source& src, int x, int y, int k) {
   using A = Arithmetic<T>;
   const Axis h = tile.horizontal(), v = tile.vertical();
   const bool all = (tile.border & 7) == 6 || (tile.border & 240) == 240;
   const Side sideX = sideOf(h, x, all || (tile.border & 64), all || (tile.border & 128));
   const Side sideY = sideOf(v, y, all || (tile.border & 16), all || (tile.border & 32));
-  const auto at = [&](int column, int row) { return sampleAt<T>(tile, src, column, row, k); };
+  const auto at = [&](int column, int row) { return src.sample<T>(column, row, k); };
   const int left = sideX == Side::Middle ? h.index(x) : sideX == Side::Low ? 0 : h.src - 1;
   const int right = sideX == Side::Middle ? left + 1 : left;
   const double fx = h.fraction(x), fy = v.fraction(y);
@@ -131,7 +142,8 @@ T linearSample(const Tile& tile, Image src, int x, int y, int k) {
 }
 
 template <typename T>
-void linear(const Tile& tile, Image src, Image dst) {
+void linear(const Tile& tile, Image given, Image dst) {
+  const Source src(tile, given);
   for (int y = 0; y < tile.height(); ++y)
     for (int x = 0; x < tile.width(); ++x)
       for (int k = 0; k < tile.channels; ++k)
