@@ -24,6 +24,7 @@ struct Chosen {
 
   static void blendVector(const Byte* src, Byte* dst, size_t k) {
     store32(dst, ifThenElse(load32(kMask.bytes + kVector * k), load32(src), load32(dst)));
+    keepStoresInOrder();
   }
 
   // Blends all of a row that vectors may touch, or nothing where it is shorter than one; returns the pixels

@@ -15,7 +15,7 @@ inline constexpr size_t kSourceOfVector = kVectorBytes / sizeof(D) * sizeof(S);
 // wider side follow from those of the narrower one for nothing, but not the other way round. First come the
 // blocks on boundaries, in rounds, then the first block and those that are left.
 template <typename S, typename D, typename Store, typename F, size_t... k>
-[[gnu::noinline, gnu::flatten]] void convertApart(SourceRows src, TargetRows dst, Extent samples,
+[[gnu::always_inline]] inline void convertApart(SourceRows src, TargetRows dst, Extent samples,
                                                   const F& work, std::index_sequence<k...>) {
   constexpr size_t block = kBlock / sizeof(D), vector = kVectorBytes / sizeof(D),
                    round = sizeof...(k) * block;
@@ -47,7 +47,7 @@ template <typename S, typename D, typename Store, typename F, size_t... k>
 // Runs a conversion over rows of samples, of which the last `alpha` of every four stay; `blocks` a round.
 // Store is how blocks on boundaries are stored; samples at odd addresses never reach one.
 template <typename S, typename D, int alpha, size_t blocks = 4, typename Store = Cached, typename F>
-void runConversion(SourceRows src, TargetRows dst, Extent samples, const F& f) {
+[[gnu::flatten]] void runConversion(SourceRows src, TargetRows dst, Extent samples, const F& f) {
   const Unary<S, D, F> rule{ImageRow<S, D>(src), f};
   if constexpr (alpha != 0) {
     runPixels<4 * sizeof(D), (4 - alpha) * sizeof(D)>(dst, samples, rule);

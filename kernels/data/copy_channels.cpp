@@ -79,6 +79,7 @@ template <int sampleBytes>
       const Bytes16 colour = i < 3 ? shuffleBytes(load16(src + 12 * i), vectorOf(control))
                                    : shuffleBytes(load16(src + 32), vectorOf(last));
       store16(dst + 16 * i, bitOr(colour, bitAnd(load16(dst + 16 * i), load16(alpha.bytes))));
+      keepStoresInOrder();
     }
   for (; pixels; --pixels, src += 3 * sampleBytes, dst += 4 * sampleBytes) move<3 * sampleBytes>(dst, src);
 }
@@ -135,7 +136,9 @@ struct SpreadBlock<4, 3> {
   }
   void store(Byte* dst) const {
     store32(dst, first);
+    keepStoresInOrder();
     store32(dst + 32, second);
+    keepStoresInOrder();
     store32(dst + 64, third);
   }
 };
