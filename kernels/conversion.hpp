@@ -15,8 +15,8 @@ inline constexpr size_t kSourceOfVector = kVectorBytes / sizeof(D) * sizeof(S);
 // wider side follow from those of the narrower one for nothing, but not the other way round. First come the
 // blocks on boundaries, in rounds, then the first block and those that are left.
 template <typename S, typename D, typename Store, typename F, size_t... k>
-[[gnu::always_inline]] inline void convertApart(SourceRows src, TargetRows dst, Extent samples,
-                                                  const F& work, std::index_sequence<k...>) {
+[[gnu::always_inline]] inline void convertApart(SourceRows src, TargetRows dst, Extent samples, const F& work,
+                                                std::index_sequence<k...>) {
   constexpr size_t block = kBlock / sizeof(D), vector = kVectorBytes / sizeof(D),
                    round = sizeof...(k) * block;
   const F f = work;  // no store changes a copy

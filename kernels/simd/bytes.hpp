@@ -250,8 +250,9 @@ inline Bytes16 loadVector(const Byte* p) { return load16(p); }
 inline void storeVector(Byte* p, Bytes16 v) { store16(p, v); }
 inline void storeVector(Byte* p, Bytes32 v) { store32(p, v); }
 
-// Between stores that compilers would otherwise move about: where lines of the cache come and go, the processor
-// takes up to half as long again for those that do not ascend. What is in memory is read again behind it.
+// Between stores that compilers would otherwise move about: where lines of the cache come and go, the
+// processor takes up to half as long again for those that do not ascend. What is in memory is read again
+// behind it.
 inline void keepStoresInOrder() { asm("" ::: "memory"); }
 
 // How a kernel stores. Streaming destinations are on vector boundaries.
