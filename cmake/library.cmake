@@ -11,20 +11,22 @@ set(LUMI_KERNEL_OPTIMISATION -O3 CACHE STRING "Optimisation of the kernels, in e
 set(LUMI_KERNEL_OPTIONS ${LUMI_KERNEL_OPTIMISATION} -falign-loops=32)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   list(APPEND LUMI_KERNEL_OPTIONS --param=max-completely-peel-times=8)
-  # Kernels call nothing that wants an aligned stack: each function aligns its own, if it needs to, and only then.
-  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
-    list(APPEND LUMI_KERNEL_OPTIONS -mpreferred-stack-boundary=2)
-  endif()
 endif()
 set(LUMI_HOMES arithmetic data statistics filters geometry transforms analysis)
 list(TRANSFORM LUMI_HOMES APPEND /*.cpp OUTPUT_VARIABLE LUMI_FAMILY_CODE)
 list(TRANSFORM LUMI_HOMES PREPEND kernels/ OUTPUT_VARIABLE LUMI_KERNEL_CODE)
 list(TRANSFORM LUMI_KERNEL_CODE APPEND /*.cpp)
-file(GLOB LUMI_FAMILIES CONFIGURE_DEPENDS frame/*.cpp ${LUMI_FAMILY_CODE})
+file(GLOB LUMI_FRAME CONFIGURE_DEPENDS frame/*.cpp)
+file(GLOB LUMI_FAMILIES CONFIGURE_DEPENDS ${LUMI_FAMILY_CODE})
 file(GLOB LUMI_KERNELS CONFIGURE_DEPENDS kernels/*.cpp ${LUMI_KERNEL_CODE})
-target_sources(lumi PRIVATE ${LUMI_FAMILIES} ${LUMI_KERNELS})
+target_sources(lumi PRIVATE ${LUMI_FRAME} ${LUMI_FAMILIES} ${LUMI_KERNELS})
 if(NOT LUMI_COVERAGE)
   set_source_files_properties(${LUMI_KERNELS} PROPERTIES COMPILE_OPTIONS "${LUMI_KERNEL_OPTIONS}")
+endif()
+# The frame alone calls what may want an aligned stack, the core library; it aligns its own. All other functions do so
+# only if they have vectors there.
+if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+  set_property(SOURCE ${LUMI_FAMILIES} ${LUMI_KERNELS} APPEND PROPERTY COMPILE_OPTIONS -mpreferred-stack-boundary=2)
 endif()
 
 # The date of the version record: SOURCE_DATE_EPOCH where it is set, so that builds can be repeated.

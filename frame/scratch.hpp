@@ -5,15 +5,14 @@
 #include <cstdint>
 
 #include "frame/object.hpp"
-#include "lumcore.h"
 #include "lumi/types.h"
 
 namespace lumi {
 
 // A block of that size; null where it cannot be had, or no core library could be asked for as much.
-inline void* allocate(int64_t bytes) {
-  return bytes >= 0 && bytes <= INT32_MAX ? lumMalloc(static_cast<int32_t>(bytes)) : nullptr;
-}
+void* allocate(int64_t bytes);
+// Gives back a block; of null nothing.
+void release(void* block);
 
 // Scratch that is given back on every way out of a call:
 //   const Scratch scratch(bytes);
@@ -22,9 +21,7 @@ inline void* allocate(int64_t bytes) {
 class Scratch {
  public:
   explicit Scratch(int64_t bytes) : data_(allocate(bytes)) {}
-  ~Scratch() {
-    if (data_) lumFree(data_);
-  }
+  ~Scratch() { release(data_); }
   Scratch(const Scratch&) = delete;
   Scratch& operator=(const Scratch&) = delete;
 
@@ -43,7 +40,7 @@ LumStatus allocateObject(Opaque** object, int64_t bytes, const Init& init) {
   if (!made) return lumStatusNoMemory;
   const LumStatus status = init(made);
   if (status < 0)
-    lumFree(made);
+    release(made);
   else
     *object = made;
   return status;
@@ -56,7 +53,7 @@ LumStatus freeObject(Opaque* object, Lum32s identifier) {
   Object* const there = objectAt<Object>(object);
   if (there->identifier != identifier) return lumStatusBadContext;
   there->identifier = 0;
-  lumFree(object);
+  release(object);
   return lumStatusOk;
 }
 
