@@ -14,6 +14,7 @@
 #include "lumi/copy_channels.h"
 #include "lumi/filter_border.h"
 #include "lumi/image_memory.h"
+#include "lumi/logic.h"
 #include "lumi/resize.h"
 #include "lumi/scale.h"
 #include "lumi/set.h"

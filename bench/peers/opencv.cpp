@@ -94,6 +94,35 @@ Peer addConstant(View src, View dst, Value value) {
   return peer("opencv", [s = mat(src), d = mat(dst), v = scalar(value)] { cv::add(s, v, d); });
 }
 
+namespace {
+
+// Images, or an image and a constant.
+template <typename Second>
+Peer logicOf(View first, Second second, View dst, Logic operation) {
+  return peer("opencv", [=, x = mat(first), d = mat(dst)] {
+    switch (operation) {
+      case Logic::conjunction:
+        return cv::bitwise_and(x, second, d);
+      case Logic::disjunction:
+        return cv::bitwise_or(x, second, d);
+      case Logic::exclusive:
+        return cv::bitwise_xor(x, second, d);
+    }
+  });
+}
+
+}  // namespace
+
+Peer logic(View a, View b, View dst, Logic operation) { return logicOf(a, mat(b), dst, operation); }
+
+Peer logicConstant(View src, View dst, Value value, Logic operation) {
+  return logicOf(src, scalar(value), dst, operation);
+}
+
+Peer invert(View src, View dst) {
+  return peer("opencv", [s = mat(src), d = mat(dst)] { cv::bitwise_not(s, d); });
+}
+
 Peer convert(View src, View dst) { return scale(src, dst, 1, 0); }
 
 Peer scale(View src, View dst, double alpha, double beta) {

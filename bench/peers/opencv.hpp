@@ -23,6 +23,11 @@ namespace bench::opencv {
 // The first operand from the second.
 [[gnu::weak]] Peer subtract(View a, View b, View dst);
 [[gnu::weak]] Peer addConstant(View src, View dst, Value value);
+// Bit by bit.
+enum class Logic { conjunction, disjunction, exclusive };
+[[gnu::weak]] Peer logic(View a, View b, View dst, Logic operation);
+[[gnu::weak]] Peer logicConstant(View src, View dst, Value value, Logic operation);
+[[gnu::weak]] Peer invert(View src, View dst);
 // src * alpha + beta.
 [[gnu::weak]] Peer scale(View src, View dst, double alpha, double beta);
 // 255 for samples above the threshold, else 0: a byte for each bit.

@@ -36,6 +36,7 @@ inline Floats4 operator&(Floats4 a, Floats4 b) { return {_mm_and_ps(a.v, b.v)}; 
 inline Floats8 operator&(Floats8 a, Floats8 b) { return {_mm256_and_ps(a.v, b.v)}; }
 inline Floats4 operator|(Floats4 a, Floats4 b) { return {_mm_or_ps(a.v, b.v)}; }
 inline Floats8 operator|(Floats8 a, Floats8 b) { return {_mm256_or_ps(a.v, b.v)}; }
+inline Floats8 operator^(Floats8 a, Floats8 b) { return {_mm256_xor_ps(a.v, b.v)}; }
 
 // Where either is not a number, and where both are zero, b.
 inline Floats4 min(Floats4 a, Floats4 b) { return {_mm_min_ps(a.v, b.v)}; }
