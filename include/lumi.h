@@ -18,6 +18,7 @@
 #include "lumi/resize.h"
 #include "lumi/scale.h"
 #include "lumi/set.h"
+#include "lumi/shift.h"
 #include "lumi/version.h"
 
 #endif

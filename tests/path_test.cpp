@@ -18,6 +18,7 @@
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"
 #include "lumi/set.h"
+#include "lumi/shift.h"
 #include "support/core_guard.hpp"
 
 namespace {
@@ -51,6 +52,18 @@ TEST(Paths, LongCopiesMoveStrings) {
   };
   EXPECT_EQ(copies(0x7000), 1);
   EXPECT_EQ(copies(0x7000 - 1), 0);
+}
+
+TEST(Paths, ShiftsByNothingCopy) {
+  constexpr int kWidth = 0x7000;
+  std::vector<Lum8u> src(kWidth), dst(kWidth);
+  const auto copies = [&](Lum32u count) {
+    return taken(Path::StringMove, [&] {
+      return lumiLShiftC_8u_C1R(src.data(), kWidth, count, dst.data(), kWidth, {kWidth, 1});
+    });
+  };
+  EXPECT_EQ(copies(0), 1);
+  EXPECT_EQ(copies(1), 0);
 }
 
 TEST(Paths, LongFillsStoreStrings) {

@@ -47,4 +47,31 @@ class LeftShift {
   Samples<uint8_t> kept_;
 };
 
+// Products modulo the type.
+template <typename T>
+Samples16<T> multiplyLow(Samples16<T> a, Samples16<T> b) {
+  static_assert(sizeof(T) == 2 || sizeof(T) == 4);
+  return {sizeof(T) == 2 ? _mm_mullo_epi16(a.v, b.v) : _mm_mullo_epi32(a.v, b.v)};
+}
+
+// (a * b) >> 30, the product being exact; the last 32 bits of that.
+inline S32 multiplyShifted30(S32 a, S32 b) {
+  const Bytes16 even = _mm_mul_epi32(a.v, b.v),
+                odd = _mm_mul_epi32(_mm_srli_epi64(a.v, 32), _mm_srli_epi64(b.v, 32));
+  return {blendDwords<0b1010>(_mm_srli_epi64(even, 30), _mm_slli_epi64(odd, 32 - 30))};
+}
+
+#ifdef __AVX2__
+template <typename T>
+Samples32<T> multiplyLow(Samples32<T> a, Samples32<T> b) {
+  static_assert(sizeof(T) == 2 || sizeof(T) == 4);
+  return {sizeof(T) == 2 ? _mm256_mullo_epi16(a.v, b.v) : _mm256_mullo_epi32(a.v, b.v)};
+}
+inline Samples32<int32_t> multiplyShifted30(Samples32<int32_t> a, Samples32<int32_t> b) {
+  const Bytes32 even = _mm256_mul_epi32(a.v, b.v),
+                odd = _mm256_mul_epi32(_mm256_srli_epi64(a.v, 32), _mm256_srli_epi64(b.v, 32));
+  return {blendDwords<0b10101010>(_mm256_srli_epi64(even, 30), _mm256_slli_epi64(odd, 32 - 30))};
+}
+#endif
+
 }  // namespace lumi::simd
