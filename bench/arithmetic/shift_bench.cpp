@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "lumi/shift.h"
-
 #include "bench/harness.hpp"
 #include "bench/peers/loop.hpp"
+#include "lumi/shift.h"
 
 namespace bench {
 namespace {

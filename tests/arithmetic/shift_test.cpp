@@ -52,7 +52,8 @@ void describe(Member& m, T (*formula)(T, Lum32u)) {
   }
   m.model = [=](const Call& c) {
     Lum32u counts[4] = {static_cast<Lum32u>(c.numbers[0])};
-    if (byEach) std::memcpy(counts, c.block("counts").data, sizeof(Lum32u) * static_cast<size_t>(channels.moved));
+    if (byEach)
+      std::memcpy(counts, c.block("counts").data, sizeof(Lum32u) * static_cast<size_t>(channels.moved));
     model::shift<T>(counts, c.srcImage(), c.dstImage(), c.roi, channels, formula);
   };
 }
@@ -214,8 +215,8 @@ TEST(Shift, CountsAreReadFirst) {
   EXPECT_TRUE(std::equal(std::begin(image), std::end(image), expected));
 }
 
-// A destination that lies a few samples before or behind the source: each result as if the ones before it were
-// stored already.
+// A destination that lies a few samples before or behind the source: each result as if the ones before it
+// were stored already.
 TEST(Shift, OverlappingRowsAreDoneInOrder) {
   for (int width = 1; width <= 25; ++width)
     for (int offset = -70; offset <= 70; ++offset) {

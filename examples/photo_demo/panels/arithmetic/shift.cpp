@@ -14,11 +14,9 @@ AnyImage bitPlanes(const Colour& photo, Calls& calls) {
     const LumiSize part = {size.width * (strip + 1) / 8 - left, size.height};
     if (part.width == 0) continue;
     Lum8u* const first = result.at(left, 0);
-    check(lumiLShiftC_8u_C1IR(static_cast<Lum32u>(strip), first, result.step(), part),
-          "lumiLShiftC_8u_C1IR");
-    calls.time("lumiRShiftC_8s_C1IR", part, [&] {
-      return lumiRShiftC_8s_C1IR(7, reinterpret_cast<Lum8s*>(first), result.step(), part);
-    });
+    check(lumiLShiftC_8u_C1IR(static_cast<Lum32u>(strip), first, result.step(), part), "lumiLShiftC_8u_C1IR");
+    calls.time("lumiRShiftC_8s_C1IR", part,
+               [&] { return lumiRShiftC_8s_C1IR(7, reinterpret_cast<Lum8s*>(first), result.step(), part); });
   }
   return result;
 }
