@@ -4,14 +4,6 @@
 
 namespace lumi {
 
-using namespace simd;
-
-template <typename Op, typename T, int alpha>
-[[gnu::flatten]] void combineRows(SourceRows a, SourceRows b, TargetRows dst, Extent samples,
-                                  Scaling scaling) {
-  withFunction<Op, T>(scaling, [&](auto f) { run<T, alpha, Cached>(dst, samples, ImageRow<T, T>(a), b, f); });
-}
-
 #define LUMI_IMAGES(T, alpha)                                                                    \
   template void combineRows<Add, T, alpha>(SourceRows, SourceRows, TargetRows, Extent, Scaling); \
   template void combineRows<Sub, T, alpha>(SourceRows, SourceRows, TargetRows, Extent, Scaling);

@@ -4,16 +4,6 @@
 
 namespace lumi {
 
-using namespace simd;
-
-template <typename Op, typename T, int alpha, bool ofThree, bool streaming>
-[[gnu::flatten]] void combineWithConstant(const PixelPattern& a, SourceRows b, TargetRows dst, Extent samples,
-                                          Scaling scaling) {
-  using Store = std::conditional_t<streaming, Streaming, Cached>;
-  withFunction<Op, T>(scaling,
-                      [&](auto f) { run<T, alpha, Store>(dst, samples, ConstantRow<ofThree>{a}, b, f); });
-}
-
 #define LUMI_CONSTANT(T, ...)                                                                         \
   template void combineWithConstant<Add, T, __VA_ARGS__>(const PixelPattern&, SourceRows, TargetRows, \
                                                          Extent, Scaling);                            \

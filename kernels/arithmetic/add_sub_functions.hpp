@@ -3,8 +3,7 @@
 #pragma once
 
 #include "kernels/arithmetic/add_sub.hpp"
-#include "kernels/pointwise.hpp"
-#include "kernels/simd/shift.hpp"
+#include "kernels/arithmetic/combine_functions.hpp"
 
 namespace lumi::simd {
 
@@ -134,51 +133,29 @@ struct Divided<Op, T, true> {
   }
 };
 
-// x * 2^k. Saturating x first loses nothing, for it saturates again.
 template <typename Op, typename T>
-struct Multiplied {
-  LeftShift<T> shift;
-  Samples<T> lowest, aboveHighest;
-
-  explicit Multiplied(int k)
-      : shift(k),
-        lowest(broadcast(static_cast<T>(std::numeric_limits<T>::min() >> k))),
-        aboveHighest(broadcast(static_cast<T>((std::numeric_limits<T>::max() >> k) + 1))) {}
-
-  Samples<T> operator()(Samples<T> a, Samples<T> b) const {
-    const Samples<T> x = Combine<Op>::saturated(a, b), over = isAtLeast(x, aboveHighest);
-    if constexpr (std::is_signed_v<T>)
-      return ifThenElse(over, broadcast(std::numeric_limits<T>::max()), shift(max(x, lowest)));
-    else
-      return shift(x) | over;
-  }
-};
-
-// Calls run(f) with the function of a scaling.
-template <typename Op, typename T, typename Run>
-[[gnu::always_inline]] inline void withFunction(Scaling scaling, const Run& run) {
-  if constexpr (std::is_same_v<T, float>) {
-    run(Saturated<Op, T>());
-  } else {
-    switch (scaling.path) {
-      case Scaling::Saturate:
-        return run(Saturated<Op, T>());
-      case Scaling::Halve:
-        return run(Halved<Op, T>());
-      case Scaling::Divide:
-        return run(Divided<Op, T>(scaling.bits));
-      case Scaling::Multiply:
-        return run(Multiplied<Op, T>(scaling.bits));
+struct SumFunctions {
+  template <typename Run>
+  [[gnu::always_inline]] static void choose(Scaling scaling, const Run& run) {
+    if constexpr (std::is_same_v<T, float>) {
+      run(Saturated<Op, T>());
+    } else {
+      switch (scaling.path) {
+        case Scaling::Saturate:
+          return run(Saturated<Op, T>());
+        case Scaling::Halve:
+          return run(Halved<Op, T>());
+        case Scaling::Divide:
+          return run(Divided<Op, T>(scaling.bits));
+        case Scaling::Multiply:
+          return run(Multiplied<Saturated<Op, T>, T>(scaling.bits));
+      }
     }
   }
-}
-
-template <typename T, int alpha, typename Store, typename F, typename A>
-[[gnu::always_inline]] inline void run(TargetRows dst, Extent samples, A a, SourceRows b, F f) {
-  constexpr size_t pixel = alpha ? 4 * alpha * sizeof(T) : sizeof(T);
-  const ImageRow<T, T> second(b);
-  runPixels<pixel, pixel - alpha * sizeof(T), Store>(dst, samples,
-                                                     Binary<T, F, A, ImageRow<T, T>>{a, second, f});
-}
+};
+template <typename T>
+struct Functions<Add, T> : SumFunctions<Add, T> {};
+template <typename T>
+struct Functions<Sub, T> : SumFunctions<Sub, T> {};
 
 }  // namespace lumi::simd

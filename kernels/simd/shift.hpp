@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Shifts of samples of any size; bytes have none of their own.
+// Shifts by a count that is the same for all samples, bytes too, which have no instruction of their own; and by
+// products.
 #pragma once
 
 #include "kernels/simd/samples.hpp"
