@@ -15,6 +15,8 @@
 #include "lumi/filter_border.h"
 #include "lumi/image_memory.h"
 #include "lumi/logic.h"
+#include "lumi/mul.h"
+#include "lumi/mul_scale.h"
 #include "lumi/resize.h"
 #include "lumi/scale.h"
 #include "lumi/set.h"

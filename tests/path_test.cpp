@@ -17,6 +17,7 @@
 #include "lumi/convert.h"
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"
+#include "lumi/mul.h"
 #include "lumi/set.h"
 #include "lumi/shift.h"
 #include "support/core_guard.hpp"
@@ -121,17 +122,20 @@ TEST(Paths, LargeConversionsBypassTheCache) {
   EXPECT_EQ(converts(kPixels, 1), 0) << "no sample there starts on a boundary";
 }
 
-TEST(Paths, LargeComplexSumsBypassTheCache) {
+TEST(Paths, LargeComplexRowsWithConstantsBypassTheCache) {
   const Lum16sc value[3] = {{1, 2}, {3, 4}, {5, 6}};
   constexpr int kStep = 12 * 64, kRows = (1 << 20) / (2 * kStep) + 1;
   std::vector<Lum16sc> src(kStep / 4 * kRows), dst(src.size());
-  const auto adds = [&](int rows) {
-    return taken(Path::StreamingRows, [&] {
-      return lumiAddC_16sc_C3RSfs(src.data(), kStep, value, dst.data(), kStep, {64, rows}, 0);
-    });
-  };
-  EXPECT_EQ(adds(kRows), 1);
-  EXPECT_EQ(adds(kRows - 1), 0);
+  for (auto* combine : {lumiAddC_16sc_C3RSfs, lumiMulC_16sc_C3RSfs}) {
+    const auto combines = [&](const Lum16sc* from, Lum16sc* to, int rows) {
+      return taken(Path::StreamingRows, [&] {
+        return combine(from, kStep, value, to, kStep, {64, rows}, 0);
+      });
+    };
+    EXPECT_EQ(combines(src.data(), dst.data(), kRows), 1);
+    EXPECT_EQ(combines(src.data(), dst.data(), kRows - 1), 0);
+    EXPECT_EQ(combines(src.data(), src.data(), kRows), 0) << "in place";
+  }
 }
 
 TEST(Paths, LargeMergesBypassTheCache) {

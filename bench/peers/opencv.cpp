@@ -94,6 +94,14 @@ Peer addConstant(View src, View dst, Value value) {
   return peer("opencv", [s = mat(src), d = mat(dst), v = scalar(value)] { cv::add(s, v, d); });
 }
 
+Peer multiply(View a, View b, View dst) {
+  return peer("opencv", [x = mat(a), y = mat(b), d = mat(dst)] { cv::multiply(x, y, d); });
+}
+
+Peer multiplyByConstant(View src, View dst, Value value) {
+  return peer("opencv", [s = mat(src), d = mat(dst), v = scalar(value)] { cv::multiply(s, v, d); });
+}
+
 namespace {
 
 // Images, or an image and a constant.

@@ -23,6 +23,8 @@ namespace bench::opencv {
 // The first operand from the second.
 [[gnu::weak]] Peer subtract(View a, View b, View dst);
 [[gnu::weak]] Peer addConstant(View src, View dst, Value value);
+[[gnu::weak]] Peer multiply(View a, View b, View dst);
+[[gnu::weak]] Peer multiplyByConstant(View src, View dst, Value value);
 // Bit by bit.
 enum class Logic { conjunction, disjunction, exclusive };
 [[gnu::weak]] Peer logic(View a, View b, View dst, Logic operation);

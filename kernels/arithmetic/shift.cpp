@@ -44,7 +44,7 @@ class WordShift {
 
  private:
   Samples<uint16_t> times(Samples<uint16_t> x) const {
-    return std::is_same_v<Op, Left> ? multiplyLow(x, factor_) : multiplyHighUnsigned(x, factor_);
+    return std::is_same_v<Op, Left> ? x * factor_ : multiplyHigh(x, factor_);
   }
 
   Samples<uint16_t> factor_;
@@ -88,7 +88,7 @@ struct ByFactors {
   }
   Samples<T> operator()(Samples<T> x, Samples<T> factors) const {
     if constexpr (std::is_same_v<Op, Left>)
-      return multiplyLow(x, factors);
+      return x * factors;
     else
       return multiplyShifted30(x, factors);
   }

@@ -32,6 +32,10 @@ inline Floats8 operator*(Floats8 a, Floats8 b) { return {_mm256_mul_ps(a.v, b.v)
 inline Doubles2 operator*(Doubles2 a, Doubles2 b) { return {_mm_mul_pd(a.v, b.v)}; }
 inline Doubles4 operator*(Doubles4 a, Doubles4 b) { return {_mm256_mul_pd(a.v, b.v)}; }
 
+// Differences and sums in turn.
+inline Floats4 subAddInTurn(Floats4 a, Floats4 b) { return {_mm_addsub_ps(a.v, b.v)}; }
+inline Floats8 subAddInTurn(Floats8 a, Floats8 b) { return {_mm256_addsub_ps(a.v, b.v)}; }
+
 inline Floats4 operator&(Floats4 a, Floats4 b) { return {_mm_and_ps(a.v, b.v)}; }
 inline Floats8 operator&(Floats8 a, Floats8 b) { return {_mm256_and_ps(a.v, b.v)}; }
 inline Floats4 operator|(Floats4 a, Floats4 b) { return {_mm_or_ps(a.v, b.v)}; }

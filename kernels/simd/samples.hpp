@@ -113,6 +113,11 @@ Samples16<T> operator-(Samples16<T> a, Samples16<T> b) {
   if constexpr (sizeof(T) == 4) return {_mm_sub_epi32(a.v, b.v)};
 }
 
+// Products modulo the type.
+inline S16 operator*(S16 a, S16 b) { return {_mm_mullo_epi16(a.v, b.v)}; }
+inline U16 operator*(U16 a, U16 b) { return {_mm_mullo_epi16(a.v, b.v)}; }
+inline S32 operator*(S32 a, S32 b) { return {_mm_mullo_epi32(a.v, b.v)}; }
+
 // All ones where it holds, else zero.
 template <typename T>
 Samples16<T> isEqual(Samples16<T> a, Samples16<T> b) {
@@ -139,6 +144,7 @@ inline S32 multiplyAddPairs(S16 a, S16 b) { return {_mm_madd_epi16(a.v, b.v)}; }
 
 // (a * b) >> 16, and (a * b + 2^14) >> 15.
 inline S16 multiplyHigh(S16 a, S16 b) { return {_mm_mulhi_epi16(a.v, b.v)}; }
+inline U16 multiplyHigh(U16 a, U16 b) { return {_mm_mulhi_epu16(a.v, b.v)}; }
 inline S16 multiplyHighRounded(S16 a, S16 b) { return {_mm_mulhrs_epi16(a.v, b.v)}; }
 
 // Products of unsigned and signed bytes, added up in pairs of neighbours, limited to words.

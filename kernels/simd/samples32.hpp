@@ -34,6 +34,16 @@ Samples32<T> operator-(Samples32<T> a, Samples32<T> b) {
   if constexpr (sizeof(T) == 4) return {_mm256_sub_epi32(a.v, b.v)};
 }
 
+inline Samples32<int16_t> operator*(Samples32<int16_t> a, Samples32<int16_t> b) {
+  return {_mm256_mullo_epi16(a.v, b.v)};
+}
+inline Samples32<uint16_t> operator*(Samples32<uint16_t> a, Samples32<uint16_t> b) {
+  return {_mm256_mullo_epi16(a.v, b.v)};
+}
+inline Samples32<int32_t> operator*(Samples32<int32_t> a, Samples32<int32_t> b) {
+  return {_mm256_mullo_epi32(a.v, b.v)};
+}
+
 template <typename T>
 Samples32<T> isEqual(Samples32<T> a, Samples32<T> b) {
   if constexpr (sizeof(T) == 1) return {_mm256_cmpeq_epi8(a.v, b.v)};
@@ -80,6 +90,9 @@ inline Samples32<int32_t> multiplyAddPairs(Samples32<int16_t> a, Samples32<int16
 
 inline Samples32<int16_t> multiplyHigh(Samples32<int16_t> a, Samples32<int16_t> b) {
   return {_mm256_mulhi_epi16(a.v, b.v)};
+}
+inline Samples32<uint16_t> multiplyHigh(Samples32<uint16_t> a, Samples32<uint16_t> b) {
+  return {_mm256_mulhi_epu16(a.v, b.v)};
 }
 inline Samples32<int16_t> multiplyHighRounded(Samples32<int16_t> a, Samples32<int16_t> b) {
   return {_mm256_mulhrs_epi16(a.v, b.v)};

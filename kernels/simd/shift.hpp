@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Shifts by a count that is the same for all samples, bytes too, which have no instruction of their own; and by
-// products.
+// Shifts by a count that is the same for all samples, bytes too, which have no instruction of their own; and
+// by products.
 #pragma once
 
 #include "kernels/simd/samples.hpp"
@@ -48,16 +48,6 @@ class LeftShift {
   Samples<uint8_t> kept_;
 };
 
-// Products modulo the type.
-template <typename T>
-Samples16<T> multiplyLow(Samples16<T> a, Samples16<T> b) {
-  static_assert(sizeof(T) == 2 || sizeof(T) == 4);
-  return {sizeof(T) == 2 ? _mm_mullo_epi16(a.v, b.v) : _mm_mullo_epi32(a.v, b.v)};
-}
-
-// The high half of each product.
-inline U16 multiplyHighUnsigned(U16 a, U16 b) { return {_mm_mulhi_epu16(a.v, b.v)}; }
-
 // (a * b) >> 30, the product being exact; the last 32 bits of that.
 inline S32 multiplyShifted30(S32 a, S32 b) {
   const Bytes16 even = _mm_mul_epi32(a.v, b.v),
@@ -66,14 +56,6 @@ inline S32 multiplyShifted30(S32 a, S32 b) {
 }
 
 #ifdef __AVX2__
-template <typename T>
-Samples32<T> multiplyLow(Samples32<T> a, Samples32<T> b) {
-  static_assert(sizeof(T) == 2 || sizeof(T) == 4);
-  return {sizeof(T) == 2 ? _mm256_mullo_epi16(a.v, b.v) : _mm256_mullo_epi32(a.v, b.v)};
-}
-inline Samples32<uint16_t> multiplyHighUnsigned(Samples32<uint16_t> a, Samples32<uint16_t> b) {
-  return {_mm256_mulhi_epu16(a.v, b.v)};
-}
 inline Samples32<int32_t> multiplyShifted30(Samples32<int32_t> a, Samples32<int32_t> b) {
   const Bytes32 even = _mm256_mul_epi32(a.v, b.v),
                 odd = _mm256_mul_epi32(_mm256_srli_epi64(a.v, 32), _mm256_srli_epi64(b.v, 32));
