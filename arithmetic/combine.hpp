@@ -6,6 +6,8 @@
 //   scaling<T>(scaleFactor)       the path; none where every result is zero
 //   Sample<T>                     what the kernels take a sample for: itself, or its real parts
 //   outcome(value, scaleFactor)   what a single constant integer makes of any image
+//
+// Functions are each source's own, so that compilers may pass their arguments as they like: in registers.
 #pragma once
 
 #include "arithmetic/scaling.hpp"
@@ -56,8 +58,8 @@ struct Seen {
 };
 
 template <typename Op, typename T, typename Layout>
-LumStatus combineImages(const T* src1, int src1Step, const T* src2, int src2Step, T* dst, int dstStep,
-                        LumiSize roi, int scaleFactor) {
+static LumStatus combineImages(const T* src1, int src1Step, const T* src2, int src2Step, T* dst, int dstStep,
+                               LumiSize roi, int scaleFactor) {
   if (LumStatus fault = check::firstFault(check::pointers(src1, src2, dst),
                                           Operation<Op>::template fault<T>(roi, src1Step, src2Step, dstStep)))
     return fault;
@@ -76,8 +78,8 @@ LumStatus combineImages(const T* src1, int src1Step, const T* src2, int src2Step
 // What is done to all channels alike is done to a row of samples: the width is checked and multiplied, as
 // unsigned numbers wrap, before anything else is looked at.
 template <typename Op, typename T, typename Layout>
-LumStatus combine(const T* src1, int src1Step, const T* src2, int src2Step, T* dst, int dstStep, LumiSize roi,
-                  int scaleFactor = 0) {
+static LumStatus combine(const T* src1, int src1Step, const T* src2, int src2Step, T* dst, int dstStep,
+                         LumiSize roi, int scaleFactor = 0) {
   if constexpr (Layout::kUsed == Layout::kStored && Layout::kStored > 1) {
     if (LumStatus fault = check::width(roi)) return fault;
     roi.width = static_cast<int>(static_cast<unsigned>(roi.width) * Layout::kStored);
@@ -89,7 +91,8 @@ LumStatus combine(const T* src1, int src1Step, const T* src2, int src2Step, T* d
 
 // In place.
 template <typename Op, typename T, typename Layout>
-LumStatus combine(const T* src, int srcStep, T* srcDst, int srcDstStep, LumiSize roi, int scaleFactor = 0) {
+static LumStatus combine(const T* src, int srcStep, T* srcDst, int srcDstStep, LumiSize roi,
+                         int scaleFactor = 0) {
   return combine<Op, T, Layout>(src, srcStep, srcDst, srcDstStep, srcDst, srcDstStep, roi, scaleFactor);
 }
 
@@ -98,7 +101,7 @@ template <typename T, typename Layout>
 constexpr bool kHasOutcome = std::is_integral_v<T>&& std::is_same_v<Layout, C1>;
 
 template <typename T, typename Layout>
-LumStatus settle(Outcome outcome, const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
+static LumStatus settle(Outcome outcome, const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
   if (outcome == Outcome::AllZero) return fillZero<T, Layout>(dst, dstStep, roi);
   if (outcome == Outcome::AllLargest)
     return call::SetR<T, Layout>(std::numeric_limits<T>::max(), dst, dstStep, roi);
@@ -117,8 +120,8 @@ inline bool streamsRows(int srcStep, const Lum16sc* dst, int dstStep, int height
 }
 
 template <typename Op, typename T, typename Layout, typename Value>
-LumStatus combineConstant(const T* src, int srcStep, Value value, T* dst, int dstStep, LumiSize roi,
-                          int scaleFactor = 0) {
+static LumStatus combineConstant(const T* src, int srcStep, Value value, T* dst, int dstStep, LumiSize roi,
+                                 int scaleFactor = 0) {
   if (LumStatus fault = check::firstFault(check::pointers(value, src, dst),
                                           Operation<Op>::template fault<T>(roi, srcStep, dstStep)))
     return fault;
@@ -151,7 +154,7 @@ LumStatus combineConstant(const T* src, int srcStep, Value value, T* dst, int ds
 
 // In place.
 template <typename Op, typename T, typename Layout, typename Value>
-LumStatus combineConstant(Value value, T* srcDst, int srcDstStep, LumiSize roi, int scaleFactor = 0) {
+static LumStatus combineConstant(Value value, T* srcDst, int srcDstStep, LumiSize roi, int scaleFactor = 0) {
   return combineConstant<Op, T, Layout>(srcDst, srcDstStep, value, srcDst, srcDstStep, roi, scaleFactor);
 }
 

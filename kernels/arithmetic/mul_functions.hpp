@@ -22,7 +22,7 @@ template <>
 struct Product<uint16_t> {
   Samples<uint16_t> operator()(Samples<uint16_t> a, Samples<uint16_t> b) const {
     const Samples<uint16_t> fits = isEqual(multiplyHigh(a, b), broadcast<uint16_t>(0));
-    return (a * b) | (fits ^ broadcast<uint16_t>(0xFFFF));
+    return ifThenElse(fits, a * b, broadcast<uint16_t>(0xFFFF));
   }
 };
 
