@@ -52,6 +52,20 @@ struct Multiplied {
   }
 };
 
+// Calls run(f) with the function of a scaling where a half is a quotient like others.
+template <typename Saturated, typename Divided, typename Larger, typename Run>
+[[gnu::always_inline]] inline void chooseByPath(Scaling scaling, const Run& run) {
+  switch (scaling.path) {
+    case Scaling::Saturate:
+      return run(Saturated());
+    case Scaling::Halve:
+    case Scaling::Divide:
+      return run(Divided(scaling.bits));
+    case Scaling::Multiply:
+      return run(Larger(scaling.bits));
+  }
+}
+
 template <typename T, int alpha, typename Store, typename F, typename A>
 [[gnu::always_inline]] inline void run(TargetRows dst, Extent samples, A a, SourceRows b, F f) {
   constexpr size_t pixel = alpha ? 4 * alpha * sizeof(T) : sizeof(T);

@@ -38,8 +38,8 @@ inline constexpr Control kSwappedWords = {2, 3, 0, 1, 6, 7, 4, 5, 10, 11, 8, 9, 
 inline constexpr Control kLowHighWords = {0, 1, 8, 9, 2, 3, 10, 11, 4, 5, 12, 13, 6, 7, 14, 15};
 
 // Of 16-bit parts, exact in 32 bits but for one: where all four are -32768 the imaginary part is 2^31. It
-// wraps to -2^31, which nothing else gives, and becomes 2^31 - 1: the same at every scale factor, for more
-// than half of a unit is never lost.
+// wraps to -2^31, which nothing else gives, and becomes 2^31 - 1. No scale factor tells: up to 16 both leave
+// the type, beyond it one is less than half of what rounding decides about.
 struct ComplexWords {
   Samples<int32_t> real, imaginary;
 
@@ -89,15 +89,8 @@ template <>
 struct Functions<Mul, Complex<int16_t>> {
   template <typename Run>
   [[gnu::always_inline]] static void choose(Scaling scaling, const Run& run) {
-    switch (scaling.path) {
-      case Scaling::Saturate:
-        return run(ComplexWordProduct());
-      case Scaling::Halve:
-      case Scaling::Divide:
-        return run(DividedComplexWords(scaling.bits));
-      case Scaling::Multiply:
-        return run(Multiplied<ComplexWordProduct, int16_t>(scaling.bits));
-    }
+    chooseByPath<ComplexWordProduct, DividedComplexWords, Multiplied<ComplexWordProduct, int16_t>>(scaling,
+                                                                                                   run);
   }
 };
 
@@ -153,6 +146,8 @@ template <typename F>
 struct BySixteen {
   F f;
 
+  BySixteen() = default;
+  explicit BySixteen(int bits) : f(bits) {}
   Bytes16 of(Bytes16 a, Bytes16 b) const { return f(a, b); }
   Bytes32 of(Bytes32 a, Bytes32 b) const {
     return joined(f(lowHalf(a), lowHalf(b)), f(highHalf(a), highHalf(b)));
@@ -164,15 +159,8 @@ template <>
 struct Functions<Mul, Complex<int32_t>> {
   template <typename Run>
   [[gnu::always_inline]] static void choose(Scaling scaling, const Run& run) {
-    switch (scaling.path) {
-      case Scaling::Saturate:
-        return run(BySixteen<ComplexDwordProduct>());
-      case Scaling::Halve:
-      case Scaling::Divide:
-        return run(BySixteen<DividedComplexDwords>{DividedComplexDwords(scaling.bits)});
-      case Scaling::Multiply:
-        return run(Multiplied<BySixteen<ComplexDwordProduct>, int32_t>(scaling.bits));
-    }
+    using Product = BySixteen<ComplexDwordProduct>;
+    chooseByPath<Product, BySixteen<DividedComplexDwords>, Multiplied<Product, int32_t>>(scaling, run);
   }
 };
 

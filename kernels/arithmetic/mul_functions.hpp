@@ -107,15 +107,7 @@ struct Functions<Mul, T> {
   [[gnu::always_inline]] static void choose(Scaling scaling, const Run& run) {
     if constexpr (std::is_same_v<T, uint16_t>)
       if (scaling.bits > kMostOfWholeProduct) return run(DividedHighProduct(scaling.bits));
-    switch (scaling.path) {
-      case Scaling::Saturate:
-        return run(Product<T>());
-      case Scaling::Halve:
-      case Scaling::Divide:
-        return run(DividedProduct<T>(scaling.bits));
-      case Scaling::Multiply:
-        return run(Multiplied<Product<T>, T>(scaling.bits));
-    }
+    chooseByPath<Product<T>, DividedProduct<T>, Multiplied<Product<T>, T>>(scaling, run);
   }
 };
 

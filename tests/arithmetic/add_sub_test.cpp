@@ -85,7 +85,7 @@ TEST(AddSub, OverlappingRowsAreDoneInOrder) {
 }
 
 TEST(AddSub, ResultsThatAreAllZeroReadNoSource) {
-  expectAllZeroFrom({"lumiAdd", "lumiSub"}, [](const Member& m) {
+  expectAllZeroFrom({"lumiAdd", "lumiSub"}, 108, [](const Member& m) {
     return m.types[0] == "8u"                            ? 9
            : m.types[0] == "16u"                         ? 17
            : m.types[0] == "16s" || m.types[0] == "16sc" ? 16

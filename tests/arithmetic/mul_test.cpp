@@ -182,7 +182,7 @@ TEST(Mul, OverlappingRowsAreDoneInOrder) {
 }
 
 TEST(Mul, ResultsThatAreAllZeroReadNoSource) {
-  expectAllZeroFrom({"lumiMul"}, [](const Member& m) {
+  expectAllZeroFrom({"lumiMul"}, 54, [](const Member& m) {
     return m.types[0] == "8u" ? 16 : m.types[0] == "16s" ? 30 : m.types[0] == "16sc" ? 31 : 32;
   });
 }
