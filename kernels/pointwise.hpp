@@ -185,12 +185,22 @@ struct ConstantRow {
   ConstantRow onPieces(const Byte* const*, size_t at) const { return {pattern, start + at}; }
 };
 
+// Whether a function is so little work that the stores bound it: F::kStoresBind. A store of half a block
+// takes as long as one of it, but to join halves takes a shuffle, which dearer functions have no room for.
+template <typename F, typename = void>
+inline constexpr bool kStoresBind = false;
+template <typename F>
+inline constexpr bool kStoresBind<F, std::enable_if_t<F::kStoresBind>> = true;
+
 // Applies f, which takes vectors of T samples, to 32 bytes of each operand. Floats go at once; integers go by
 // halves where the build has no wider ones.
 template <typename T, typename F, typename... Operand>
 [[gnu::always_inline]] inline auto applyToBlock(const F& f, Operand... operands) {
   if constexpr (std::is_floating_point_v<T> || kVectorBytes == 32)
     return bytesOf(f(samplesOf<T>(operands)...));
+  else if constexpr (kStoresBind<F>)
+    return joined(halves(bytesOf(f(samplesOf<T>(lowHalf(operands))...)),
+                         bytesOf(f(samplesOf<T>(highHalf(operands))...))));
   else
     return halves(bytesOf(f(samplesOf<T>(lowHalf(operands))...)),
                   bytesOf(f(samplesOf<T>(highHalf(operands))...)));
@@ -247,7 +257,9 @@ template <typename S, typename D, typename F>
     return f.block(p);
   else if constexpr (kVectorBytes == kBlock)
     return f.vector(p);
-  else
+  else if constexpr (sizeof(S) <= sizeof(D))
+    return joined(halves(f.vector(p), f.vector(p + kVectorBytes / sizeof(D) * sizeof(S))));
+  else  // shuffles bound what narrows, and joining would be one more
     return halves(f.vector(p), f.vector(p + kVectorBytes / sizeof(D) * sizeof(S)));
 }
 template <typename F>

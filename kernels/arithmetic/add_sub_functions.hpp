@@ -59,6 +59,7 @@ struct Combine<Sub> {
 
 template <typename Op, typename T>
 struct Saturated {
+  static constexpr bool kStoresBind = true;
   Samples<T> operator()(Samples<T> a, Samples<T> b) const { return Combine<Op>::saturated(a, b); }
 };
 

@@ -26,9 +26,9 @@ struct Converted {
 // Two vectors of words by one load.
 struct WordsOfBytes {
   static Bytes16 half(const Byte* p) { return widen<uint16_t>(U8{loadFew<8>(p)}).v; }
-  static Halves32 block(const Byte* p) {
+  static Bytes32 block(const Byte* p) {
     const U8 x{load16Once(p)};
-    return {widenLow(x).v, widenHigh(x).v};
+    return joined(widenLow(x).v, widenHigh(x).v);
   }
 };
 

@@ -35,9 +35,9 @@ struct Widen<int32_t> {
   static Bytes16 four(Bytes16 bytes, const Control& which) {
     return bytesOf(S32{shuffleBytes(bytes, vectorOf(which))} ^ broadcast16(INT32_MIN));
   }
-  Halves32 block(const Byte* p) const {
+  Bytes32 block(const Byte* p) const {
     const Bytes16 bytes = loadFew<8>(p);
-    return {four(bytes, kFirstFour), four(bytes, kNextFour)};
+    return joined(four(bytes, kFirstFour), four(bytes, kNextFour));
   }
   Bytes16 half(const Byte* p) const { return four(loadFew<4>(p), kFirstFour); }
 };
