@@ -21,6 +21,7 @@
 #include "lumi/scale.h"
 #include "lumi/set.h"
 #include "lumi/shift.h"
+#include "lumi/unary.h"
 #include "lumi/version.h"
 
 #endif

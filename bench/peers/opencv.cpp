@@ -138,6 +138,26 @@ Peer scale(View src, View dst, double alpha, double beta) {
   return peer("opencv", [s = mat(src), d, alpha, beta] { s.convertTo(d, d.depth(), alpha, beta); });
 }
 
+Peer absolute(View src, View dst) {
+  return peer("opencv", [s = mat(src), d = mat(dst)] { cv::absdiff(s, cv::Scalar::all(0), d); });
+}
+
+Peer square(View src, View dst) {
+  return peer("opencv", [s = mat(src), d = mat(dst)] { cv::multiply(s, s, d); });
+}
+
+Peer root(View src, View dst) {
+  return peer("opencv", [s = mat(src), d = mat(dst)] { cv::sqrt(s, d); });
+}
+
+Peer logarithm(View src, View dst) {
+  return peer("opencv", [s = mat(src), d = mat(dst)] { cv::log(s, d); });
+}
+
+Peer exponential(View src, View dst) {
+  return peer("opencv", [s = mat(src), d = mat(dst)] { cv::exp(s, d); });
+}
+
 Peer above(View src, double threshold) {
   const cv::Mat bytes(src.roi.height, src.roi.width, CV_8UC1);
   return peer("opencv", [s = mat(src), bytes, threshold] { cv::compare(s, threshold, bytes, cv::CMP_GT); });

@@ -32,6 +32,12 @@ enum class Logic { conjunction, disjunction, exclusive };
 [[gnu::weak]] Peer invert(View src, View dst);
 // src * alpha + beta.
 [[gnu::weak]] Peer scale(View src, View dst, double alpha, double beta);
+[[gnu::weak]] Peer absolute(View src, View dst);
+[[gnu::weak]] Peer square(View src, View dst);
+// Of floats.
+[[gnu::weak]] Peer root(View src, View dst);
+[[gnu::weak]] Peer logarithm(View src, View dst);
+[[gnu::weak]] Peer exponential(View src, View dst);
 // 255 for samples above the threshold, else 0: a byte for each bit.
 [[gnu::weak]] Peer above(View src, double threshold);
 // To the destination's type.

@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+// x = 2^k (1 + f) with 1 + f from sqrt(1/2) to sqrt(2), and ln(1 + f) = 2 s + s z p(z) with s = f / (2 + f),
+// z = s^2: the series of the inverse hyperbolic tangent, with coefficients that make the largest error smallest
+// (Remez).
+#include "kernels/arithmetic/ln.hpp"
+
+#include "kernels/arithmetic/unary_rows.hpp"
+#include "kernels/simd/scale.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace simd;
+
+// Exponents are counted in units of their lowest bit, as the bits of a float have them.
+constexpr float kExponent = 1 << 23;
+
+template <typename V>
+struct Parts {
+  V k, f;
+};
+
+// Of positive normal numbers; the exponent's bias is the caller's.
+template <typename V>
+Parts<V> partsOf(V x, V bias) {
+  const auto c = [](float value) { return broadcastFloat<V>(value); };
+  const V k = floatsOf(intsOf(x & broadcastBits<V>(0x7F800000)));
+  const V m = (x & broadcastBits<V>(0x007FFFFF)) | c(1);  // 1 to 2
+  const V above = isBelow(c(1.41421356F), m);
+  return {(k + (above & c(kExponent))) - bias, (m - (above & (m * c(0.5F)))) - c(1)};
+}
+
+// The error of p is 2^-29. 2 s is f - s f, and s f is f^2 / 2 - s f^2 / 2: what is small is summed up first.
+// k ln 2 comes in two parts, of which the first one is exact (Cody and Waite).
+template <typename V>
+V lnOfParts(Parts<V> x) {
+  const auto c = [](float value) { return broadcastFloat<V>(value); };
+  const V f = x.f, s = f / (c(2) + f), z = s * s, halfSquare = c(0.5F) * f * f;
+  const V p = z * (c(0.666667726F) + z * (c(0.399779074F) + z * c(0.298634446F)));
+  const V small = s * (halfSquare + p) + x.k * c(1.42860677e-06F / kExponent);
+  return x.k * c(0.693145752F / kExponent) - ((halfSquare - small) - f);
+}
+
+template <typename V>
+V lnOfNormal(V x) {
+  return lnOfParts(partsOf(x, broadcastFloat<V>(127 * kExponent)));
+}
+
+// Any floats: denormals, and those without a logarithm, too. By memory, since it is called seldom.
+template <typename V>
+[[gnu::noinline, gnu::cold]] void lnOfAny(const Byte* samples, Byte* results, Byte* marks) {
+  const auto c = [](float value) { return broadcastFloat<V>(value); };
+  constexpr float infinity = std::numeric_limits<float>::infinity();
+  V x;
+  std::memcpy(&x, samples, sizeof x);
+  const V isSmall = isBelow(x, c(std::numeric_limits<float>::min()));
+  const V enlarged = ifThenElse(isSmall, x * c(1 << 25), x);
+  V ln = lnOfParts(partsOf(enlarged, ifThenElse(isSmall, c((127 + 25) * kExponent), c(127 * kExponent))));
+  const V isZero = isEqual(x, c(0)), isNegative = isBelow(x, c(0));
+  ln = ifThenElse(isZero, c(-infinity), ln);
+  ln = ifThenElse(isNegative, c(std::numeric_limits<float>::quiet_NaN()), ln);
+  ln = ifThenElse(isAtLeast(c(std::numeric_limits<float>::max()), x), ln, x + x);
+  const V bad = (isZero & broadcastBits<V>(kLnOfZero)) | (isNegative & broadcastBits<V>(kLnOfNegative));
+  std::memcpy(results, &ln, sizeof ln);
+  std::memcpy(marks, &bad, sizeof bad);
+}
+
+struct LnOfFloats {
+  template <typename V>
+  Marked<V> operator()(V x) const {
+    using Limits = std::numeric_limits<float>;
+    const V isNormal =
+        isAtLeast(x, broadcastFloat<V>(Limits::min())) & isAtLeast(broadcastFloat<V>(Limits::max()), x);
+    if (__builtin_expect(allSet(isNormal), true)) return {lnOfNormal(x), broadcastFloat<V>(0)};
+    Byte samples[sizeof(V)], results[sizeof(V)], marks[sizeof(V)];
+    std::memcpy(samples, &x, sizeof x);
+    lnOfAny<V>(samples, results, marks);
+    Marked<V> all;
+    std::memcpy(&all.results, results, sizeof results);
+    std::memcpy(&all.marks, marks, sizeof marks);
+    return all;
+  }
+};
+
+// For all bytes and all factors, results stay 0.0001 away from a tie, which floats tell, but for ln 163 * 2^4,
+// which is 81.5 and 0.000003. So rounding up begins 2^-15 below a half.
+struct LnOfBytes {
+  Floats8 factor, upward = broadcastFloat<Floats8>(0.5F + 1.0F / (1 << 15));
+  explicit LnOfBytes(int s) : factor(broadcastFloat<Floats8>(static_cast<float>(scaleOf(s)))) {}
+
+  S16 eight(const Byte* p) const {
+    const Floats8 x = max(floatsOf8Bytes(p), broadcastFloat<Floats8>(1));
+    const Ints8 results = truncated(lnOfNormal(x) * factor + upward);
+    return narrowSaturated<int16_t>(lowHalf(results), highHalf(results));
+  }
+  auto half(const Byte* p) const {
+    return bytesOf(Marked<U8>{narrowSaturated<uint8_t>(eight(p), eight(p + 8)),
+                              isEqual(U8{load16(p)}, broadcast16<uint8_t>(0))});
+  }
+};
+
+// Of words, logarithms come within 2^-36 of a tie: doubles tell, by an error of 2^-44.
+template <typename T>
+struct LnOfWords {
+  Doubles4 factor;
+  explicit LnOfWords(int s) : factor(broadcastDouble(scaleOf(s))) {}
+
+  S32 four(Floats4 k, Floats4 fraction) const {
+    const auto c = [](double value) { return broadcastDouble(value); };
+    const Doubles4 f = doublesOf(fraction), s = f / (c(2) + f), z = s * s;
+    Doubles4 p = c(0.1957278348023941398);
+    p = p * z + c(0.2217705518936215232);
+    p = p * z + c(0.2857208590932669297);
+    p = p * z + c(0.3999999587635325174);
+    p = p * z + c(0.6666666667487682548);
+    p = p * z + c(2);
+    const Doubles4 ln = doublesOf(k) * c(0.6931471805599453 / kExponent) + s * p;
+    return truncated(ln * factor + c(0.5));
+  }
+  auto half(const Byte* p) const {
+    const Samples16<T> given{load16(p)}, one = broadcast16<T>(1), x = max(given, one);
+    const Parts<Floats8> parts = partsOf(floatsOf(joined(firstDwords(x), lastDwords(x))),
+                                         broadcastFloat<Floats8>(127 * kExponent));
+    const Samples16<T> results = narrowSigned<T>(four(lowHalf(parts.k), lowHalf(parts.f)),
+                                                 four(highHalf(parts.k), highHalf(parts.f)));
+    return bytesOf(Marked<Samples16<T>>{results, given ^ x});
+  }
+};
+
+}  // namespace
+
+template <typename T>
+[[gnu::flatten]] int lnRows(SourceRows src, TargetRows dst, Extent samples,
+                            [[maybe_unused]] int scaleFactor) {
+  if constexpr (std::is_same_v<T, float>) {
+    return walkKeepingFirst(
+        samples.rows,
+        [&](const Byte* s, Byte* d) {
+          const Marks marks = runUnary<T, 0>({s, 0}, {d, 0}, {samples.length, 1}, OfFloats<LnOfFloats>());
+          return bitsOfDwords(marks.all());
+        },
+        src, dst);
+  } else {
+    // From 5 on all results are zero, and at the lowest factor that of 2 is limited already.
+    const int s = std::clamp(scaleFactor, -std::numeric_limits<T>::digits - 1, 5);
+    using F = std::conditional_t<sizeof(T) == 1, LnOfBytes, LnOfWords<T>>;
+    return runUnary<T, 0>(src, dst, samples, OfHalves<F>(s)).any() ? kLnOfZero : 0;
+  }
+}
+
+template int lnRows<uint8_t>(SourceRows, TargetRows, Extent, int);
+template int lnRows<uint16_t>(SourceRows, TargetRows, Extent, int);
+template int lnRows<int16_t>(SourceRows, TargetRows, Extent, int);
+template int lnRows<float>(SourceRows, TargetRows, Extent, int);
+
+}  // namespace lumi

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+// Vector pieces of squares, roots, exponentials and logarithms.
+#pragma once
+
+#include "kernels/simd/convert.hpp"
+#include "kernels/simd/ties_to_even.hpp"
+
+namespace lumi::simd {
+
+// The low and the high words of products.
+template <typename T>
+Samples16<T> lowProduct(Samples16<T> a, Samples16<T> b) {
+  static_assert(sizeof(T) == 2);
+  return {_mm_mullo_epi16(a.v, b.v)};
+}
+inline U16 highProduct(U16 a, U16 b) { return {_mm_mulhi_epu16(a.v, b.v)}; }
+#ifdef __AVX2__
+template <typename T>
+Samples32<T> lowProduct(Samples32<T> a, Samples32<T> b) {
+  static_assert(sizeof(T) == 2);
+  return {_mm256_mullo_epi16(a.v, b.v)};
+}
+inline Samples32<uint16_t> highProduct(Samples32<uint16_t> a, Samples32<uint16_t> b) {
+  return {_mm256_mulhi_epu16(a.v, b.v)};
+}
+#endif
+
+// Sixteen bytes over and over, as a table for shuffles.
+#ifdef __AVX2__
+inline VectorBytes repeated(Bytes16 v) { return joined(v, v); }
+#else
+inline VectorBytes repeated(Bytes16 v) { return v; }
+#endif
+
+inline Floats4 operator/(Floats4 a, Floats4 b) { return {_mm_div_ps(a.v, b.v)}; }
+inline Floats8 operator/(Floats8 a, Floats8 b) { return {_mm256_div_ps(a.v, b.v)}; }
+inline Doubles4 operator/(Doubles4 a, Doubles4 b) { return {_mm256_div_pd(a.v, b.v)}; }
+
+inline Floats4 squareRoot(Floats4 x) { return {_mm_sqrt_ps(x.v)}; }
+inline Floats8 squareRoot(Floats8 x) { return {_mm256_sqrt_ps(x.v)}; }
+inline Doubles4 squareRoot(Doubles4 x) { return {_mm256_sqrt_pd(x.v)}; }
+
+// The nearest integer, as a float, ties to even.
+inline Floats4 nearest(Floats4 x) { return {_mm_round_ps(x.v, kTiesToEven)}; }
+inline Floats8 nearest(Floats8 x) { return {_mm256_round_ps(x.v, kTiesToEven)}; }
+
+// Masks; false where either is not a number.
+inline Floats4 isBelow(Floats4 a, Floats4 b) { return {_mm_cmp_ps(a.v, b.v, _CMP_LT_OQ)}; }
+inline Floats8 isBelow(Floats8 a, Floats8 b) { return {_mm256_cmp_ps(a.v, b.v, _CMP_LT_OQ)}; }
+inline Floats4 isEqual(Floats4 a, Floats4 b) { return {_mm_cmp_ps(a.v, b.v, _CMP_EQ_OQ)}; }
+inline Floats8 isEqual(Floats8 a, Floats8 b) { return {_mm256_cmp_ps(a.v, b.v, _CMP_EQ_OQ)}; }
+inline Floats4 ifThenElse(Floats4 mask, Floats4 yes, Floats4 no) {
+  return {_mm_blendv_ps(no.v, yes.v, mask.v)};
+}
+inline Floats8 ifThenElse(Floats8 mask, Floats8 yes, Floats8 no) {
+  return {_mm256_blendv_ps(no.v, yes.v, mask.v)};
+}
+inline bool allSet(Floats4 mask) { return _mm_movemask_ps(mask.v) == 0xF; }
+inline bool allSet(Floats8 mask) { return _mm256_movemask_ps(mask.v) == 0xFF; }
+
+// The bits that any of the dwords has.
+inline int bitsOfDwords(Bytes32 v) {
+  const Bytes16 four = bitOr(lowHalf(v), highHalf(v)), two = bitOr(four, permuteDwords<2, 3, 0, 1>(four));
+  return static_cast<int>(firstDword(bitOr(two, permuteDwords<1, 0, 3, 2>(two))));
+}
+
+// Without the part behind the point.
+inline S32 truncated(Floats4 x) { return {_mm_cvttps_epi32(x.v)}; }
+inline Ints8 truncated(Floats8 x) { return {_mm256_cvttps_epi32(x.v)}; }
+inline S32 truncated(Doubles4 x) { return {_mm256_cvttpd_epi32(x.v)}; }
+inline S32 roundedToEven(Doubles4 x) {
+  return {_mm256_cvttpd_epi32(_mm256_round_pd(x.v, kTiesToEven))};
+}
+
+// The floats with these bits.
+inline Floats4 withBits(S32 bits) { return {_mm_castsi128_ps(bits.v)}; }
+inline Floats8 withBits(Ints8 bits) { return {asFloats(bits.v)}; }
+template <typename V>
+V broadcastBits(int32_t bits) {
+  if constexpr (std::is_same_v<V, Floats8>)
+    return {_mm256_castsi256_ps(_mm256_set1_epi32(bits))};
+  else
+    return {_mm_castsi128_ps(_mm_set1_epi32(bits))};
+}
+
+inline Floats4 highHalf(Floats8 a) { return {_mm256_extractf128_ps(a.v, 1)}; }
+inline Doubles4 broadcastDouble(double x) { return {_mm256_set1_pd(x)}; }
+inline Doubles4 loadDoubles4(const double* p) { return {_mm256_loadu_pd(p)}; }
+inline Doubles4 doublesOf(S32 x) { return {_mm256_cvtepi32_pd(x.v)}; }
+inline Doubles4 doublesOf(Floats4 x) { return {_mm256_cvtps_pd(x.v)}; }
+inline Doubles4 min(Doubles4 a, Doubles4 b) { return {_mm256_min_pd(a.v, b.v)}; }
+
+}  // namespace lumi::simd
