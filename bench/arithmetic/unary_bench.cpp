@@ -34,23 +34,32 @@ void makePositive(Image<T> image) {
   for (int y = 0; y < image.roi.height; ++y)
     for (int i = 0; i < image.roi.width * image.channels; ++i) {
       T& sample = image.row(y)[i];
-      if (!(sample > 0)) sample = sample < 0 ? static_cast<T>(-(sample + 1) + 1) : T{1};
-      if constexpr (std::is_signed_v<T> && std::is_integral_v<T>)
-        if (sample < 0) sample = 1;
+      if constexpr (std::is_signed_v<T>) sample = static_cast<T>(sample < -32767 ? 32767 : std::abs(sample));
+      if (sample == 0) sample = 1;
     }
 }
 
+// Exponents whose powers are ordinary numbers: noise between -8 and 8.
+template <typename T>
+void makeModerate(Image<T> image) {
+  for (int y = 0; y < image.roi.height; ++y)
+    for (int i = 0; i < image.roi.width * image.channels; ++i)
+      image.row(y)[i] = static_cast<T>(image.row(y)[i] / 16);
+}
+
+enum class Input { noise, positive, moderate };
 struct With {
   Adapter opencv = nullptr;
   const char* differs = "";
-  bool positive = false;
+  Input input = Input::noise;
 };
 
 template <int C, bool alpha, typename T, typename F, typename... Rest>
 Suite::Build unary(Unary<T, Rest...> lumi, With with, F f, Rest... rest) {
   return [=](Scene& s) {
     const auto src = s.input<T>(C), dst = s.output<T>(C);
-    if (with.positive) makePositive(src);
+    if (with.input == Input::positive) makePositive(src);
+    if (with.input == Input::moderate) makeModerate(src);
     s.ours([=] { lumi(src.data(), src.step, dst.data(), dst.step, dst.roi, rest...); });
     if (!alpha && with.opencv != nullptr) {
       Peer peer = with.opencv(src, dst);
@@ -117,8 +126,9 @@ const auto exponential = [](auto x) {
 constexpr const char* kOtherSteps = "computes it in other steps";
 
 const Family family("unary", [](Suite& suite) {
-  const With sqrts{opencv::root, "", true}, logs{opencv::logarithm, kOtherSteps, true},
-      exps{opencv::exponential, kOtherSteps}, squares{opencv::square}, magnitudes{opencv::absolute};
+  const With sqrts{opencv::root, "", Input::positive}, logs{opencv::logarithm, kOtherSteps, Input::positive},
+      exps{opencv::exponential, kOtherSteps, Input::moderate}, squares{opencv::square},
+      magnitudes{opencv::absolute};
   suite.row("sqrt 32f C1", kEverySize, unary<1, false>(lumiSqrt_32f_C1R, sqrts, root));
   suite.row("ln 32f C1", kEverySize, unary<1, false>(lumiLn_32f_C1R, logs, logarithm));
   suite.row("exp 32f C1", kEverySize, unary<1, false>(lumiExp_32f_C1R, exps, exponential));
@@ -142,8 +152,10 @@ const Family family("unary", [](Suite& suite) {
   suite.row("abs 16s AC4", kCachedAndHd, unary<4, true>(lumiAbs_16s_AC4R, {}, absolute));
   suite.row("sqrt 8u C1", kUpToHd, unary<1, false>(lumiSqrt_8u_C1RSfs, {}, root, 0));
   suite.row("sqrt 16u C1", kUpToHd, unary<1, false>(lumiSqrt_16u_C1RSfs, {}, root, 0));
-  suite.row("sqrt 16s C1", kUpToHd, unary<1, false>(lumiSqrt_16s_C1RSfs, {nullptr, "", true}, root, 0));
-  suite.row("sqrt 32f AC4", kCachedAndHd, unary<4, true>(lumiSqrt_32f_AC4R, {nullptr, "", true}, root));
+  suite.row("sqrt 16s C1", kUpToHd,
+            unary<1, false>(lumiSqrt_16s_C1RSfs, {nullptr, "", Input::positive}, root, 0));
+  suite.row("sqrt 32f AC4", kCachedAndHd,
+            unary<4, true>(lumiSqrt_32f_AC4R, {nullptr, "", Input::positive}, root));
   suite.row("ln 8u C1 scale -4", kUpToHd, unary<1, false>(lumiLn_8u_C1RSfs, {}, logarithm, -4));
   suite.row("ln 16u C1 scale -4", kUpToHd, unary<1, false>(lumiLn_16u_C1RSfs, {}, logarithm, -4));
   suite.row("exp 8u C1", kUpToHd, unary<1, false>(lumiExp_8u_C1RSfs, {}, exponential, 0));

@@ -24,11 +24,19 @@ constexpr double kLog2OfE = 1.4426950408889634, kLn2 = 0.6931471805599453;
 // largest error smallest (Remez): 2^-64. Zero gives 2^-s exactly.
 double scaledExponential(int x, int s) {
   constexpr double high = 0.6931471803691238, low = 1.9082149292705877e-10;
-  constexpr double coefficients[] = {
-      2.092849652459937364e-09, 2.511488700519402746e-08, 2.75572269809876304e-07,  2.755722490572198642e-06,
-      2.480158738378915067e-05, 1.984126990927428586e-04, 1.388888888885091263e-03, 8.333333333309500229e-03,
-      4.166666666666675124e-02, 1.666666666666670246e-01, 0.5,                      1,
-      1};
+  constexpr double coefficients[] = {2.092849652459937364e-09,
+                                     2.511488700519402746e-08,
+                                     2.75572269809876304e-07,
+                                     2.755722490572198642e-06,
+                                     2.480158738378915067e-05,
+                                     1.984126990927428586e-04,
+                                     1.388888888885091263e-03,
+                                     8.333333333309500229e-03,
+                                     4.166666666666675124e-02,
+                                     1.666666666666670246e-01,
+                                     0.5,
+                                     1,
+                                     1};
   const int n = static_cast<int>(x * kLog2OfE + (x < 0 ? -0.5 : 0.5));
   const double r = (x - n * high) - n * low;
   double sum = 0;
@@ -110,45 +118,83 @@ struct ExpOfWords {
     const Samples<T> x{loadVector(p)};
     const auto above = as<uint16_t>(max(x, first) - first);
     const auto index = min(above, broadcast<uint16_t>(kLastResult)) | broadcast<uint16_t>(0x8000);
-    const Samples<uint16_t> lows{shuffleBytes(low, bytesOf(index))}, highs{shuffleBytes(high, bytesOf(index))};
+    const Samples<uint16_t> lows{shuffleBytes(low, bytesOf(index))},
+        highs{shuffleBytes(high, bytesOf(index))};
     return bytesOf(lows | (highs << toHigh));
   }
 };
 
 // x = n ln 2 + r with |r| of at most ln 2 / 2, where n ln 2 goes off in two parts, of which the first one's
 // products are exact (Cody and Waite). e^r is 1 + r + r^2 p(r), with coefficients that make the largest error
-// smallest (Remez): 2^-28. 2^n is made in two steps, since the result may be a denormal, or 2^128 times less
-// than 1. Beyond the limits all results are infinite, or zero.
-struct ExpOfFloats {
-  template <typename V>
-  static V powerOfTwo(V n) {
-    const V step = broadcastFloat<V>(1 << 23);  // of the bits of the exponent
-    return withBits(truncated(n * step + broadcastFloat<V>(127.0F * (1 << 23))));
-  }
+// smallest (Remez): 2^-28. What is small is summed up first.
+namespace of_floats {
+
+enum { kLog2, kHighLn2, kLowLn2, kP0, kP1, kP2, kP3, kP4, kOne, kExponent, kBias, kMost };
+constexpr float kStep = 1 << 23;  // of the exponent among a float's bits
+constexpr auto kTable =
+    spread(1.44269504F, 0.693145752F, 1.42860677e-06F, 0.5F, 1.66665188e-01F, 4.16662057e-02F,
+           8.36889178e-03F, 1.39504953e-03F, 1.0F, kStep, 127 * kStep, 87.0F);
+
+template <typename V>
+struct Power {
+  V mantissa, exponent;
+};
+
+template <typename V>
+Power<V> powerOf(V x, const Constants& constants) {
+  const auto c = [&](int which) { return constants.get<V>(which); };
+  const V n = nearest(x * c(kLog2));
+  const V high = x - n * c(kHighLn2), low = n * c(kLowLn2), r = high - low, square = r * r;
+  const V p = (c(kP0) + c(kP1) * r) + square * ((c(kP2) + c(kP3) * r) + square * c(kP4));
+  return {((p * square - low) + high) + c(kOne), n};
+}
+
+template <typename V>
+V powerOfTwo(V n, const Constants& constants) {
+  return withBits(truncated(n * constants.get<V>(kExponent) + constants.get<V>(kBias)));
+}
+
+// Any floats, by memory, since it is called seldom. 2^n is made in two steps: the result may be a denormal,
+// or 2^128 times less than 1. Beyond the limits all results are infinite, or zero.
+template <typename V>
+[[gnu::noinline, gnu::cold]] void expOfAny(const Byte* samples, Byte* results) {
+  const Constants constants(kTable);
+  V x;
+  std::memcpy(&x, samples, sizeof x);
+  x = max(broadcastFloat<V>(-104), min(broadcastFloat<V>(89), x));  // not a number stays
+  const Power<V> power = powerOf(x, constants);
+  const V half = nearest(power.exponent * broadcastFloat<V>(0.5F));
+  x = power.mantissa * powerOfTwo(half, constants) * powerOfTwo(power.exponent - half, constants);
+  std::memcpy(results, &x, sizeof x);
+}
+
+struct Exp {
+  Constants constants{kTable};
 
   template <typename V>
-  V operator()(V given) const {
-    const auto c = [](float value) { return broadcastFloat<V>(value); };
-    const V x = max(c(-104), min(c(89), given));  // not a number stays
-    const V n = nearest(x * c(1.44269504F));
-    const V high = x - n * c(0.693145752F), low = n * c(1.42860677e-06F), r = high - low;
-    V p = c(1.39504953e-03F);
-    p = p * r + c(8.36889178e-03F);
-    p = p * r + c(4.16662057e-02F);
-    p = p * r + c(1.66665188e-01F);
-    p = p * r + c(0.5F);
-    const V power = ((p * (r * r) - low) + high) + c(1);  // what is small first: r itself has been rounded
-    const V half = nearest(n * c(0.5F));
-    return power * powerOfTwo(half) * powerOfTwo(n - half);
+  V operator()(V x) const {
+    const V magnitude = x & broadcastBits<V>(INT32_MAX);
+    if (__builtin_expect(allSet(isBelow(magnitude, constants.get<V>(kMost))), true)) {
+      const Power<V> power = powerOf(x, constants);
+      return power.mantissa * powerOfTwo(power.exponent, constants);
+    }
+    Byte samples[sizeof(V)], results[sizeof(V)];
+    std::memcpy(samples, &x, sizeof x);
+    expOfAny<V>(samples, results);
+    std::memcpy(&x, results, sizeof x);
+    return x;
   }
 };
+
+}  // namespace of_floats
 
 }  // namespace
 
 template <typename T>
-[[gnu::flatten]] void expRows(SourceRows src, TargetRows dst, Extent samples, [[maybe_unused]] int scaleFactor) {
+[[gnu::flatten]] void expRows(SourceRows src, TargetRows dst, Extent samples,
+                              [[maybe_unused]] int scaleFactor) {
   if constexpr (std::is_same_v<T, float>)
-    runUnary<T, 0>(src, dst, samples, OfFloats<ExpOfFloats>());
+    runUnary<T, 0>(src, dst, samples, OfFloats<of_floats::Exp>());
   else if constexpr (sizeof(T) == 1)
     runUnary<T, 0>(src, dst, samples, ExpOfBytes(resultsOf<T>(scaleFactor)));
   else

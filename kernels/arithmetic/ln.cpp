@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // x = 2^k (1 + f) with 1 + f from sqrt(1/2) to sqrt(2), and ln(1 + f) = 2 s + s z p(z) with s = f / (2 + f),
-// z = s^2: the series of the inverse hyperbolic tangent, with coefficients that make the largest error smallest
-// (Remez).
+// z = s^2: the series of the inverse hyperbolic tangent, with coefficients that make the largest error
+// smallest (Remez).
 #include "kernels/arithmetic/ln.hpp"
 
 #include "kernels/arithmetic/unary_rows.hpp"
@@ -15,6 +15,11 @@ using namespace simd;
 // Exponents are counted in units of their lowest bit, as the bits of a float have them.
 constexpr float kExponent = 1 << 23;
 
+enum { kOne, kTwo, kRootOfTwo, kStep, kBias, kHighLn2, kLowLn2, kP0, kP1, kP2, kLeast, kMost };
+constexpr auto kTable = spread(1.0F, 2.0F, 1.41421356F, kExponent, 127 * kExponent, 0.693145752F / kExponent,
+                               1.42860677e-06F / kExponent, 0.666667726F, 0.399779074F, 0.298634446F,
+                               std::numeric_limits<float>::min(), std::numeric_limits<float>::max());
+
 template <typename V>
 struct Parts {
   V k, f;
@@ -22,28 +27,28 @@ struct Parts {
 
 // Of positive normal numbers; the exponent's bias is the caller's.
 template <typename V>
-Parts<V> partsOf(V x, V bias) {
-  const auto c = [](float value) { return broadcastFloat<V>(value); };
+Parts<V> partsOf(V x, V bias, const Constants& constants) {
+  const auto c = [&](int which) { return constants.get<V>(which); };
   const V k = floatsOf(intsOf(x & broadcastBits<V>(0x7F800000)));
-  const V m = (x & broadcastBits<V>(0x007FFFFF)) | c(1);  // 1 to 2
-  const V above = isBelow(c(1.41421356F), m);
-  return {(k + (above & c(kExponent))) - bias, (m - (above & (m * c(0.5F)))) - c(1)};
+  const V m = (x & broadcastBits<V>(0x007FFFFF)) | c(kOne);  // 1 to 2
+  const V above = isBelow(c(kRootOfTwo), m);
+  const V half = andNot(above & broadcastBits<V>(0x00800000), m);  // a lower exponent
+  return {(k - bias) + (above & c(kStep)), half - c(kOne)};
 }
 
-// The error of p is 2^-29. 2 s is f - s f, and s f is f^2 / 2 - s f^2 / 2: what is small is summed up first.
-// k ln 2 comes in two parts, of which the first one is exact (Cody and Waite).
+// The error of p is 2^-29, and 2 s is f - s f. k ln 2 comes in two parts, of which the first one is exact
+// (Cody and Waite); what is small is summed up first. Horner's order would keep the chain of steps too long.
 template <typename V>
-V lnOfParts(Parts<V> x) {
-  const auto c = [](float value) { return broadcastFloat<V>(value); };
-  const V f = x.f, s = f / (c(2) + f), z = s * s, halfSquare = c(0.5F) * f * f;
-  const V p = z * (c(0.666667726F) + z * (c(0.399779074F) + z * c(0.298634446F)));
-  const V small = s * (halfSquare + p) + x.k * c(1.42860677e-06F / kExponent);
-  return x.k * c(0.693145752F / kExponent) - ((halfSquare - small) - f);
+V lnOfParts(Parts<V> x, const Constants& constants) {
+  const auto c = [&](int which) { return constants.get<V>(which); };
+  const V f = x.f, s = f / (c(kTwo) + f), z = s * s;
+  const V p = z * c(kP0) + (z * z) * (c(kP1) + z * c(kP2));
+  return x.k * c(kHighLn2) + (f - (s * (f - p) - x.k * c(kLowLn2)));
 }
 
 template <typename V>
-V lnOfNormal(V x) {
-  return lnOfParts(partsOf(x, broadcastFloat<V>(127 * kExponent)));
+V lnOfNormal(V x, const Constants& constants) {
+  return lnOfParts(partsOf(x, constants.get<V>(kBias), constants), constants);
 }
 
 // Any floats: denormals, and those without a logarithm, too. By memory, since it is called seldom.
@@ -51,11 +56,13 @@ template <typename V>
 [[gnu::noinline, gnu::cold]] void lnOfAny(const Byte* samples, Byte* results, Byte* marks) {
   const auto c = [](float value) { return broadcastFloat<V>(value); };
   constexpr float infinity = std::numeric_limits<float>::infinity();
+  const Constants constants(kTable);
   V x;
   std::memcpy(&x, samples, sizeof x);
   const V isSmall = isBelow(x, c(std::numeric_limits<float>::min()));
   const V enlarged = ifThenElse(isSmall, x * c(1 << 25), x);
-  V ln = lnOfParts(partsOf(enlarged, ifThenElse(isSmall, c((127 + 25) * kExponent), c(127 * kExponent))));
+  const V bias = ifThenElse(isSmall, c((127 + 25) * kExponent), c(127 * kExponent));
+  V ln = lnOfParts(partsOf(enlarged, bias, constants), constants);
   const V isZero = isEqual(x, c(0)), isNegative = isBelow(x, c(0));
   ln = ifThenElse(isZero, c(-infinity), ln);
   ln = ifThenElse(isNegative, c(std::numeric_limits<float>::quiet_NaN()), ln);
@@ -66,12 +73,12 @@ template <typename V>
 }
 
 struct LnOfFloats {
+  Constants constants{kTable};
+
   template <typename V>
   Marked<V> operator()(V x) const {
-    using Limits = std::numeric_limits<float>;
-    const V isNormal =
-        isAtLeast(x, broadcastFloat<V>(Limits::min())) & isAtLeast(broadcastFloat<V>(Limits::max()), x);
-    if (__builtin_expect(allSet(isNormal), true)) return {lnOfNormal(x), broadcastFloat<V>(0)};
+    const V isNormal = isAtLeast(x, constants.get<V>(kLeast)) & isAtLeast(constants.get<V>(kMost), x);
+    if (__builtin_expect(allSet(isNormal), true)) return {lnOfNormal(x, constants), broadcastFloat<V>(0)};
     Byte samples[sizeof(V)], results[sizeof(V)], marks[sizeof(V)];
     std::memcpy(samples, &x, sizeof x);
     lnOfAny<V>(samples, results, marks);
@@ -82,15 +89,16 @@ struct LnOfFloats {
   }
 };
 
-// For all bytes and all factors, results stay 0.0001 away from a tie, which floats tell, but for ln 163 * 2^4,
-// which is 81.5 and 0.000003. So rounding up begins 2^-15 below a half.
+// For all bytes and all factors, results stay 0.0001 away from a tie, which floats tell, but for ln 163 *
+// 2^4, which is 81.5 and 0.000003. So rounding up begins 2^-15 below a half.
 struct LnOfBytes {
   Floats8 factor, upward = broadcastFloat<Floats8>(0.5F + 1.0F / (1 << 15));
+  Constants constants{kTable};
   explicit LnOfBytes(int s) : factor(broadcastFloat<Floats8>(static_cast<float>(scaleOf(s)))) {}
 
   S16 eight(const Byte* p) const {
     const Floats8 x = max(floatsOf8Bytes(p), broadcastFloat<Floats8>(1));
-    const Ints8 results = truncated(lnOfNormal(x) * factor + upward);
+    const Ints8 results = truncated(lnOfNormal(x, constants) * factor + upward);
     return narrowSaturated<int16_t>(lowHalf(results), highHalf(results));
   }
   auto half(const Byte* p) const {
@@ -103,6 +111,7 @@ struct LnOfBytes {
 template <typename T>
 struct LnOfWords {
   Doubles4 factor;
+  Constants constants{kTable};
   explicit LnOfWords(int s) : factor(broadcastDouble(scaleOf(s))) {}
 
   S32 four(Floats4 k, Floats4 fraction) const {
@@ -119,10 +128,10 @@ struct LnOfWords {
   }
   auto half(const Byte* p) const {
     const Samples16<T> given{load16(p)}, one = broadcast16<T>(1), x = max(given, one);
-    const Parts<Floats8> parts = partsOf(floatsOf(joined(firstDwords(x), lastDwords(x))),
-                                         broadcastFloat<Floats8>(127 * kExponent));
-    const Samples16<T> results = narrowSigned<T>(four(lowHalf(parts.k), lowHalf(parts.f)),
-                                                 four(highHalf(parts.k), highHalf(parts.f)));
+    const Parts<Floats8> parts =
+        partsOf(floatsOf(joined(firstDwords(x), lastDwords(x))), constants.get<Floats8>(kBias), constants);
+    const Samples16<T> results =
+        narrowSigned<T>(four(lowHalf(parts.k), lowHalf(parts.f)), four(highHalf(parts.k), highHalf(parts.f)));
     return bytesOf(Marked<Samples16<T>>{results, given ^ x});
   }
 };

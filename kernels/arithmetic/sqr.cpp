@@ -102,8 +102,8 @@ struct DividedWords<int16_t> {
   }
   VectorBytes vector(const Byte* p) const {
     const Samples<int16_t> a{loadVector(p)}, zero = broadcast<int16_t>(0);
-    return bytesOf(narrowInterleaved<int16_t>(quotient(interleaveLow(a, zero)),
-                                              quotient(interleaveHigh(a, zero))));
+    return bytesOf(
+        narrowInterleaved<int16_t>(quotient(interleaveLow(a, zero)), quotient(interleaveHigh(a, zero))));
   }
 };
 
@@ -121,8 +121,8 @@ struct DividedWords<uint16_t> {
   VectorBytes vector(const Byte* p) const {
     const Samples<uint16_t> a = max(Samples<uint16_t>{loadVector(p)}, broadcast<uint16_t>(1));
     const Samples<uint16_t> low = lowProduct(a, a), high = highProduct(a, a);
-    return bytesOf(narrowInterleaved<uint16_t>(quotient(interleaveLow(low, high)),
-                                               quotient(interleaveHigh(low, high))));
+    return bytesOf(
+        narrowInterleaved<uint16_t>(quotient(interleaveLow(low, high)), quotient(interleaveHigh(low, high))));
   }
 };
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Roots by the processor's instruction. Integer results are exact: a root r = sqrt(x) * 2^-s that is no tie
-// differs from the nearest one, k + 1/2, since (2k + 1)^2 and x * 4^(1 - s) differ by 1 at least where s is not
-// above 0; so by 2^-21 of r at least for words down to s = -1, and for bytes by 2^-19. A float's error is below
-// 2^-23 in any rounding mode. Words at lower factors come as close as 2^-35, and are made of doubles. Roots
-// that are ties, and all whole ones, are exact in either.
+// differs from the nearest one, k + 1/2, since (2k + 1)^2 and x * 4^(1 - s) differ by 1 at least where s is
+// not above 0; so by 2^-21 of r at least for words down to s = -1, and for bytes by 2^-19. A float's error is
+// below 2^-23 in any rounding mode. Words at lower factors come as close as 2^-35, and are made of doubles.
+// Roots that are ties, and all whole ones, are exact in either.
 #include "kernels/arithmetic/sqrt.hpp"
 
 #include "kernels/arithmetic/unary_rows.hpp"
@@ -85,8 +85,8 @@ template <typename T, int alpha>
   if constexpr (std::is_same_v<T, float>) {
     return anyOf(runUnary<T, alpha>(src, dst, samples, OfFloats<RootOfFloats>()));
   } else {
-    // From 9 on all results are zero, and from one bit more than the sample's down on all but that of zero are
-    // limited: dwords hold a root of 8 bits, times 2^16.
+    // From 9 on all results are zero, and from one bit more than the sample's down on all but that of zero
+    // are limited: dwords hold a root of 8 bits, times 2^16.
     const int s = std::clamp(scaleFactor, -std::numeric_limits<T>::digits - 1, 9);
     if constexpr (sizeof(T) == 1)
       return anyOf(runUnary<T, alpha>(src, dst, samples, OfHalves<RootOfBytes>(s)));

@@ -58,6 +58,10 @@ inline Floats8 ifThenElse(Floats8 mask, Floats8 yes, Floats8 no) {
 inline bool allSet(Floats4 mask) { return _mm_movemask_ps(mask.v) == 0xF; }
 inline bool allSet(Floats8 mask) { return _mm256_movemask_ps(mask.v) == 0xFF; }
 
+// b without the bits of a.
+inline Floats4 andNot(Floats4 a, Floats4 b) { return {_mm_andnot_ps(a.v, b.v)}; }
+inline Floats8 andNot(Floats8 a, Floats8 b) { return {_mm256_andnot_ps(a.v, b.v)}; }
+
 // The bits that any of the dwords has.
 inline int bitsOfDwords(Bytes32 v) {
   const Bytes16 four = bitOr(lowHalf(v), highHalf(v)), two = bitOr(four, permuteDwords<2, 3, 0, 1>(four));
@@ -68,9 +72,7 @@ inline int bitsOfDwords(Bytes32 v) {
 inline S32 truncated(Floats4 x) { return {_mm_cvttps_epi32(x.v)}; }
 inline Ints8 truncated(Floats8 x) { return {_mm256_cvttps_epi32(x.v)}; }
 inline S32 truncated(Doubles4 x) { return {_mm256_cvttpd_epi32(x.v)}; }
-inline S32 roundedToEven(Doubles4 x) {
-  return {_mm256_cvttpd_epi32(_mm256_round_pd(x.v, kTiesToEven))};
-}
+inline S32 roundedToEven(Doubles4 x) { return {_mm256_cvttpd_epi32(_mm256_round_pd(x.v, kTiesToEven))}; }
 
 // The floats with these bits.
 inline Floats4 withBits(S32 bits) { return {_mm_castsi128_ps(bits.v)}; }

@@ -71,7 +71,8 @@ bool addOperations() {
   addAll("Sqrt", Samples(), root, [](auto x) { return model::rootStatus(x); });
   addAll("Ln", Samples(), logarithm, [](auto x) { return model::logarithmStatus(x); });
   addAll("Exp", Samples(), exponential, none);
-  addAll("Complement", Types<Lum32s>(), [](Lum32s x, int) { return model::signAndMagnitude(x); }, none);
+  addAll(
+      "Complement", Types<Lum32s>(), [](Lum32s x, int) { return model::signAndMagnitude(x); }, none);
   return true;
 }
 const bool added = addOperations();
@@ -105,7 +106,8 @@ template <typename T, typename Formula>
 void expectEverySample(Scaled<T> function, Formula formula, int first, int last) {
   const std::vector<T> all = everySample<T>();
   for (int s = first; s <= last; ++s) ASSERT_NO_FATAL_FAILURE(expectRow<T>(function, formula, all, s));
-  for (int s : {INT_MIN, -1000, 1000, INT_MAX}) ASSERT_NO_FATAL_FAILURE(expectRow<T>(function, formula, all, s));
+  for (int s : {INT_MIN, -1000, 1000, INT_MAX})
+    ASSERT_NO_FATAL_FAILURE(expectRow<T>(function, formula, all, s));
 }
 
 // Beyond these factors all results are zero or limited, which the ones next to them show.
@@ -218,11 +220,13 @@ void expectErrors(Function* function, Exact exact, const std::vector<float>& arg
   const LumiSize roi{static_cast<int>(arguments.size()), 1};
   ASSERT_GE(function(arguments.data(), 4 * roi.width, results.data(), 4 * roi.width, roi), lumStatusOk);
   for (size_t i = 0; i < arguments.size(); ++i) {
-    const double right = std::clamp(exact(double{arguments[i]}), -1e300, double{std::numeric_limits<float>::max()});
+    const double right =
+        std::clamp(exact(double{arguments[i]}), -1e300, double{std::numeric_limits<float>::max()});
     if (arguments[i] == 0 && right < -1e200)
       ASSERT_EQ(results[i], -std::numeric_limits<float>::infinity());
     else
-      ASSERT_LT(errorOf(results[i], right), bound) << "of " << std::hexfloat << arguments[i] << ": " << results[i];
+      ASSERT_LT(errorOf(results[i], right), bound)
+          << "of " << std::hexfloat << arguments[i] << ": " << results[i];
   }
 }
 
@@ -240,7 +244,8 @@ TEST(Unary, FloatLogarithmsAndExponentialsAreExactToAUnit) {
 }
 
 TEST(Unary, FloatsThatAreNoOrdinaryNumbers) {
-  constexpr float infinity = std::numeric_limits<float>::infinity(), nan = std::numeric_limits<float>::quiet_NaN();
+  constexpr float infinity = std::numeric_limits<float>::infinity(),
+                  nan = std::numeric_limits<float>::quiet_NaN();
   const auto of = [](auto* function, float x, LumStatus status) {
     float result = 77;
     EXPECT_EQ(function(&x, 4, &result, 4, {1, 1}), status) << x;
@@ -280,7 +285,8 @@ TEST(Unary, OneBadSampleIsFoundWhereverItIs) {
           src[at] = -9;
           words[at] = -9;
           const LumiSize roi{width, rows};
-          ASSERT_EQ(lumiSqrt_32f_C1R(src.data(), 4 * step, dst.data(), 4 * step, roi), lumStatusSqrtOfNegative);
+          ASSERT_EQ(lumiSqrt_32f_C1R(src.data(), 4 * step, dst.data(), 4 * step, roi),
+                    lumStatusSqrtOfNegative);
           ASSERT_EQ(lumiSqrt_16s_C1RSfs(words.data(), 2 * step, results.data(), 2 * step, roi, 0),
                     lumStatusSqrtOfNegative);
           for (int v = 0; v < rows; ++v)
@@ -336,7 +342,8 @@ TEST(Unary, AlphaNeverWarns) {
 
 // The first byte of the second row's first sample, where bytes tell their own places.
 template <typename T, typename... Rest>
-int secondRowBegins(LumStatus (*function)(const T*, int, T*, int, LumiSize, Rest...), int step, Rest... rest) {
+int secondRowBegins(LumStatus (*function)(const T*, int, T*, int, LumiSize, Rest...), int step,
+                    Rest... rest) {
   alignas(8) Byte src[64], dst[64] = {};
   std::iota(std::begin(src), std::end(src), Byte{0});
   EXPECT_EQ(function(reinterpret_cast<const T*>(src), step, reinterpret_cast<T*>(dst), 32, {1, 2}, rest...),
@@ -362,7 +369,8 @@ void expectUnread(Scaled<T> function, int largest) {
     std::vector<T> dst(40 * 2, 7);
     LumStatus status = 0;
     ASSERT_FALSE(faultOf([&] {
-      status = function(reinterpret_cast<const T*>(closed.begin()), 128, dst.data(), 40 * int{sizeof(T)}, {37, 2}, s);
+      status = function(reinterpret_cast<const T*>(closed.begin()), 128, dst.data(), 40 * int{sizeof(T)},
+                        {37, 2}, s);
     })) << s;
     ASSERT_EQ(status, lumStatusOk);
     for (size_t i = 0; i < dst.size(); ++i) ASSERT_EQ(dst[i], i % 40 < 37 ? 0 : 7) << i;

@@ -32,7 +32,8 @@ T root(T x, int s) {
   } else {
     if (x <= 0 || s > 9) return 0;  // 256 / 2^10 is far below a half
     if (s < -16) return std::numeric_limits<T>::max();
-    const int64_t left = s > 0 ? int64_t{1} << 2 * s : 1, right = s < 0 ? int64_t{4} * x << -2 * s : int64_t{4} * x;
+    const int64_t left = s > 0 ? int64_t{1} << 2 * s : 1,
+                  right = s < 0 ? int64_t{4} * x << -2 * s : int64_t{4} * x;
     int64_t low = 0, high = std::numeric_limits<T>::max();
     while (low < high) {
       const int64_t k = (low + high + 1) / 2, square = (2 * k - 1) * (2 * k - 1) * left;
@@ -63,10 +64,9 @@ inline Lum32f logarithm(Lum32f x) {
   --exponent;
   if (m > 1.41421356F) m /= 2, ++exponent;
   const auto k = static_cast<Lum32f>(exponent);
-  const Lum32f f = m - 1, s = f / (2 + f), z = s * s, halfSquare = 0.5F * f * f;
-  const Lum32f p = z * (0.666667726F + z * (0.399779074F + z * 0.298634446F));
-  const Lum32f small = s * (halfSquare + p) + k * 1.42860677e-06F;
-  return k * 0.693145752F - ((halfSquare - small) - f);
+  const Lum32f f = m - 1, s = f / (2 + f), z = s * s;
+  const Lum32f p = z * 0.666667726F + (z * z) * (0.399779074F + z * 0.298634446F);
+  return k * 0.693145752F + (f - (s * (f - p) - k * 1.42860677e-06F));
 }
 
 template <typename T>
@@ -83,9 +83,10 @@ inline Lum32f exponential(Lum32f x) {
   if (x < -104) return 0;
   const Lum32f n = std::nearbyint(x * 1.44269504F);
   const Lum32f high = x - n * 0.693145752F, low = n * 1.42860677e-06F, r = high - low;
-  Lum32f p = 1.39504953e-03F;
-  for (Lum32f c : {8.36889178e-03F, 4.16662057e-02F, 1.66665188e-01F, 0.5F}) p = p * r + c;
-  const Lum32f power = ((p * (r * r) - low) + high) + 1;
+  const Lum32f square = r * r;
+  const Lum32f p = (0.5F + 1.66665188e-01F * r) +
+                   square * ((4.16662057e-02F + 8.36889178e-03F * r) + square * 1.39504953e-03F);
+  const Lum32f power = ((p * square - low) + high) + 1;
   return std::ldexp(power, static_cast<int>(n));
 }
 
@@ -140,6 +141,8 @@ LumStatus unary(Image src, Image dst, LumiSize roi, Channels channels, Function 
 }
 
 // Steps rounded down to whole samples.
-inline Image wholeSteps(Image image, int sampleBytes) { return {image.first, image.step / sampleBytes * sampleBytes}; }
+inline Image wholeSteps(Image image, int sampleBytes) {
+  return {image.first, image.step / sampleBytes * sampleBytes};
+}
 
 }  // namespace model
