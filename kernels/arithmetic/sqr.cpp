@@ -67,6 +67,24 @@ struct DividedBytes {
   }
 };
 
+// Words as they are: a number limited to the smallest one beyond has a square of 16 bits, but for unsigned
+// ones.
+template <typename T>
+struct SaturatedWords {
+  static constexpr auto kBeyond = smallestBeyond<T>()[0];
+
+  VectorBytes vector(const Byte* p) const {
+    const Samples<T> x{loadVector(p)};
+    const auto beyond = broadcast(kBeyond);
+    if constexpr (std::is_signed_v<T>) {
+      const auto a = min(magnitude(x), beyond);
+      return bytesOf(min(lowProduct(a, a), broadcast<uint16_t>(INT16_MAX)));
+    } else {
+      return bytesOf(lowProduct(x, x) | isAtLeast(x, beyond));
+    }
+  }
+};
+
 // x * 2^k of words.
 template <typename T>
 struct MultipliedWords {
@@ -145,8 +163,10 @@ template <typename T, int alpha>
     const bool divides = scaling.path == Scaling::Halve || scaling.path == Scaling::Divide;
     if (divides)
       runUnary<T, alpha>(src, dst, samples, Divided(scaling.bits));
-    else
+    else if (sizeof(T) == 1 || scaling.bits > 0)
       runUnary<T, alpha>(src, dst, samples, Multiplied(scaling.bits));
+    else if constexpr (sizeof(T) > 1)
+      runUnary<T, alpha>(src, dst, samples, SaturatedWords<T>());
   }
 }
 
