@@ -28,6 +28,7 @@ inline Marked<Halves32> halves(const MarkedBytes<16>& low, const MarkedBytes<16>
   return {{low.results, high.results}, {low.marks, high.marks}};
 }
 
+inline MarkedBytes<32> joined(const MarkedBytes<32>& v) { return v; }
 inline MarkedBytes<32> joined(const Marked<Halves32>& v) { return {joined(v.results), joined(v.marks)}; }
 
 // Where the mask keeps what was there before, nothing is marked.

@@ -59,7 +59,7 @@ struct DividedBytes {
 
   // Below 2^15 for every s.
   Samples<int16_t> quotient(Samples<uint16_t> a) const {
-    return as<int16_t>(averageUp(lowProduct(a, a) & kept, bias) >> rest);
+    return as<int16_t>(averageUp((a * a) & kept, bias) >> rest);
   }
   VectorBytes vector(const Byte* p) const {
     const Samples<uint8_t> a{loadVector(p)};
@@ -78,9 +78,9 @@ struct SaturatedWords {
     const auto beyond = broadcast(kBeyond);
     if constexpr (std::is_signed_v<T>) {
       const auto a = min(magnitude(x), beyond);
-      return bytesOf(min(lowProduct(a, a), broadcast<uint16_t>(INT16_MAX)));
+      return bytesOf(min(a * a, broadcast<uint16_t>(INT16_MAX)));
     } else {
-      return bytesOf(lowProduct(x, x) | isAtLeast(x, beyond));
+      return bytesOf((x * x) | isAtLeast(x, beyond));
     }
   }
 };
@@ -101,7 +101,7 @@ struct MultipliedWords {
     const Samples<T> x{loadVector(p)};
     Samples<uint16_t> a = as<uint16_t>(x);
     if constexpr (std::is_signed_v<T>) a = magnitude(x);
-    return bytesOf(((lowProduct(a, a) << shift) | isAtLeast(a, beyond)) & largest);
+    return bytesOf((((a * a) << shift) | isAtLeast(a, beyond)) & largest);
   }
 };
 
@@ -138,7 +138,7 @@ struct DividedWords<uint16_t> {
   }
   VectorBytes vector(const Byte* p) const {
     const Samples<uint16_t> a = max(Samples<uint16_t>{loadVector(p)}, broadcast<uint16_t>(1));
-    const Samples<uint16_t> low = lowProduct(a, a), high = highProduct(a, a);
+    const Samples<uint16_t> low = a * a, high = multiplyHigh(a, a);
     return bytesOf(
         narrowInterleaved<uint16_t>(quotient(interleaveLow(low, high)), quotient(interleaveHigh(low, high))));
   }

@@ -7,10 +7,6 @@
 
 namespace lumi::simd {
 
-// A block with marks as one vector, which it is where vectors are as wide.
-inline MarkedBytes<32> joined(const MarkedBytes<32>& v) { return v; }
-inline MarkedBytes<32> joined(const Marked<Halves32>& v) { return {joined(v.results), joined(v.marks)}; }
-
 // A function of vectors of floats, of either width, as Unary takes it.
 template <typename F>
 struct OfFloats : F {

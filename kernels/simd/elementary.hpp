@@ -7,24 +7,6 @@
 
 namespace lumi::simd {
 
-// The low and the high words of products.
-template <typename T>
-Samples16<T> lowProduct(Samples16<T> a, Samples16<T> b) {
-  static_assert(sizeof(T) == 2);
-  return {_mm_mullo_epi16(a.v, b.v)};
-}
-inline U16 highProduct(U16 a, U16 b) { return {_mm_mulhi_epu16(a.v, b.v)}; }
-#ifdef __AVX2__
-template <typename T>
-Samples32<T> lowProduct(Samples32<T> a, Samples32<T> b) {
-  static_assert(sizeof(T) == 2);
-  return {_mm256_mullo_epi16(a.v, b.v)};
-}
-inline Samples32<uint16_t> highProduct(Samples32<uint16_t> a, Samples32<uint16_t> b) {
-  return {_mm256_mulhi_epu16(a.v, b.v)};
-}
-#endif
-
 // Sixteen bytes over and over, as a table for shuffles.
 #ifdef __AVX2__
 inline VectorBytes repeated(Bytes16 v) { return joined(v, v); }

@@ -8,7 +8,7 @@
 #include <limits>
 #include <type_traits>
 
-#include "model/arithmetic/add_sub.hpp"
+#include "model/arithmetic/combine.hpp"
 
 namespace model {
 
