@@ -39,6 +39,14 @@ void makePositive(Image<T> image) {
     }
 }
 
+// One sample in eight is zero, as black ones are.
+template <typename T>
+void makeSparse(Image<T> image) {
+  makePositive(image);
+  for (int y = 0; y < image.roi.height; ++y)
+    for (int i = y % 8; i < image.roi.width * image.channels; i += 8) image.row(y)[i] = 0;
+}
+
 // Exponents whose powers are ordinary numbers: noise between -8 and 8.
 template <typename T>
 void makeModerate(Image<T> image) {
@@ -47,7 +55,7 @@ void makeModerate(Image<T> image) {
       image.row(y)[i] = static_cast<T>(image.row(y)[i] / 16);
 }
 
-enum class Input { noise, positive, moderate };
+enum class Input { noise, positive, sparse, moderate };
 struct With {
   Adapter opencv = nullptr;
   const char* differs = "";
@@ -59,6 +67,7 @@ Suite::Build unary(Unary<T, Rest...> lumi, With with, F f, Rest... rest) {
   return [=](Scene& s) {
     const auto src = s.input<T>(C), dst = s.output<T>(C);
     if (with.input == Input::positive) makePositive(src);
+    if (with.input == Input::sparse) makeSparse(src);
     if (with.input == Input::moderate) makeModerate(src);
     s.ours([=] { lumi(src.data(), src.step, dst.data(), dst.step, dst.roi, rest...); });
     if (!alpha && with.opencv != nullptr) {
@@ -156,6 +165,8 @@ const Family family("unary", [](Suite& suite) {
             unary<1, false>(lumiSqrt_16s_C1RSfs, {nullptr, "", Input::positive}, root, 0));
   suite.row("sqrt 32f AC4", kCachedAndHd,
             unary<4, true>(lumiSqrt_32f_AC4R, {nullptr, "", Input::positive}, root));
+  suite.row("ln 32f C1 zeros", kCachedAndHd,
+            unary<1, false>(lumiLn_32f_C1R, {opencv::logarithm, kOtherSteps, Input::sparse}, logarithm));
   suite.row("ln 8u C1 scale -4", kUpToHd, unary<1, false>(lumiLn_8u_C1RSfs, {}, logarithm, -4));
   suite.row("ln 16u C1 scale -4", kUpToHd, unary<1, false>(lumiLn_16u_C1RSfs, {}, logarithm, -4));
   suite.row("exp 8u C1", kUpToHd, unary<1, false>(lumiExp_8u_C1RSfs, {}, exponential, 0));

@@ -51,11 +51,19 @@ V lnOfNormal(V x, const Constants& constants) {
   return lnOfParts(partsOf(x, constants.get<V>(kBias), constants), constants);
 }
 
+// Zeros and negative samples are common enough to be dealt with on the spot.
+template <typename V>
+Marked<V> withoutLogarithm(V ln, V isZero, V isNegative) {
+  constexpr float infinity = std::numeric_limits<float>::infinity();
+  ln = ifThenElse(isZero, broadcastFloat<V>(-infinity), ln);
+  ln = ifThenElse(isNegative, broadcastFloat<V>(std::numeric_limits<float>::quiet_NaN()), ln);
+  return {ln, (isZero & broadcastBits<V>(kLnOfZero)) | (isNegative & broadcastBits<V>(kLnOfNegative))};
+}
+
 // Any floats: denormals, and those without a logarithm, too. By memory, since it is called seldom.
 template <typename V>
 [[gnu::noinline, gnu::cold]] void lnOfAny(const Byte* samples, Byte* results, Byte* marks) {
   const auto c = [](float value) { return broadcastFloat<V>(value); };
-  constexpr float infinity = std::numeric_limits<float>::infinity();
   const Constants constants(kTable);
   V x;
   std::memcpy(&x, samples, sizeof x);
@@ -63,13 +71,10 @@ template <typename V>
   const V enlarged = ifThenElse(isSmall, x * c(1 << 25), x);
   const V bias = ifThenElse(isSmall, c((127 + 25) * kExponent), c(127 * kExponent));
   V ln = lnOfParts(partsOf(enlarged, bias, constants), constants);
-  const V isZero = isEqual(x, c(0)), isNegative = isBelow(x, c(0));
-  ln = ifThenElse(isZero, c(-infinity), ln);
-  ln = ifThenElse(isNegative, c(std::numeric_limits<float>::quiet_NaN()), ln);
   ln = ifThenElse(isAtLeast(c(std::numeric_limits<float>::max()), x), ln, x + x);
-  const V bad = (isZero & broadcastBits<V>(kLnOfZero)) | (isNegative & broadcastBits<V>(kLnOfNegative));
-  std::memcpy(results, &ln, sizeof ln);
-  std::memcpy(marks, &bad, sizeof bad);
+  const Marked<V> all = withoutLogarithm(ln, isEqual(x, c(0)), isBelow(x, c(0)));
+  std::memcpy(results, &all.results, sizeof all.results);
+  std::memcpy(marks, &all.marks, sizeof all.marks);
 }
 
 struct LnOfFloats {
@@ -78,7 +83,10 @@ struct LnOfFloats {
   template <typename V>
   Marked<V> operator()(V x) const {
     const V isNormal = isAtLeast(x, constants.get<V>(kLeast)) & isAtLeast(constants.get<V>(kMost), x);
-    if (__builtin_expect(allSet(isNormal), true)) return {lnOfNormal(x, constants), broadcastFloat<V>(0)};
+    const V ln = lnOfNormal(x, constants);
+    if (__builtin_expect(allSet(isNormal), true)) return {ln, broadcastFloat<V>(0)};
+    const V isZero = isEqual(x, broadcastFloat<V>(0)), isNegative = isBelow(x, broadcastFloat<V>(0));
+    if (allSet(isNormal | isZero | isNegative)) return withoutLogarithm(ln, isZero, isNegative);
     Byte samples[sizeof(V)], results[sizeof(V)], marks[sizeof(V)];
     std::memcpy(samples, &x, sizeof x);
     lnOfAny<V>(samples, results, marks);
