@@ -2,6 +2,7 @@
 // Images as rows of bytes, the walk over them, and fusing.
 #pragma once
 
+#include <climits>
 #include <cstddef>
 #include <cstdint>
 #include <type_traits>
@@ -47,7 +48,7 @@ auto planeRows(T* const* images, int step) {
 
 // Whether a row of the ROI ends where the next begins.
 inline bool isTight(ptrdiff_t step, int width, int pixelBytes) {
-  return step == static_cast<int64_t>(width) * pixelBytes;
+  return width <= INT_MAX / pixelBytes && step == width * pixelBytes;
 }
 
 // The pixels of the ROI: of one row where rows touch one another in all images.
@@ -78,9 +79,8 @@ inline void runSamples(const S* src, int srcStep, D* dst, int dstStep, LumiSize 
 
 // Bytes that a call moves. More than 64 bits hold is no size of any cache, and is cut to the largest.
 inline int64_t bytesMoved(LumiSize roi, int bytesPerPixel) {
-  int64_t bytes = 0;
   const int64_t area = int64_t{roi.width} * roi.height;  // below 2^62
-  return __builtin_mul_overflow(area, bytesPerPixel, &bytes) ? INT64_MAX : bytes;
+  return area > INT64_MAX / bytesPerPixel ? INT64_MAX : area * bytesPerPixel;
 }
 
 }  // namespace lumi

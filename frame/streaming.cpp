@@ -17,8 +17,7 @@ int64_t reportedCache() {
   return size;
 }
 
-bool streamsOperation(int64_t bytes) {
-  if (bytes <= kStreamingFloor) return false;
+bool streamsBeyondFloor(int64_t bytes) {
   const auto cache = largestCache();
   return cache && bytes >= *cache;
 }

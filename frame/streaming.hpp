@@ -18,7 +18,8 @@ std::optional<int64_t> largestCache();
 int64_t reportedCache();
 
 // The rule of fills, layout changes and conversions; `bytes` counts what is read and written.
-bool streamsOperation(int64_t bytes);
+bool streamsBeyondFloor(int64_t bytes);
+inline bool streamsOperation(int64_t bytes) { return bytes > kStreamingFloor && streamsBeyondFloor(bytes); }
 
 // The rule of one-dimensional fills of scratch memory.
 bool streamsFill(int64_t bytes);
