@@ -2,8 +2,9 @@
 // The frame of operations on two images, and on an image and a constant: checks, choice of the path, rows.
 //
 // A family tells of an operation, which its kernels know by the same tag, by a specialization of Operation:
-//   fault<T>(roi, steps...)       what is checked after the pointers
-//   scaling<T>(scaleFactor)       the path; none where every result is zero
+//   fault<T>(how, roi, steps...)  what is checked after the pointers; how is the scale factor, or what else
+//                                 tells how results are made
+//   scaling<T>(how)               the path, or what else functions are chosen by; none where all is zero
 //   Sample<T>                     what the kernels take a sample for: itself, or its real parts
 //   outcome(value, scaleFactor)   what a single constant integer makes of any image
 //
@@ -36,7 +37,7 @@ struct Operation;
 template <typename Limits>
 struct ScaledOperation {
   template <typename T, typename... Step>
-  static LumStatus fault(LumiSize roi, Step... steps) {
+  static LumStatus fault(int, LumiSize roi, Step... steps) {
     return check::firstFault(check::size(roi), kComponents<T> == 1 ? lumStatusOk : check::steps(steps...));
   }
   template <typename T>
@@ -57,43 +58,47 @@ struct Seen {
   static constexpr int kAlpha = (Layout::kStored - Layout::kUsed) * kParts;
 };
 
-template <typename Op, typename T, typename Layout>
+// The one thing that samples can be marked for is a zero that divides.
+template <typename Op, typename T, typename Layout, typename How>
 static LumStatus combineImages(const T* src1, int src1Step, const T* src2, int src2Step, T* dst, int dstStep,
-                               LumiSize roi, int scaleFactor) {
-  if (LumStatus fault = check::firstFault(check::pointers(src1, src2, dst),
-                                          Operation<Op>::template fault<T>(roi, src1Step, src2Step, dstStep)))
+                               LumiSize roi, How how) {
+  if (LumStatus fault =
+          check::firstFault(check::pointers(src1, src2, dst),
+                            Operation<Op>::template fault<T>(how, roi, src1Step, src2Step, dstStep)))
     return fault;
-  const auto scaling = Operation<Op>::template scaling<T>(scaleFactor);
+  const auto scaling = Operation<Op>::template scaling<T>(how);
   if (!scaling) return fillZero<T, Layout>(dst, dstStep, roi);
   using As = Seen<Op, T, Layout>;
+  bool bad = false;
   runFused(
       roi,
       [&](SourceRows a, SourceRows b, TargetRows d, Extent pixels) {
-        combineRows<Op, typename As::Sample, As::kAlpha>(a, b, d, pixels.times(As::kPixelSamples), *scaling);
+        bad = combineRows<Op, typename As::Sample, As::kAlpha>(a, b, d, pixels.times(As::kPixelSamples),
+                                                               *scaling);
       },
       pixelRows<Layout>(src1, src1Step), pixelRows<Layout>(src2, src2Step), pixelRows<Layout>(dst, dstStep));
-  return lumStatusOk;
+  return bad ? lumStatusDivideByZeroWarning : lumStatusOk;
 }
 
 // What is done to all channels alike is done to a row of samples: the width is checked and multiplied, as
 // unsigned numbers wrap, before anything else is looked at.
-template <typename Op, typename T, typename Layout>
+template <typename Op, typename T, typename Layout, typename How = int>
 static LumStatus combine(const T* src1, int src1Step, const T* src2, int src2Step, T* dst, int dstStep,
-                         LumiSize roi, int scaleFactor = 0) {
+                         LumiSize roi, How how = How()) {
   if constexpr (Layout::kUsed == Layout::kStored && Layout::kStored > 1) {
     if (LumStatus fault = check::width(roi)) return fault;
     roi.width = static_cast<int>(static_cast<unsigned>(roi.width) * Layout::kStored);
-    return combineImages<Op, T, C1>(src1, src1Step, src2, src2Step, dst, dstStep, roi, scaleFactor);
+    return combineImages<Op, T, C1>(src1, src1Step, src2, src2Step, dst, dstStep, roi, how);
   } else {
-    return combineImages<Op, T, Layout>(src1, src1Step, src2, src2Step, dst, dstStep, roi, scaleFactor);
+    return combineImages<Op, T, Layout>(src1, src1Step, src2, src2Step, dst, dstStep, roi, how);
   }
 }
 
 // In place.
-template <typename Op, typename T, typename Layout>
+template <typename Op, typename T, typename Layout, typename How = int>
 static LumStatus combine(const T* src, int srcStep, T* srcDst, int srcDstStep, LumiSize roi,
-                         int scaleFactor = 0) {
-  return combine<Op, T, Layout>(src, srcStep, srcDst, srcDstStep, srcDst, srcDstStep, roi, scaleFactor);
+                         How how = How()) {
+  return combine<Op, T, Layout>(src, srcStep, srcDst, srcDstStep, srcDst, srcDstStep, roi, how);
 }
 
 // What a constant comes to is looked at in single channels of integers.
@@ -119,21 +124,12 @@ inline bool streamsRows(int srcStep, const Lum16sc* dst, int dstStep, int height
   return aligned && (int64_t{srcStep} + dstStep) * height >= kStreamingFloor;
 }
 
-template <typename Op, typename T, typename Layout, typename Value>
-static LumStatus combineConstant(const T* src, int srcStep, Value value, T* dst, int dstStep, LumiSize roi,
-                                 int scaleFactor = 0) {
-  if (LumStatus fault = check::firstFault(check::pointers(value, src, dst),
-                                          Operation<Op>::template fault<T>(roi, srcStep, dstStep)))
-    return fault;
-  const auto scaling = Operation<Op>::template scaling<T>(scaleFactor);
-  if (!scaling) return fillZero<T, Layout>(dst, dstStep, roi);
-  if constexpr (kHasOutcome<T, Layout>) {
-    const Outcome outcome = Operation<Op>::outcome(value, scaleFactor);
-    if (outcome != Outcome::Combined) return settle<T, Layout>(outcome, src, srcStep, dst, dstStep, roi);
-  }
+// The rows themselves, after all checks and short cuts.
+template <typename Op, typename T, typename Layout>
+static void runConstant(const PixelPattern& constant, const T* src, int srcStep, T* dst, int dstStep,
+                        LumiSize roi, ChoiceOf<Op> choice) {
   using As = Seen<Op, T, Layout>;
   constexpr bool ofThree = Layout::kStored == 3;
-  const PixelPattern constant = patternOf<T, Layout>(value);
   bool streaming = false;
   if constexpr (kMayStream<T, Layout>)
     streaming = src != dst && streamsRows(srcStep, dst, dstStep, roi.height);
@@ -145,10 +141,26 @@ static LumStatus combineConstant(const T* src, int srcStep, Value value, T* dst,
         if constexpr (kMayStream<T, Layout>)
           if (streaming)
             return combineWithConstant<Op, Sample, As::kAlpha, ofThree, true>(constant, s, d, samples,
-                                                                              *scaling);
-        combineWithConstant<Op, Sample, As::kAlpha, ofThree>(constant, s, d, samples, *scaling);
+                                                                              choice);
+        combineWithConstant<Op, Sample, As::kAlpha, ofThree>(constant, s, d, samples, choice);
       },
       pixelRows<Layout>(src, srcStep), pixelRows<Layout>(dst, dstStep));
+}
+
+template <typename Op, typename T, typename Layout, typename Value>
+static LumStatus combineConstant(const T* src, int srcStep, Value value, T* dst, int dstStep, LumiSize roi,
+                                 int scaleFactor = 0) {
+  if (LumStatus fault =
+          check::firstFault(check::pointers(value, src, dst),
+                            Operation<Op>::template fault<T>(scaleFactor, roi, srcStep, dstStep)))
+    return fault;
+  const auto scaling = Operation<Op>::template scaling<T>(scaleFactor);
+  if (!scaling) return fillZero<T, Layout>(dst, dstStep, roi);
+  if constexpr (kHasOutcome<T, Layout>) {
+    const Outcome outcome = Operation<Op>::outcome(value, scaleFactor);
+    if (outcome != Outcome::Combined) return settle<T, Layout>(outcome, src, srcStep, dst, dstStep, roi);
+  }
+  runConstant<Op, T, Layout>(patternOf<T, Layout>(value), src, srcStep, dst, dstStep, roi, *scaling);
   return lumStatusOk;
 }
 

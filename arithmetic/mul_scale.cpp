@@ -10,7 +10,7 @@ namespace lumi {
 template <>
 struct Operation<MulScale> {
   template <typename T, typename... Step>
-  static LumStatus fault(LumiSize roi, Step... steps) {
+  static LumStatus fault(int, LumiSize roi, Step... steps) {
     return check::firstFault(check::steps(steps...), check::size(roi));
   }
   template <typename T>

@@ -5,8 +5,8 @@
 namespace lumi {
 
 #define LUMI_IMAGES(T, alpha)                                                                    \
-  template void combineRows<Add, T, alpha>(SourceRows, SourceRows, TargetRows, Extent, Scaling); \
-  template void combineRows<Sub, T, alpha>(SourceRows, SourceRows, TargetRows, Extent, Scaling);
+  template bool combineRows<Add, T, alpha>(SourceRows, SourceRows, TargetRows, Extent, Scaling); \
+  template bool combineRows<Sub, T, alpha>(SourceRows, SourceRows, TargetRows, Extent, Scaling);
 LUMI_IMAGES(uint8_t, 0)
 LUMI_IMAGES(uint16_t, 0)
 LUMI_IMAGES(int16_t, 0)

@@ -9,16 +9,24 @@
 
 namespace lumi {
 
+// What the function of an operation is chosen by: a scaling, unless the operation says otherwise.
+template <typename Op>
+struct Choice {
+  using Type = Scaling;
+};
+template <typename Op>
+using ChoiceOf = typename Choice<Op>::Type;
+
 // dst = a op b; where alpha is not 0, it is the number of samples at the end of every pixel (of four times as
 // many) that stay. What has no scale factor takes no scaling. dst may be a or b; where rows overlap
-// otherwise, their samples are made one by one in order.
+// otherwise, their samples are made one by one in order. Returns whether any sample was marked as bad.
 template <typename Op, typename T, int alpha>
-void combineRows(SourceRows a, SourceRows b, TargetRows dst, Extent samples, Scaling scaling);
+bool combineRows(SourceRows a, SourceRows b, TargetRows dst, Extent samples, ChoiceOf<Op> choice);
 
 // The same with a constant pixel as the first operand: of three samples, real or complex, or of a power of
 // two. A streaming kernel's stores bypass the cache.
 template <typename Op, typename T, int alpha, bool ofThree, bool streaming = false>
 void combineWithConstant(const PixelPattern& a, SourceRows b, TargetRows dst, Extent samples,
-                         Scaling scaling);
+                         ChoiceOf<Op> choice);
 
 }  // namespace lumi

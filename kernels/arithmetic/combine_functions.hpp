@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The row kernels that combine two operands, for any operation. An operation's functions on samples T are a
-// specialization of Functions, whose choose(scaling, run) calls run(f) with the one for a scaling.
+// specialization of Functions, whose choose(choice, run) calls run(f) with the one for a scaling or what else
+// the operation is chosen by.
 #pragma once
 
 #include "kernels/arithmetic/combine.hpp"
@@ -66,33 +67,54 @@ template <typename Saturated, typename Divided, typename Larger, typename Run>
   }
 }
 
+// Of functions that take the 32 bytes of a block at once, whatever the integers of the build.
+template <typename T, typename F, typename A, typename B>
+struct BinaryBlocks : Binary<T, F, A, B> {
+  using Base = Binary<T, F, A, B>;
+
+  [[gnu::always_inline]] auto block(size_t at, const typename Base::Phase& phase) const {
+    return bytesOf(
+        this->f(Samples32<T>{this->a.block(at, phase.a)}, Samples32<T>{this->b.block(at, phase.b)}));
+  }
+  BinaryBlocks onPieces(const Byte* const* pieces, size_t at) const { return {Base::onPieces(pieces, at)}; }
+};
+
+template <typename F, typename = void>
+inline constexpr bool kTakesBlocks = false;
+template <typename F>
+inline constexpr bool kTakesBlocks<F, std::void_t<typename F::TakesBlocks>> = true;
+
+inline bool anyBad(NoMarks) { return false; }
+inline bool anyBad(const Marks& marks) { return marks.any(); }
+
 template <typename T, int alpha, typename Store, typename F, typename A>
-[[gnu::always_inline]] inline void run(TargetRows dst, Extent samples, A a, SourceRows b, F f) {
+[[gnu::always_inline]] inline bool run(TargetRows dst, Extent samples, A a, SourceRows b, F f) {
+  using B = ImageRow<T, T>;
+  using Rule = std::conditional_t<kTakesBlocks<F>, BinaryBlocks<T, F, A, B>, Binary<T, F, A, B>>;
   constexpr size_t pixel = alpha ? 4 * alpha * sizeof(T) : sizeof(T);
-  const ImageRow<T, T> second(b);
-  runPixels<pixel, pixel - alpha * sizeof(T), Store>(dst, samples,
-                                                     Binary<T, F, A, ImageRow<T, T>>{a, second, f});
+  return anyBad(runPixels<pixel, pixel - alpha * sizeof(T), Store>(dst, samples, Rule{a, B(b), f}));
 }
 
 }  // namespace simd
 
 template <typename Op, typename T, int alpha>
-[[gnu::flatten]] void combineRows(SourceRows a, SourceRows b, TargetRows dst, Extent samples,
-                                  Scaling scaling) {
+[[gnu::flatten]] bool combineRows(SourceRows a, SourceRows b, TargetRows dst, Extent samples,
+                                  ChoiceOf<Op> choice) {
   using U = typename simd::Unit<T>::Type;
-  simd::Functions<Op, T>::choose(scaling, [&](auto f) {
-    simd::run<U, alpha, simd::Cached>(dst, samples, simd::ImageRow<U, U>(a), b, f);
+  bool bad = false;
+  simd::Functions<Op, T>::choose(choice, [&](auto f) {
+    bad = simd::run<U, alpha, simd::Cached>(dst, samples, simd::ImageRow<U, U>(a), b, f);
   });
+  return bad;
 }
 
 template <typename Op, typename T, int alpha, bool ofThree, bool streaming>
 [[gnu::flatten]] void combineWithConstant(const PixelPattern& a, SourceRows b, TargetRows dst, Extent samples,
-                                          Scaling scaling) {
+                                          ChoiceOf<Op> choice) {
   using Store = std::conditional_t<streaming, simd::Streaming, simd::Cached>;
   using U = typename simd::Unit<T>::Type;
-  simd::Functions<Op, T>::choose(scaling, [&](auto f) {
-    simd::run<U, alpha, Store>(dst, samples, simd::ConstantRow<ofThree>{a}, b, f);
-  });
+  simd::Functions<Op, T>::choose(
+      choice, [&](auto f) { simd::run<U, alpha, Store>(dst, samples, simd::ConstantRow<ofThree>{a}, b, f); });
 }
 
 }  // namespace lumi

@@ -5,8 +5,8 @@
 namespace lumi {
 
 #define LUMI_IMAGES(T)                                                                                \
-  template void combineRows<Mul, Complex<T>, 0>(SourceRows, SourceRows, TargetRows, Extent, Scaling); \
-  template void combineRows<Mul, Complex<T>, 1>(SourceRows, SourceRows, TargetRows, Extent, Scaling);
+  template bool combineRows<Mul, Complex<T>, 0>(SourceRows, SourceRows, TargetRows, Extent, Scaling); \
+  template bool combineRows<Mul, Complex<T>, 1>(SourceRows, SourceRows, TargetRows, Extent, Scaling);
 #define LUMI_CONSTANT(T, ...)                                                                      \
   template void combineWithConstant<Mul, Complex<T>, __VA_ARGS__>(const PixelPattern&, SourceRows, \
                                                                   TargetRows, Extent, Scaling);

@@ -46,8 +46,8 @@ struct Functions<MulScale, T> {
 }  // namespace simd
 
 #define LUMI_ALL(T)                                                                               \
-  template void combineRows<MulScale, T, 0>(SourceRows, SourceRows, TargetRows, Extent, Scaling); \
-  template void combineRows<MulScale, T, 1>(SourceRows, SourceRows, TargetRows, Extent, Scaling); \
+  template bool combineRows<MulScale, T, 0>(SourceRows, SourceRows, TargetRows, Extent, Scaling); \
+  template bool combineRows<MulScale, T, 1>(SourceRows, SourceRows, TargetRows, Extent, Scaling); \
   LUMI_CONSTANT(T, 0, false) LUMI_CONSTANT(T, 0, true) LUMI_CONSTANT(T, 1, false)
 #define LUMI_CONSTANT(T, ...)                                                                              \
   template void combineWithConstant<MulScale, T, __VA_ARGS__>(const PixelPattern&, SourceRows, TargetRows, \

@@ -140,7 +140,8 @@ void expectInOrder(Function* function, Formula formula, Scale... s) {
       Sample* const src = samples(image + begin);
       const auto* a = overlapsSecond ? samples(other) : src;
       const auto* b = overlapsSecond ? src : samples(other);
-      ASSERT_EQ(function(a, 1, b, 1, src + offset, 1, LumiSize{width, 1}, s...), lumStatusOk);
+      ASSERT_GE(function(a, 1, b, 1, src + offset, 1, LumiSize{width, 1}, s...),
+                lumStatusOk);  // or a warning
       ASSERT_EQ(std::memcmp(image, expected, sizeof image), 0)
           << "width " << width << ", destination " << offset << " samples on" << (0 + ... + s);
     }

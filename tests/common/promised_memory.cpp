@@ -126,8 +126,8 @@ void expectValuesToBeReadFirst(const Member& m) {
     if (m.inPlace) model.src[0] = model.dst[0];
     model.values = arena.twin(call.values);
     model.mask = mask.twin(call.mask);
-    ASSERT_EQ(m.run(call), lumStatusOk);
-    m.model(model);
+    const LumStatus status = m.run(call);
+    ASSERT_EQ(status, m.model(model));
     ASSERT_EQ(arena.firstDifference(arena.begin(), arena.end()), nullptr)
         << m.name << ", values at byte " << at;
   }
