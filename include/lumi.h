@@ -12,6 +12,7 @@
 #include "lumi/convert.h"
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"
+#include "lumi/div.h"
 #include "lumi/filter_border.h"
 #include "lumi/image_memory.h"
 #include "lumi/logic.h"

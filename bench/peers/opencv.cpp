@@ -102,6 +102,14 @@ Peer multiplyByConstant(View src, View dst, Value value) {
   return peer("opencv", [s = mat(src), d = mat(dst), v = scalar(value)] { cv::multiply(s, v, d); });
 }
 
+Peer divide(View divisor, View dividend, View dst) {
+  return peer("opencv", [x = mat(divisor), y = mat(dividend), d = mat(dst)] { cv::divide(y, x, d); });
+}
+
+Peer divideByConstant(View src, View dst, Value value) {
+  return peer("opencv", [s = mat(src), d = mat(dst), v = scalar(value)] { cv::divide(s, v, d); });
+}
+
 namespace {
 
 // Images, or an image and a constant.

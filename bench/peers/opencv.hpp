@@ -25,6 +25,9 @@ namespace bench::opencv {
 [[gnu::weak]] Peer addConstant(View src, View dst, Value value);
 [[gnu::weak]] Peer multiply(View a, View b, View dst);
 [[gnu::weak]] Peer multiplyByConstant(View src, View dst, Value value);
+// The second image by the first.
+[[gnu::weak]] Peer divide(View divisor, View dividend, View dst);
+[[gnu::weak]] Peer divideByConstant(View src, View dst, Value value);
 // Bit by bit.
 enum class Logic { conjunction, disjunction, exclusive };
 [[gnu::weak]] Peer logic(View a, View b, View dst, Logic operation);

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "panels.hpp"
+#include "pieces.hpp"
+
+namespace {
+
+// A picture of evenly lit paper: bright in the middle, darker towards the corners.
+Colour paper(LumiSize size) {
+  Colour field(size);
+  const int width = size.width, height = size.height;
+  for (int y = 0; y < height; ++y)
+    for (int x = 0; x < width; ++x) {
+      // Twice the distance to the middle, so that all numbers are whole.
+      const int64_t dx = 2 * x - (width - 1), dy = 2 * y - (height - 1);
+      const int64_t corner = int64_t{width} * width + int64_t{height} * height;
+      const auto light = static_cast<Lum8u>(255 - 159 * (dx * dx + dy * dy) / corner);
+      for (int c = 0; c < 3; ++c) field.at(x, y)[c] = light;
+    }
+  return field;
+}
+
+// What the lens darkened is made brighter. The scale factor -8 takes 256 for the full light.
+AnyImage flatField(const Colour& photo, Calls& calls) {
+  const Colour field = paper(photo.size());
+  Colour result(photo.size());
+  calls.time("lumiDiv_8u_C3RSfs", photo.size(), [&] {
+    return lumiDiv_8u_C3RSfs(field.data(), field.step(), photo.data(), photo.step(), result.data(),
+                             result.step(), photo.size(), -8);
+  });
+  return result;
+}
+
+// Cut to eight levels, and spread over the range again: the scale factor -8 takes 256 for all of it.
+AnyImage levels(const Colour& photo, Calls& calls) {
+  constexpr Lum8u width[] = {32, 32, 32}, last[] = {7, 7, 7};
+  Colour divisor(photo.size()), result(photo.size());
+  calls.time("lumiSet_8u_C3R", photo.size(),
+             [&] { return lumiSet_8u_C3R(width, divisor.data(), divisor.step(), photo.size()); });
+  calls.time("lumiDiv_Round_8u_C3RSfs", photo.size(), [&] {
+    return lumiDiv_Round_8u_C3RSfs(divisor.data(), divisor.step(), photo.data(), photo.step(), result.data(),
+                                   result.step(), photo.size(), lumRoundTowardZero, 0);
+  });
+  calls.time("lumiDivC_8u_C3IRSfs", photo.size(),
+             [&] { return lumiDivC_8u_C3IRSfs(last, result.data(), result.step(), photo.size(), -8); });
+  return result;
+}
+
+const Panels panels("arithmetic", "div",
+                    {
+                        {"flat-field", "Even light", flatField},
+                        {"levels", "Eight levels", levels},
+                    });
+
+}  // namespace
