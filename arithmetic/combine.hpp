@@ -5,6 +5,7 @@
 //   fault<T>(how, roi, steps...)  what is checked after the pointers; how is the scale factor, or what else
 //                                 tells how results are made
 //   scaling<T>(how)               the path, or what else functions are chosen by; none where all is zero
+//   kStreams                      whether rows that the frame streams for others are streamed
 //   Sample<T>                     what the kernels take a sample for: itself, or its real parts
 //   outcome(value, scaleFactor)   what a single constant integer makes of any image
 //
@@ -36,6 +37,7 @@ struct Operation;
 // samples; floats take none. Complex members alone check the steps.
 template <typename Limits>
 struct ScaledOperation {
+  static constexpr bool kStreams = true;
   template <typename T, typename... Step>
   static LumStatus fault(int, LumiSize roi, Step... steps) {
     return check::firstFault(check::size(roi), kComponents<T> == 1 ? lumStatusOk : check::steps(steps...));
@@ -116,8 +118,8 @@ static LumStatus settle(Outcome outcome, const T* src, int srcStep, T* dst, int 
 
 // Rows of three 16-bit complex samples bypass the cache where both images together span a mebibyte and are
 // not the same, and where samples begin on their boundaries; no fence follows.
-template <typename T, typename Layout>
-constexpr bool kMayStream = std::is_same_v<T, Lum16sc>&& std::is_same_v<Layout, C3>;
+template <typename Op, typename T, typename Layout>
+constexpr bool kMayStream = Operation<Op>::kStreams&& std::is_same_v<T, Lum16sc>&& std::is_same_v<Layout, C3>;
 
 inline bool streamsRows(int srcStep, const Lum16sc* dst, int dstStep, int height) {
   const bool aligned = ((reinterpret_cast<uintptr_t>(dst) | static_cast<uintptr_t>(dstStep)) & 3) == 0;
@@ -131,14 +133,14 @@ static void runConstant(const PixelPattern& constant, const T* src, int srcStep,
   using As = Seen<Op, T, Layout>;
   constexpr bool ofThree = Layout::kStored == 3;
   bool streaming = false;
-  if constexpr (kMayStream<T, Layout>)
+  if constexpr (kMayStream<Op, T, Layout>)
     streaming = src != dst && streamsRows(srcStep, dst, dstStep, roi.height);
   runFused(
       roi,
       [&](SourceRows s, TargetRows d, Extent pixels) {
         const Extent samples = pixels.times(As::kPixelSamples);
         using Sample = typename As::Sample;
-        if constexpr (kMayStream<T, Layout>)
+        if constexpr (kMayStream<Op, T, Layout>)
           if (streaming)
             return combineWithConstant<Op, Sample, As::kAlpha, ofThree, true>(constant, s, d, samples,
                                                                               choice);

@@ -8,8 +8,10 @@
 namespace lumi {
 namespace {
 
-// Quotients of integers are zero above the largest scale factor and leave the type below the least one,
-// whatever the samples. The next but one above has no quotient that is a tie: -32768 is one at 16.
+// Quotients of integers are zero above the largest scale factor, and leave the type below the least one,
+// whatever the samples: for 32-bit complex ones, of 2^-63 to 2^32 in size, no such limits are stated, and
+// these lie beyond what matters. A far exponent, which floats and doubles still hold, stands for all of
+// those.
 template <typename T>
 struct ScaleLimits;
 template <>
@@ -25,11 +27,22 @@ struct ScaleLimits<Lum16s> {
   static constexpr int kLeast = -30, kLargest = 15;
 };
 
+template <>
+struct ScaleLimits<Lum16sc> {
+  static constexpr int kLeast = -32, kLargest = 32;
+};
+template <>
+struct ScaleLimits<Lum32sc> {
+  static constexpr int kLeast = -100, kLargest = 100;
+};
+constexpr int kFarExponent = 100;
+
 template <typename T>
 Division divisionOf(int scaleFactor, Division::Mode mode = Division::NearestEven) {
   using Limits = ScaleLimits<T>;
-  const bool isBeyond = scaleFactor > Limits::kLargest;
-  return {-(isBeyond ? Limits::kLargest + 2 : std::max(scaleFactor, Limits::kLeast - 1)), mode};
+  if (scaleFactor > Limits::kLargest) return {-kFarExponent, mode};
+  if (scaleFactor < Limits::kLeast) return {kFarExponent, mode};
+  return {-scaleFactor, mode};
 }
 
 struct RoundedScale {
@@ -45,6 +58,7 @@ LumStatus modeFault(LumRoundMode mode) {
 
 template <>
 struct Operation<Div> {
+  static constexpr bool kStreams = false;
   template <typename T, typename... Step>
   static LumStatus fault(int, LumiSize roi, Step... steps) {
     return check::firstFault(check::size(roi), check::steps(steps...));
@@ -108,9 +122,13 @@ struct Constants {
 
 template <typename T>
 bool isZero(T x) {
-  return x == 0;
+  if constexpr (std::is_same_v<T, Lum32fc>)
+    return x.re * x.re + x.im * x.im == 0;
+  else if constexpr (kComponents<T> == 2)
+    return x.re == 0 && x.im == 0;
+  else
+    return x == 0;
 }
-bool isZero(Lum32fc x) { return x.re * x.re + x.im * x.im == 0; }
 
 // What a product with it divides by x.
 Lum32f reciprocal(Lum32f x) { return 1 / x; }
@@ -143,7 +161,8 @@ LumStatus divideByConstant(const T* src, int srcStep, Value value, T* dst, int d
   if constexpr (std::is_floating_point_v<Component<T>>) {
     return multiplyByReciprocals(constants, src, srcStep, dst, dstStep, roi);
   } else {
-    if (scaleFactor > ScaleLimits<T>::kLargest) return fillZero<T, Layout>(dst, dstStep, roi);
+    if (kComponents<T> == 1 && scaleFactor > ScaleLimits<T>::kLargest)
+      return fillZero<T, Layout>(dst, dstStep, roi);
     if constexpr (kHasOutcome<T, Layout>)
       if (value == 1 && scaleFactor == 0)
         return settle<T, Layout>(Outcome::Copied, src, srcStep, dst, dstStep, roi);

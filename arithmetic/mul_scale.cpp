@@ -9,6 +9,7 @@ namespace lumi {
 
 template <>
 struct Operation<MulScale> {
+  static constexpr bool kStreams = false;
   template <typename T, typename... Step>
   static LumStatus fault(int, LumiSize roi, Step... steps) {
     return check::firstFault(check::steps(steps...), check::size(roi));

@@ -23,6 +23,11 @@ extern "C" {
  * written. A quotient that is not by zero is 0 above the scale factor 8 for 8u, 16 for 16u, 15 for 16s, and
  * leaves the type, unless it is 0, below -15, -31 and -30.
  *
+ * Complex integers are divided as complex numbers, in doubles: each part of src2 times the conjugate of src1,
+ * divided by the square of the size of src1, scaled, rounded and limited. By 0 both parts are 0, with the
+ * warning. Those of 16 bits are 0 above the scale factor 32, and below -32 each part that is not 0 leaves the
+ * type.
+ *
  * Floats are divided by way of the processor's approximate reciprocal r of the divisor d: with e = 1 - d r and
  * q = n r the result is q + (q + q e) e, which may differ from the true quotient in its last bits, and does
  * not hold for divisors beyond 2^126 or below 2^-126 in size. By 0 it is infinite on the side of the dividend,
@@ -32,12 +37,12 @@ extern "C" {
  * The destination may be a source. Where it overlaps one otherwise, each row is done sample by sample in
  * order. Any alignment will do.
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u 16u 16s 32f 32fc: C1 AC4):
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u 16u 16s 16sc 32sc 32f 32fc: C1 AC4):
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
  *   lumStatusBadStep (-14)     a step is below 1
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u 16u 16s 32f: C3 C4; 32fc: C3):
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u 16u 16s 32f: C3 C4; 16sc 32sc 32fc: C3):
  *   lumStatusBadSize (-6)      roi.width is below 1
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
@@ -59,6 +64,18 @@ LumStatus lumiDiv_16s_C4IRSfs(const Lum16s* src, int srcStep, Lum16s* srcDst, in
                               int scaleFactor);
 LumStatus lumiDiv_16s_C4RSfs(const Lum16s* src1, int src1Step, const Lum16s* src2, int src2Step, Lum16s* dst,
                              int dstStep, LumiSize roi, int scaleFactor);
+LumStatus lumiDiv_16sc_AC4IRSfs(const Lum16sc* src, int srcStep, Lum16sc* srcDst, int srcDstStep,
+                                LumiSize roi, int scaleFactor);
+LumStatus lumiDiv_16sc_AC4RSfs(const Lum16sc* src1, int src1Step, const Lum16sc* src2, int src2Step,
+                               Lum16sc* dst, int dstStep, LumiSize roi, int scaleFactor);
+LumStatus lumiDiv_16sc_C1IRSfs(const Lum16sc* src, int srcStep, Lum16sc* srcDst, int srcDstStep, LumiSize roi,
+                               int scaleFactor);
+LumStatus lumiDiv_16sc_C1RSfs(const Lum16sc* src1, int src1Step, const Lum16sc* src2, int src2Step,
+                              Lum16sc* dst, int dstStep, LumiSize roi, int scaleFactor);
+LumStatus lumiDiv_16sc_C3IRSfs(const Lum16sc* src, int srcStep, Lum16sc* srcDst, int srcDstStep, LumiSize roi,
+                               int scaleFactor);
+LumStatus lumiDiv_16sc_C3RSfs(const Lum16sc* src1, int src1Step, const Lum16sc* src2, int src2Step,
+                              Lum16sc* dst, int dstStep, LumiSize roi, int scaleFactor);
 LumStatus lumiDiv_16u_AC4IRSfs(const Lum16u* src, int srcStep, Lum16u* srcDst, int srcDstStep, LumiSize roi,
                                int scaleFactor);
 LumStatus lumiDiv_16u_AC4RSfs(const Lum16u* src1, int src1Step, const Lum16u* src2, int src2Step, Lum16u* dst,
@@ -96,6 +113,18 @@ LumStatus lumiDiv_32fc_C1R(const Lum32fc* src1, int src1Step, const Lum32fc* src
 LumStatus lumiDiv_32fc_C3IR(const Lum32fc* src, int srcStep, Lum32fc* srcDst, int srcDstStep, LumiSize roi);
 LumStatus lumiDiv_32fc_C3R(const Lum32fc* src1, int src1Step, const Lum32fc* src2, int src2Step, Lum32fc* dst,
                            int dstStep, LumiSize roi);
+LumStatus lumiDiv_32sc_AC4IRSfs(const Lum32sc* src, int srcStep, Lum32sc* srcDst, int srcDstStep,
+                                LumiSize roi, int scaleFactor);
+LumStatus lumiDiv_32sc_AC4RSfs(const Lum32sc* src1, int src1Step, const Lum32sc* src2, int src2Step,
+                               Lum32sc* dst, int dstStep, LumiSize roi, int scaleFactor);
+LumStatus lumiDiv_32sc_C1IRSfs(const Lum32sc* src, int srcStep, Lum32sc* srcDst, int srcDstStep, LumiSize roi,
+                               int scaleFactor);
+LumStatus lumiDiv_32sc_C1RSfs(const Lum32sc* src1, int src1Step, const Lum32sc* src2, int src2Step,
+                              Lum32sc* dst, int dstStep, LumiSize roi, int scaleFactor);
+LumStatus lumiDiv_32sc_C3IRSfs(const Lum32sc* src, int srcStep, Lum32sc* srcDst, int srcDstStep, LumiSize roi,
+                               int scaleFactor);
+LumStatus lumiDiv_32sc_C3RSfs(const Lum32sc* src1, int src1Step, const Lum32sc* src2, int src2Step,
+                              Lum32sc* dst, int dstStep, LumiSize roi, int scaleFactor);
 LumStatus lumiDiv_8u_AC4IRSfs(const Lum8u* src, int srcStep, Lum8u* srcDst, int srcDstStep, LumiSize roi,
                               int scaleFactor);
 LumStatus lumiDiv_8u_AC4RSfs(const Lum8u* src1, int src1Step, const Lum8u* src2, int src2Step, Lum8u* dst,
@@ -211,7 +240,7 @@ LumStatus lumiDiv_Round_8u_C4RSfs(const Lum8u* src1, int src1Step, const Lum8u* 
  * Above the scale factor 8 for 8u, 16 for 16u, 15 for 16s every result is 0, and no source is read. 16u
  * members take any step, zero and negative ones included.
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u 16s 32f: C1 C3 C4 AC4; 32fc: C1 C3 AC4):
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u 16s 32f: C1 C3 C4 AC4; 16sc 32sc 32fc: C1 C3 AC4):
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
  *   lumStatusBadStep (-14)     a step is below 1
@@ -235,6 +264,18 @@ LumStatus lumiDivC_16s_C4IRSfs(const Lum16s value[4], Lum16s* srcDst, int srcDst
                                int scaleFactor);
 LumStatus lumiDivC_16s_C4RSfs(const Lum16s* src, int srcStep, const Lum16s value[4], Lum16s* dst, int dstStep,
                               LumiSize roi, int scaleFactor);
+LumStatus lumiDivC_16sc_AC4IRSfs(const Lum16sc value[3], Lum16sc* srcDst, int srcDstStep, LumiSize roi,
+                                 int scaleFactor);
+LumStatus lumiDivC_16sc_AC4RSfs(const Lum16sc* src, int srcStep, const Lum16sc value[3], Lum16sc* dst,
+                                int dstStep, LumiSize roi, int scaleFactor);
+LumStatus lumiDivC_16sc_C1IRSfs(Lum16sc value, Lum16sc* srcDst, int srcDstStep, LumiSize roi,
+                                int scaleFactor);
+LumStatus lumiDivC_16sc_C1RSfs(const Lum16sc* src, int srcStep, Lum16sc value, Lum16sc* dst, int dstStep,
+                               LumiSize roi, int scaleFactor);
+LumStatus lumiDivC_16sc_C3IRSfs(const Lum16sc value[3], Lum16sc* srcDst, int srcDstStep, LumiSize roi,
+                                int scaleFactor);
+LumStatus lumiDivC_16sc_C3RSfs(const Lum16sc* src, int srcStep, const Lum16sc value[3], Lum16sc* dst,
+                               int dstStep, LumiSize roi, int scaleFactor);
 LumStatus lumiDivC_16u_AC4IRSfs(const Lum16u value[3], Lum16u* srcDst, int srcDstStep, LumiSize roi,
                                 int scaleFactor);
 LumStatus lumiDivC_16u_AC4RSfs(const Lum16u* src, int srcStep, const Lum16u value[3], Lum16u* dst,
@@ -271,6 +312,18 @@ LumStatus lumiDivC_32fc_C1R(const Lum32fc* src, int srcStep, Lum32fc value, Lum3
 LumStatus lumiDivC_32fc_C3IR(const Lum32fc value[3], Lum32fc* srcDst, int srcDstStep, LumiSize roi);
 LumStatus lumiDivC_32fc_C3R(const Lum32fc* src, int srcStep, const Lum32fc value[3], Lum32fc* dst,
                             int dstStep, LumiSize roi);
+LumStatus lumiDivC_32sc_AC4IRSfs(const Lum32sc value[3], Lum32sc* srcDst, int srcDstStep, LumiSize roi,
+                                 int scaleFactor);
+LumStatus lumiDivC_32sc_AC4RSfs(const Lum32sc* src, int srcStep, const Lum32sc value[3], Lum32sc* dst,
+                                int dstStep, LumiSize roi, int scaleFactor);
+LumStatus lumiDivC_32sc_C1IRSfs(Lum32sc value, Lum32sc* srcDst, int srcDstStep, LumiSize roi,
+                                int scaleFactor);
+LumStatus lumiDivC_32sc_C1RSfs(const Lum32sc* src, int srcStep, Lum32sc value, Lum32sc* dst, int dstStep,
+                               LumiSize roi, int scaleFactor);
+LumStatus lumiDivC_32sc_C3IRSfs(const Lum32sc value[3], Lum32sc* srcDst, int srcDstStep, LumiSize roi,
+                                int scaleFactor);
+LumStatus lumiDivC_32sc_C3RSfs(const Lum32sc* src, int srcStep, const Lum32sc value[3], Lum32sc* dst,
+                               int dstStep, LumiSize roi, int scaleFactor);
 LumStatus lumiDivC_8u_AC4IRSfs(const Lum8u value[3], Lum8u* srcDst, int srcDstStep, LumiSize roi,
                                int scaleFactor);
 LumStatus lumiDivC_8u_AC4RSfs(const Lum8u* src, int srcStep, const Lum8u value[3], Lum8u* dst, int dstStep,

@@ -41,6 +41,7 @@ void describeImages(Member& m, bool hasMode) {
 template <typename T>
 void describeConstant(Member& m) {
   describeCombination<T>(m, [](T d, T n, int s) { return model::divideByConstant(d, n, s); });
+  m.mayStream = false;
   const auto divide = m.model;
   const int count = m.channels.moved;
   m.model = [=](const Call& c) -> LumStatus {
@@ -62,11 +63,11 @@ bool addAll() {
         operation,
         [=](Member& m, auto sample) {
           using T = decltype(sample);
-          if constexpr (std::is_floating_point_v<T>)
+          if constexpr (std::is_signed_v<T>)
             if (m.components == 2) return describe<model::Complex<T>>(m, operation);
-          describe<T>(m, operation);
+          if constexpr (!std::is_same_v<T, Lum32s>) describe<T>(m, operation);
         },
-        Types<Lum8u, Lum16u, Lum16s, Lum32f>()));
+        Types<Lum8u, Lum16u, Lum16s, Lum32s, Lum32f>()));
   return true;
 }
 const bool added = addAll();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Quotients of integers, in integers; of floats, with the processor's own reciprocal.
+// Quotients of integers, in integers; of complex ones, in doubles; of floats, with the processor's own
+// reciprocal.
 #pragma once
 
 #include <xmmintrin.h>
@@ -48,7 +49,10 @@ template <typename T>
 bool warns(T d) {
   return d == 0 && !(std::is_floating_point_v<T> && std::signbit(static_cast<float>(d)));
 }
-inline bool warns(Complex<float> d) { return d.re == 0 && d.im == 0; }
+template <typename T>
+bool warns(Complex<T> d) {
+  return d.re == 0 && d.im == 0;
+}
 
 inline float fromBits(uint32_t bits) {
   float x;
@@ -75,10 +79,31 @@ inline Complex<float> divide(Complex<float> d, Complex<float> n, int, Round = Ro
   return {static_cast<float>((nr * dr + ni * di) / norm), static_cast<float>((ni * dr - nr * di) / norm)};
 }
 
+// A part of a quotient, before it is scaled.
+template <typename T>
+T scaledPart(double q, int s) {
+  constexpr double low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
+  if (sizeof(T) == 2 && s > 32) return 0;
+  if (sizeof(T) == 2 && s < -32) return q == 0 ? T{0} : static_cast<T>(q < 0 ? low : high);
+  const double scaled = std::nearbyint(std::ldexp(q, -std::clamp(s, -900, 900)));
+  return static_cast<T>(std::clamp(scaled, low, high));
+}
+
+template <typename T>
+Complex<T> divide(Complex<T> d, Complex<T> n, int s, Round = Round::NearestEven) {
+  if (warns(d)) return {0, 0};
+  const double dr = d.re, di = d.im, nr = n.re, ni = n.im, norm = dr * dr + di * di;
+  return {scaledPart<T>((nr * dr + ni * di) / norm, s), scaledPart<T>((ni * dr - nr * di) / norm, s)};
+}
+
 // Constants; floats by a product with the reciprocal.
 template <typename T>
 bool isRefused(T d) {
   return d == 0;
+}
+template <typename T>
+bool isRefused(Complex<T> d) {
+  return warns(d);
 }
 inline bool isRefused(Complex<float> d) { return d.re * d.re + d.im * d.im == 0; }
 
