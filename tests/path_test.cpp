@@ -17,6 +17,7 @@
 #include "lumi/convert.h"
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"
+#include "lumi/div.h"
 #include "lumi/mul.h"
 #include "lumi/set.h"
 #include "lumi/shift.h"
@@ -65,6 +66,19 @@ TEST(Paths, ShiftsByNothingCopy) {
   };
   EXPECT_EQ(copies(0), 1);
   EXPECT_EQ(copies(1), 0);
+}
+
+TEST(Paths, DivisionsByOneCopy) {
+  constexpr int kWidth = 0x7000;
+  std::vector<Lum8u> src(kWidth), dst(kWidth);
+  const auto copies = [&](Lum8u value, int scaleFactor) {
+    return taken(Path::StringMove, [&] {
+      return lumiDivC_8u_C1RSfs(src.data(), kWidth, value, dst.data(), kWidth, {kWidth, 1}, scaleFactor);
+    });
+  };
+  EXPECT_EQ(copies(1, 0), 1);
+  EXPECT_EQ(copies(2, 0), 0);
+  EXPECT_EQ(copies(1, 1), 0);
 }
 
 TEST(Paths, LongFillsStoreStrings) {

@@ -85,8 +85,8 @@ T scaledPart(double q, int s) {
   constexpr double low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
   if (sizeof(T) == 2 && s > 32) return 0;
   if (sizeof(T) == 2 && s < -32) return q == 0 ? T{0} : static_cast<T>(q < 0 ? low : high);
-  const double scaled = std::nearbyint(std::ldexp(q, -std::clamp(s, -900, 900)));
-  return static_cast<T>(std::clamp(scaled, low, high));
+  const double scaled = std::clamp(std::ldexp(q, -std::clamp(s, -900, 900)), low, high);
+  return static_cast<T>(std::lrint(scaled));
 }
 
 template <typename T>
