@@ -17,14 +17,6 @@
 
 namespace lumi::simd {
 
-// 2^exponent, of doubles that are not denormal.
-inline double powerOfTwo(int exponent) {
-  const auto bits = static_cast<uint64_t>(1023 + exponent) << 52;
-  double x;
-  std::memcpy(&x, &bits, sizeof x);
-  return x;
-}
-
 // By the rounding control: to whole numbers, which stay floats, and to dwords.
 struct AsControlled {
   explicit AsControlled(Division) {}
@@ -92,7 +84,7 @@ struct ByteQuotients {
     // Three bytes are below 2^24, and exact.
     const V low = x0 + (x1 * broadcastFloat<V>(0x1p8F) + x2 * broadcastFloat<V>(0x1p16F));
     const V high = x3 * broadcastFloat<V>(0x1p24F) - broadcastFloat<V>(0x1p31F);
-    return bitsOf(rounded(low)) | (bitsOf(rounded(high)) ^ broadcastBits<V>(0x80000000));
+    return withBits(rounded(low)) | (withBits(rounded(high)) ^ broadcastBits<V>(0x80000000));
   }
 
   static Bytes16 zeros(Bytes16 x) { return isZero(x); }

@@ -41,7 +41,7 @@ double scaledExponential(int x, int s) {
   const double r = (x - n * high) - n * low;
   double sum = 0;
   for (double c : coefficients) sum = sum * r + c;
-  return sum * scaleOf(s - n);
+  return sum * powerOfTwo(n - s);
 }
 
 // e^0 to e^15.

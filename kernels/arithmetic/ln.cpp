@@ -102,7 +102,7 @@ struct LnOfFloats {
 struct LnOfBytes {
   Floats8 factor, upward = broadcastFloat<Floats8>(0.5F + 1.0F / (1 << 15));
   Constants constants{kTable};
-  explicit LnOfBytes(int s) : factor(broadcastFloat<Floats8>(static_cast<float>(scaleOf(s)))) {}
+  explicit LnOfBytes(int s) : factor(broadcastFloat<Floats8>(static_cast<float>(powerOfTwo(-s)))) {}
 
   S16 eight(const Byte* p) const {
     const Floats8 x = max(floatsOf8Bytes(p), broadcastFloat<Floats8>(1));
@@ -120,7 +120,7 @@ template <typename T>
 struct LnOfWords {
   Doubles4 factor;
   Constants constants{kTable};
-  explicit LnOfWords(int s) : factor(broadcastDouble(scaleOf(s))) {}
+  explicit LnOfWords(int s) : factor(broadcastDouble(powerOfTwo(-s))) {}
 
   S32 four(Floats4 k, Floats4 fraction) const {
     const auto c = [](double value) { return broadcastDouble(value); };

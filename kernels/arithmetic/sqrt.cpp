@@ -23,7 +23,7 @@ struct RootOfFloats {
 
 struct RootOfBytes {
   Floats8 factor;
-  explicit RootOfBytes(int s) : factor(broadcastFloat<Floats8>(static_cast<float>(scaleOf(s)))) {}
+  explicit RootOfBytes(int s) : factor(broadcastFloat<Floats8>(static_cast<float>(powerOfTwo(-s)))) {}
 
   S16 eight(const Byte* p) const {
     const Ints8 roots = roundedToEven(squareRoot(floatsOf8Bytes(p)) * factor);
@@ -51,7 +51,7 @@ Samples16<T> notNegative(Samples16<T> x) {
 template <typename T>
 struct RootOfWords {
   Floats8 factor;
-  explicit RootOfWords(int s) : factor(broadcastFloat<Floats8>(static_cast<float>(scaleOf(s)))) {}
+  explicit RootOfWords(int s) : factor(broadcastFloat<Floats8>(static_cast<float>(powerOfTwo(-s)))) {}
 
   auto half(const Byte* p) const {
     const Samples16<T> given{load16(p)}, x = notNegative(given);
@@ -64,7 +64,7 @@ struct RootOfWords {
 template <typename T>
 struct FineRootOfWords {
   Doubles4 factor;
-  explicit FineRootOfWords(int s) : factor(broadcastDouble(scaleOf(s))) {}
+  explicit FineRootOfWords(int s) : factor(broadcastDouble(powerOfTwo(-s))) {}
 
   S32 four(S32 x) const { return roundedToEven(squareRoot(doublesOf(x)) * factor); }
   auto half(const Byte* p) const {

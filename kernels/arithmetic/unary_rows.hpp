@@ -74,12 +74,4 @@ S32 lastDwords(Samples16<T> x) {
   return as<int32_t>(interleaveHigh(x, broadcast16<T>(0)));
 }
 
-// 2^-s; s is small enough for a normal number.
-inline double scaleOf(int s) {
-  const auto bits = static_cast<uint64_t>(1023 - s) << 52;
-  double result;
-  std::memcpy(&result, &bits, sizeof result);
-  return result;
-}
-
 }  // namespace lumi::simd

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Vector pieces of squares, roots, exponentials and logarithms.
+// Vector pieces of quotients, roots, exponentials and logarithms.
 #pragma once
 
 #include "kernels/simd/convert.hpp"
@@ -60,11 +60,12 @@ inline S32 roundedToEven(Doubles4 x) { return {_mm256_cvttpd_epi32(_mm256_round_
 inline Floats4 withBits(S32 bits) { return {_mm_castsi128_ps(bits.v)}; }
 inline Floats8 withBits(Ints8 bits) { return {asFloats(bits.v)}; }
 template <typename V>
-V broadcastBits(int32_t bits) {
+V broadcastBits(uint32_t bits) {
+  const auto word = static_cast<int>(bits);
   if constexpr (std::is_same_v<V, Floats8>)
-    return {_mm256_castsi256_ps(_mm256_set1_epi32(bits))};
+    return {_mm256_castsi256_ps(_mm256_set1_epi32(word))};
   else
-    return {_mm_castsi128_ps(_mm_set1_epi32(bits))};
+    return {_mm_castsi128_ps(_mm_set1_epi32(word))};
 }
 
 inline Floats4 highHalf(Floats8 a) { return {_mm256_extractf128_ps(a.v, 1)}; }
@@ -73,5 +74,13 @@ inline Doubles4 loadDoubles4(const double* p) { return {_mm256_loadu_pd(p)}; }
 inline Doubles4 doublesOf(S32 x) { return {_mm256_cvtepi32_pd(x.v)}; }
 inline Doubles4 doublesOf(Floats4 x) { return {_mm256_cvtps_pd(x.v)}; }
 inline Doubles4 min(Doubles4 a, Doubles4 b) { return {_mm256_min_pd(a.v, b.v)}; }
+
+// 2^exponent, of doubles that are not denormal.
+inline double powerOfTwo(int exponent) {
+  const auto bits = static_cast<uint64_t>(1023 + exponent) << 52;
+  double x;
+  std::memcpy(&x, &bits, sizeof x);
+  return x;
+}
 
 }  // namespace lumi::simd

@@ -1,21 +1,16 @@
 // SPDX-License-Identifier: MIT
-// True quotients of floats and doubles, approximate reciprocals, and whole numbers as floats.
+// Approximate reciprocals, pairs of doubles, and whole numbers as floats.
 #pragma once
 
+#include "kernels/simd/elementary.hpp"
 #include "kernels/simd/rounding.hpp"
-#include "kernels/simd/ties_to_even.hpp"
 
 namespace lumi::simd {
-
-inline Floats4 operator/(Floats4 a, Floats4 b) { return {_mm_div_ps(a.v, b.v)}; }
-inline Floats8 operator/(Floats8 a, Floats8 b) { return {_mm256_div_ps(a.v, b.v)}; }
-inline Doubles4 operator/(Doubles4 a, Doubles4 b) { return {_mm256_div_pd(a.v, b.v)}; }
 
 // The processor's own, to about twelve bits.
 inline Floats4 approximateReciprocal(Floats4 x) { return {_mm_rcp_ps(x.v)}; }
 inline Floats8 approximateReciprocal(Floats8 x) { return {_mm256_rcp_ps(x.v)}; }
 
-inline Doubles4 min(Doubles4 a, Doubles4 b) { return {_mm256_min_pd(a.v, b.v)}; }
 inline Doubles4 max(Doubles4 a, Doubles4 b) { return {_mm256_max_pd(a.v, b.v)}; }
 inline Doubles4 operator&(Doubles4 a, Doubles4 b) { return {_mm256_and_pd(a.v, b.v)}; }
 inline Doubles4 operator|(Doubles4 a, Doubles4 b) { return {_mm256_or_pd(a.v, b.v)}; }
@@ -25,17 +20,12 @@ inline Floats4 operator^(Floats4 a, Floats4 b) { return {_mm_xor_ps(a.v, b.v)}; 
 inline Floats8 isNumber(Floats8 x) { return {_mm256_cmp_ps(x.v, x.v, _CMP_ORD_Q)}; }
 inline Doubles4 isNumber(Doubles4 x) { return {_mm256_cmp_pd(x.v, x.v, _CMP_ORD_Q)}; }
 
-// Masks of equal numbers, and of unequal ones.
-inline Floats4 isEqual(Floats4 a, Floats4 b) { return {_mm_cmpeq_ps(a.v, b.v)}; }
-inline Floats8 isEqual(Floats8 a, Floats8 b) { return {_mm256_cmp_ps(a.v, b.v, _CMP_EQ_OQ)}; }
+// Masks of unequal numbers.
 inline Floats4 isBelowOrAbove(Floats4 a, Floats4 b) { return {_mm_cmp_ps(a.v, b.v, _CMP_NEQ_OQ)}; }
 inline Floats8 isBelowOrAbove(Floats8 a, Floats8 b) { return {_mm256_cmp_ps(a.v, b.v, _CMP_NEQ_OQ)}; }
 // Whether any sign is set.
 inline bool anySign(Floats4 x) { return _mm_movemask_ps(x.v) != 0; }
 inline bool anySign(Floats8 x) { return _mm256_movemask_ps(x.v) != 0; }
-// b without the bits of a.
-inline Floats4 andNot(Floats4 a, Floats4 b) { return {_mm_andnot_ps(a.v, b.v)}; }
-inline Floats8 andNot(Floats8 a, Floats8 b) { return {_mm256_andnot_ps(a.v, b.v)}; }
 
 // Of neighbours: the sums of those of a and those of b in turn; each in the other's place; the second one's
 // sign turned.
@@ -44,12 +34,6 @@ inline Doubles4 swappedPairs(Doubles4 x) { return {_mm256_permute_pd(x.v, 0b0101
 inline Doubles4 conjugate(Doubles4 x) { return {_mm256_xor_pd(x.v, _mm256_setr_pd(0.0, -0.0, 0.0, -0.0))}; }
 
 // yes where the mask's sign is set, else no.
-inline Floats4 ifThenElse(Floats4 mask, Floats4 yes, Floats4 no) {
-  return {_mm_blendv_ps(no.v, yes.v, mask.v)};
-}
-inline Floats8 ifThenElse(Floats8 mask, Floats8 yes, Floats8 no) {
-  return {_mm256_blendv_ps(no.v, yes.v, mask.v)};
-}
 inline Doubles4 ifThenElse(Doubles4 mask, Doubles4 yes, Doubles4 no) {
   return {_mm256_blendv_pd(no.v, yes.v, mask.v)};
 }
@@ -62,15 +46,6 @@ V broadcastReal(double x) {
   else
     return broadcastFloat<V>(static_cast<float>(x));
 }
-template <typename V>
-V broadcastBits(uint32_t bits) {
-  const int x = static_cast<int>(bits);
-  if constexpr (std::is_same_v<V, Floats8>)
-    return {_mm256_castsi256_ps(_mm256_set1_epi32(x))};
-  else
-    return {_mm_castsi128_ps(_mm_set1_epi32(x))};
-}
-
 // Whole numbers, which stay floats: by the rounding control, to nearest with ties to even, toward zero.
 inline constexpr int kAsControlled = _MM_FROUND_CUR_DIRECTION | _MM_FROUND_NO_EXC,
                      kTowardZero = _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC;
@@ -87,11 +62,7 @@ Doubles4 whole(Doubles4 x) {
   return {_mm256_round_pd(x.v, how)};
 }
 
-inline Doubles4 doublesOf(S32 x) { return {_mm256_cvtepi32_pd(x.v)}; }
-inline Doubles4 doublesOf(Floats4 x) { return {_mm256_cvtps_pd(x.v)}; }
 inline Floats4 floatsOf(Doubles4 x) { return {_mm256_cvtpd_ps(x.v)}; }
 inline S32 rounded(Doubles4 x) { return {_mm256_cvtpd_epi32(x.v)}; }
-inline Floats4 bitsOf(S32 x) { return {_mm_castsi128_ps(x.v)}; }
-inline Floats8 bitsOf(Ints8 x) { return {asFloats(x.v)}; }
 
 }  // namespace lumi::simd
