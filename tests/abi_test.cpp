@@ -15,6 +15,13 @@ namespace {
 constexpr int kRowBytes = 4096, kRows = 3;
 alignas(64) std::array<std::array<Lum8u, kRowBytes * kRows + 64>, 8> memory;
 
+// Samples that may divide, whatever their type.
+const std::array<Lum8u, 64> constants = [] {
+  std::array<Lum8u, 64> all{};
+  all.fill(0x41);
+  return all;
+}();
+
 // Arguments of a call that runs, on memory of its own for each pointer.
 std::vector<Slot> runningArguments(const ExportRow& row, int width) {
   std::vector<Slot> slots = baseSlots(row);
@@ -25,6 +32,8 @@ std::vector<Slot> runningArguments(const ExportRow& row, int width) {
     if (argument.kind == Kind::Planes) {
       slots[i].isPlanes = true;
       for (int p = 0; p < argument.count; ++p) slots[i].planes[p] = image();
+    } else if (argument.kind == Kind::Values) {
+      slots[i].setPointer(constants.data());
     } else if (argument.passing == Passing::Pointer) {
       slots[i].setPointer(image());
     } else if (argument.kind == Kind::Step) {

@@ -147,10 +147,13 @@ PackedCall::PackedCall(const ExportRow& row, const Slot* slots) : function(row.f
 }
 
 std::vector<Slot> baseSlots(const ExportRow& row) {
+  constexpr Value one{{1}};  // a constant may have to divide
   std::vector<Slot> slots(row.arguments.size());
-  for (size_t i = 0; i < slots.size(); ++i)
-    if (row.arguments[i].passing != Passing::Pointer)
-      slots[i].setValue(row.arguments[i].passing, row.arguments[i].base);
+  for (size_t i = 0; i < slots.size(); ++i) {
+    const Argument& argument = row.arguments[i];
+    if (argument.passing != Passing::Pointer)
+      slots[i].setValue(argument.passing, argument.kind == Kind::Value ? one : argument.base);
+  }
   return slots;
 }
 
