@@ -19,13 +19,14 @@ struct FloatQuotient {
     const V infinite = (n & broadcastFloat<V>(-0.0F)) | broadcastBits<V>(0x7F800000);
     const V byZero =
         ifThenElse(isBelowOrAbove(n, broadcastFloat<V>(0)), infinite, broadcastBits<V>(0x7FBFFFFF));
-    return ifThenElse(isZero, ifThenElse(d, d, byZero), q);
+    const V minusOne = broadcastFloat<V>(-1), isMinus = isEqual(d | broadcastFloat<V>(1), minusOne);
+    return ifThenElse(isZero, ifThenElse(isMinus, d, byZero), q);
   }
   template <typename V>
   Marked<V> operator()(V d, V n) const {
     const V zero = broadcastFloat<V>(0), one = broadcastFloat<V>(1);
     const V isZero = isEqual(d, zero);
-    const V divisor = ifThenElse(isZero, one, d);
+    const V divisor = d | (isZero & one);  // 0 becomes 1
     const V r = approximateReciprocal(divisor);
     const V e = one - divisor * r;
     const V q0 = n * r;

@@ -34,9 +34,6 @@ inline Doubles4 swappedPairs(Doubles4 x) { return {_mm256_permute_pd(x.v, 0b0101
 inline Doubles4 conjugate(Doubles4 x) { return {_mm256_xor_pd(x.v, _mm256_setr_pd(0.0, -0.0, 0.0, -0.0))}; }
 
 // yes where the mask's sign is set, else no.
-inline Doubles4 ifThenElse(Doubles4 mask, Doubles4 yes, Doubles4 no) {
-  return {_mm256_blendv_pd(no.v, yes.v, mask.v)};
-}
 
 // All lanes the same, of any of the vectors.
 template <typename V>
