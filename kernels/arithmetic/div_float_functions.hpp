@@ -16,7 +16,7 @@ struct FloatQuotient {
 
   // Out of the way: rare, and registers are few.
   template <typename V>
-  [[gnu::noinline, gnu::cold]] static V replaced(V d, V n, V isZero, V q) {
+  [[gnu::noinline, gnu::cold]] static V replaced(const V& d, const V& n, const V& isZero, const V& q) {
     const V infinite = (n & broadcastFloat<V>(-0.0F)) | broadcastBits<V>(0x7F800000);
     const V byZero =
         ifThenElse(isBelowOrAbove(n, broadcastFloat<V>(0)), infinite, broadcastBits<V>(0x7FBFFFFF));
