@@ -75,9 +75,6 @@ struct Operation<Div> {
 };
 
 template <>
-struct Operation<DivUnmarked> : Operation<Div> {};
-
-template <>
 struct Operation<DivRound> : Operation<Div> {
   template <typename T, typename... Step>
   static LumStatus fault(RoundedScale how, LumiSize roi, Step... steps) {
@@ -166,8 +163,8 @@ LumStatus divideByConstant(const T* src, int srcStep, Value value, T* dst, int d
     if constexpr (kHasOutcome<T, Layout>)
       if (value == 1 && scaleFactor == 0)
         return settle<T, Layout>(Outcome::Copied, src, srcStep, dst, dstStep, roi);
-    runConstant<DivUnmarked, T, Layout>(patternOf<T, Layout>(&constants.values[0]), src, srcStep, dst,
-                                        dstStep, roi, divisionOf<T>(scaleFactor));
+    runConstant<Div, T, Layout>(patternOf<T, Layout>(&constants.values[0]), src, srcStep, dst, dstStep, roi,
+                                divisionOf<T>(scaleFactor));
     return lumStatusOk;
   }
 }

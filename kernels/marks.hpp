@@ -49,6 +49,7 @@ struct NoMarks {
     return results;
   }
   static VectorBytes takeFirst(size_t, VectorBytes results) { return results; }
+  static constexpr bool any() { return false; }
 };
 
 class Marks {

@@ -70,6 +70,20 @@ LumiInterpolationType fitting(LumiInterpolationType wanted, LumiSize from) {
 
 }  // namespace
 
+Colour radialLight(LumiSize size, int loss) {
+  Colour light(size);
+  const int width = size.width, height = size.height;
+  for (int y = 0; y < height; ++y)
+    for (int x = 0; x < width; ++x) {
+      // Twice the distance to the middle, so that all numbers are whole.
+      const int64_t dx = 2 * x - (width - 1), dy = 2 * y - (height - 1);
+      const int64_t corner = int64_t{width} * width + int64_t{height} * height;
+      const auto left = static_cast<Lum8u>(255 - loss * (dx * dx + dy * dy) / corner);
+      for (int c = 0; c < 3; ++c) light.at(x, y)[c] = left;
+    }
+  return light;
+}
+
 Colour resizedInTiles(const Colour& from, LumiSize to, LumiSize tile, LumiInterpolationType interpolation,
                       Calls& calls) {
   const Resizer resizer(from.size(), to, fitting(interpolation, from.size()));

@@ -22,6 +22,9 @@ int shortSide(const Colour& photo);
 // A mask that chooses a disc in the middle.
 Grey middleDisc(const Colour& photo);
 
+// Light of 255 in the middle that gets weaker towards the corners, where it has lost that much.
+Colour radialLight(LumiSize size, int loss);
+
 // The green plane in all three channels.
 Colour greyed(const Colour& photo, Calls& calls);
 

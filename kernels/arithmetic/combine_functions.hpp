@@ -84,15 +84,12 @@ inline constexpr bool kTakesBlocks = false;
 template <typename F>
 inline constexpr bool kTakesBlocks<F, std::void_t<typename F::TakesBlocks>> = true;
 
-inline bool anyBad(NoMarks) { return false; }
-inline bool anyBad(const Marks& marks) { return marks.any(); }
-
 template <typename T, int alpha, typename Store, typename F, typename A>
 [[gnu::always_inline]] inline bool run(TargetRows dst, Extent samples, A a, SourceRows b, F f) {
   using B = ImageRow<T, T>;
   using Rule = std::conditional_t<kTakesBlocks<F>, BinaryBlocks<T, F, A, B>, Binary<T, F, A, B>>;
   constexpr size_t pixel = alpha ? 4 * alpha * sizeof(T) : sizeof(T);
-  return anyBad(runPixels<pixel, pixel - alpha * sizeof(T), Store>(dst, samples, Rule{a, B(b), f}));
+  return runPixels<pixel, pixel - alpha * sizeof(T), Store>(dst, samples, Rule{a, B(b), f}).any();
 }
 
 }  // namespace simd

@@ -11,8 +11,6 @@ namespace lumi {
 struct Div {};
 // The same, rounded as the division says.
 struct DivRound {};
-// The same as Div with nothing marked.
-struct DivUnmarked {};
 
 // The exact quotient times 2^exponent, and how it becomes an integer.
 struct Division {
@@ -27,10 +25,6 @@ struct Choice<Div> {
 };
 template <>
 struct Choice<DivRound> {
-  using Type = Division;
-};
-template <>
-struct Choice<DivUnmarked> {
   using Type = Division;
 };
 

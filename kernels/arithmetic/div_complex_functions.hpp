@@ -51,20 +51,9 @@ struct ComplexFunctions {
     run(InSixteens<Quotient>(how));
   }
 };
-template <typename Quotient>
-struct UnmarkedComplexFunctions {
-  template <typename Run>
-  [[gnu::always_inline]] static void choose(Division how, const Run& run) {
-    run(Unmarked<InSixteens<Quotient>>(how));
-  }
-};
 template <>
 struct Functions<Div, Complex<int16_t>> : ComplexFunctions<ComplexWordQuotient> {};
 template <>
 struct Functions<Div, Complex<int32_t>> : ComplexFunctions<ComplexDwordQuotient> {};
-template <>
-struct Functions<DivUnmarked, Complex<int16_t>> : UnmarkedComplexFunctions<ComplexWordQuotient> {};
-template <>
-struct Functions<DivUnmarked, Complex<int32_t>> : UnmarkedComplexFunctions<ComplexDwordQuotient> {};
 
 }  // namespace lumi::simd

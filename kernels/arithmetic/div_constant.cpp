@@ -4,9 +4,9 @@
 
 namespace lumi {
 
-#define LUMI_CONSTANT(T, ...)                                                                     \
-  template void combineWithConstant<DivUnmarked, T, __VA_ARGS__>(const PixelPattern&, SourceRows, \
-                                                                 TargetRows, Extent, Division);
+#define LUMI_CONSTANT(T, ...)                                                                         \
+  template void combineWithConstant<Div, T, __VA_ARGS__>(const PixelPattern&, SourceRows, TargetRows, \
+                                                         Extent, Division);
 #define LUMI_CONSTANTS(T) LUMI_CONSTANT(T, 0, false) LUMI_CONSTANT(T, 0, true) LUMI_CONSTANT(T, 1, false)
 LUMI_CONSTANTS(uint8_t)
 LUMI_CONSTANTS(uint16_t)

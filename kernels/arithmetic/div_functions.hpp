@@ -167,49 +167,28 @@ struct InSixteens {
   }
 };
 
-// The results alone: compilers drop what is not used.
-template <typename F>
-struct Unmarked : F {
-  using F::F;
-  template <typename V>
-  V operator()(V a, V b) const {
-    return F::operator()(a, b).results;
-  }
-};
-
-template <typename T, typename Rounding, template <typename> class As, typename Run>
+template <typename T, typename Rounding, typename Run>
 [[gnu::always_inline]] inline void chooseDivision(Division how, const Run& run) {
   if constexpr (sizeof(T) == 1)
-    return run(As<ByteQuotients<Rounding>>(how));
+    return run(ByteQuotients<Rounding>(how));
   else if (how.exponent <= 0)
-    return run(As<InSixteens<WordsByFloats<T, Rounding>>>(how));
+    return run(InSixteens<WordsByFloats<T, Rounding>>(how));
   else
-    return run(As<InSixteens<WordsByDoubles<T, Rounding>>>(how));
+    return run(InSixteens<WordsByDoubles<T, Rounding>>(how));
 }
-
-template <typename F>
-using WithMarks = F;
 
 template <typename T>
 struct Functions<Div, T> {
   template <typename Run>
   [[gnu::always_inline]] static void choose(Division how, const Run& run) {
-    chooseDivision<T, AsControlled, WithMarks>(how, run);
+    chooseDivision<T, AsControlled>(how, run);
   }
 };
 template <typename T>
 struct Functions<DivRound, T> {
   template <typename Run>
   [[gnu::always_inline]] static void choose(Division how, const Run& run) {
-    chooseDivision<T, ByMode, WithMarks>(how, run);
+    chooseDivision<T, ByMode>(how, run);
   }
 };
-template <typename T>
-struct Functions<DivUnmarked, T> {
-  template <typename Run>
-  [[gnu::always_inline]] static void choose(Division how, const Run& run) {
-    chooseDivision<T, AsControlled, Unmarked>(how, run);
-  }
-};
-
 }  // namespace lumi::simd

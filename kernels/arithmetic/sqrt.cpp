@@ -73,27 +73,23 @@ struct FineRootOfWords {
   }
 };
 
-// Whether there were marks.
-bool anyOf(const Marks& marks) { return marks.any(); }
-bool anyOf(NoMarks) { return false; }
-
 }  // namespace
 
 template <typename T, int alpha>
 [[gnu::flatten]] bool rootRows(SourceRows src, TargetRows dst, Extent samples,
                                [[maybe_unused]] int scaleFactor) {
   if constexpr (std::is_same_v<T, float>) {
-    return anyOf(runUnary<T, alpha>(src, dst, samples, OfFloats<RootOfFloats>()));
+    return runUnary<T, alpha>(src, dst, samples, OfFloats<RootOfFloats>()).any();
   } else {
     // From 9 on all results are zero, and from one bit more than the sample's down on all but that of zero
     // are limited: dwords hold a root of 8 bits, times 2^16.
     const int s = std::clamp(scaleFactor, -std::numeric_limits<T>::digits - 1, 9);
     if constexpr (sizeof(T) == 1)
-      return anyOf(runUnary<T, alpha>(src, dst, samples, OfHalves<RootOfBytes>(s)));
+      return runUnary<T, alpha>(src, dst, samples, OfHalves<RootOfBytes>(s)).any();
     else if (s >= -1)
-      return anyOf(runUnary<T, alpha>(src, dst, samples, OfHalves<RootOfWords<T>>(s)));
+      return runUnary<T, alpha>(src, dst, samples, OfHalves<RootOfWords<T>>(s)).any();
     else
-      return anyOf(runUnary<T, alpha>(src, dst, samples, OfHalves<FineRootOfWords<T>>(s)));
+      return runUnary<T, alpha>(src, dst, samples, OfHalves<FineRootOfWords<T>>(s)).any();
   }
 }
 

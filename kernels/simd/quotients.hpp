@@ -33,8 +33,6 @@ inline Doubles4 addPairs(Doubles4 a, Doubles4 b) { return {_mm256_hadd_pd(a.v, b
 inline Doubles4 swappedPairs(Doubles4 x) { return {_mm256_permute_pd(x.v, 0b0101)}; }
 inline Doubles4 conjugate(Doubles4 x) { return {_mm256_xor_pd(x.v, _mm256_setr_pd(0.0, -0.0, 0.0, -0.0))}; }
 
-// yes where the mask's sign is set, else no.
-
 // All lanes the same, of any of the vectors.
 template <typename V>
 V broadcastReal(double x) {
@@ -43,6 +41,7 @@ V broadcastReal(double x) {
   else
     return broadcastFloat<V>(static_cast<float>(x));
 }
+
 // Whole numbers, which stay floats: by the rounding control, to nearest with ties to even, toward zero.
 inline constexpr int kAsControlled = _MM_FROUND_CUR_DIRECTION | _MM_FROUND_NO_EXC,
                      kTowardZero = _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC;

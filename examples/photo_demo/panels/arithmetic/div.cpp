@@ -4,24 +4,10 @@
 
 namespace {
 
-// A picture of evenly lit paper: bright in the middle, darker towards the corners.
-Colour paper(LumiSize size) {
-  Colour field(size);
-  const int width = size.width, height = size.height;
-  for (int y = 0; y < height; ++y)
-    for (int x = 0; x < width; ++x) {
-      // Twice the distance to the middle, so that all numbers are whole.
-      const int64_t dx = 2 * x - (width - 1), dy = 2 * y - (height - 1);
-      const int64_t corner = int64_t{width} * width + int64_t{height} * height;
-      const auto light = static_cast<Lum8u>(255 - 159 * (dx * dx + dy * dy) / corner);
-      for (int c = 0; c < 3; ++c) field.at(x, y)[c] = light;
-    }
-  return field;
-}
-
-// What the lens darkened is made brighter. The scale factor -8 takes 256 for the full light.
+// A picture of evenly lit paper tells what the lens darkened, which is made brighter. The scale factor -8
+// takes 256 for the full light.
 AnyImage flatField(const Colour& photo, Calls& calls) {
-  const Colour field = paper(photo.size());
+  const Colour field = radialLight(photo.size(), 159);
   Colour result(photo.size());
   calls.time("lumiDiv_8u_C3RSfs", photo.size(), [&] {
     return lumiDiv_8u_C3RSfs(field.data(), field.step(), photo.data(), photo.step(), result.data(),
