@@ -201,4 +201,30 @@ void expectFilledUnread(Function* function, T value, int scaleFactor, T expected
     ASSERT_EQ(dst[i], i % 40 < 37 ? expected : T{7}) << i << " at " << scaleFactor;
 }
 
+// Every choice of four parts of complex samples, at all scale factors and those about the widest quotients.
+template <typename Sample, typename T, typename Function, typename Formula>
+void expectEdgesOfParts(Function* function, Formula formula, LumStatus status, const std::vector<T>& parts) {
+  using Complex = model::Complex<T>;
+  std::vector<Complex> a, b;
+  for (T ar : parts)
+    for (T ai : parts)
+      for (T br : parts)
+        for (T bi : parts) a.push_back({ar, ai}), b.push_back({br, bi});
+  std::vector<Complex> dst(a.size());
+  const auto samples = [](std::vector<Complex>& all) { return reinterpret_cast<Sample*>(all.data()); };
+  std::vector<int> scales = scaleFactors();
+  scales.insert(scales.end(), {-101, -100, -64, -63, 63, 64, 100, 101});
+  for (int s : scales) {
+    const LumiSize roi{static_cast<int>(a.size()), 1};
+    ASSERT_EQ(function(samples(a), 1, samples(b), 1, samples(dst), 1, roi, s), status);
+    for (size_t i = 0; i < a.size(); ++i) {
+      const Complex expected = formula(a[i], b[i], s);
+      ASSERT_TRUE(dst[i].re == expected.re && dst[i].im == expected.im)
+          << "(" << a[i].re << ", " << a[i].im << ") and (" << b[i].re << ", " << b[i].im << ") at " << s
+          << ": (" << dst[i].re << ", " << dst[i].im << ") for (" << expected.re << ", " << expected.im
+          << ")";
+    }
+  }
+}
+
 }  // namespace test

@@ -84,34 +84,12 @@ TEST(Mul, TiesOfWords) {
   expectTies<Lum16s>(lumiMul_16s_C1RSfs);
 }
 
-// Every choice of four parts.
-template <typename Sample, typename T, typename Function>
-void expectComplexEdges(Function* function, const std::vector<T>& parts) {
-  using Complex = model::Complex<T>;
-  std::vector<Complex> a, b;
-  for (T ar : parts)
-    for (T ai : parts)
-      for (T br : parts)
-        for (T bi : parts) a.push_back({ar, ai}), b.push_back({br, bi});
-  std::vector<Complex> dst(a.size());
-  const auto samples = [](std::vector<Complex>& all) { return reinterpret_cast<Sample*>(all.data()); };
-  for (int s : scaleFactors()) {
-    const LumiSize roi{static_cast<int>(a.size()), 1};
-    ASSERT_EQ(function(samples(a), 1, samples(b), 1, samples(dst), 1, roi, s), lumStatusOk);
-    for (size_t i = 0; i < a.size(); ++i) {
-      const Complex expected = multiplied<Complex>(a[i], b[i], s);
-      ASSERT_TRUE(dst[i].re == expected.re && dst[i].im == expected.im)
-          << "(" << a[i].re << ", " << a[i].im << ") (" << b[i].re << ", " << b[i].im << ") at " << s << ": ("
-          << dst[i].re << ", " << dst[i].im << ") for (" << expected.re << ", " << expected.im << ")";
-    }
-  }
-}
-
 TEST(Mul, EdgesOfComplexParts) {
-  expectComplexEdges<Lum16sc, Lum16s>(lumiMul_16sc_C1RSfs,
+  expectEdgesOfParts<Lum16sc, Lum16s>(lumiMul_16sc_C1RSfs, multiplied<Complex16>, lumStatusOk,
                                       {-32768, -32767, -256, -3, 0, 1, 181, 16384, 32767});
-  expectComplexEdges<Lum32sc, Lum32s>(lumiMul_32sc_C1RSfs, {INT32_MIN, -INT32_MAX, -(1 << 30), -65536, -3, -1,
-                                                            0, 1, 2, 46341, 1 << 30, INT32_MAX});
+  expectEdgesOfParts<Lum32sc, Lum32s>(
+      lumiMul_32sc_C1RSfs, multiplied<Complex32>, lumStatusOk,
+      {INT32_MIN, -INT32_MAX, -(1 << 30), -65536, -3, -1, 0, 1, 2, 46341, 1 << 30, INT32_MAX});
 }
 
 int product(Lum8u a, Lum8u b, int s) {

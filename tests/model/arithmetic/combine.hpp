@@ -27,6 +27,11 @@ T scaled(int64_t x, int s) {
   return static_cast<T>(std::clamp(x, low, high));
 }
 
+template <typename T>
+struct Complex {
+  T re, im;
+};
+
 // The samples of a pixel that are worked on; complex ones by components, where T is the type of one.
 template <typename T, typename Function>
 void combine(Image a, Image b, Image dst, LumiSize roi, Channels channels, int components, Function f) {

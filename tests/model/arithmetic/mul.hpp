@@ -16,11 +16,6 @@ T multiply(T a, T b, int s) {
 }
 
 template <typename T>
-struct Complex {
-  T re, im;
-};
-
-template <typename T>
 Complex<T> multiply(Complex<T> a, Complex<T> b, int s) {
   if constexpr (std::is_floating_point_v<T>) {
     return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re};
