@@ -31,6 +31,15 @@ inline Marked<Halves32> halves(const MarkedBytes<16>& low, const MarkedBytes<16>
 inline MarkedBytes<32> joined(const MarkedBytes<32>& v) { return v; }
 inline MarkedBytes<32> joined(const Marked<Halves32>& v) { return {joined(v.results), joined(v.marks)}; }
 
+template <typename T>
+Samples32<T> joined(Samples16<T> low, Samples16<T> high) {
+  return {joined(low.v, high.v)};
+}
+template <typename T>
+Marked<Samples32<T>> joined(const Marked<Samples16<T>>& low, const Marked<Samples16<T>>& high) {
+  return {joined(low.results, high.results), joined(low.marks, high.marks)};
+}
+
 // Where the mask keeps what was there before, nothing is marked.
 inline MarkedBytes<16> ifThenElse(Bytes16 mask, const MarkedBytes<16>& yes, Bytes16 no) {
   return {ifThenElse(mask, yes.results, no), bitAnd(mask, yes.marks)};

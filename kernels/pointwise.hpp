@@ -82,10 +82,12 @@ template <typename Store, typename Rule>
     if (bytes < kBlock) {
       for (int y = 0; y < rows; ++y, rule.advance(1)) {
         Byte* const d = dst.row(y);
-        const VectorBytes first = marks.take(rule.vector(0)),
-                          last = marks.take(rule.vector(bytes - kVectorBytes));
+        const VectorBytes first = marks.take(rule.vector(0));
+        if (bytes > kVectorBytes) {
+          const VectorBytes last = marks.take(rule.vector(bytes - kVectorBytes));
+          storeVector(d + bytes - kVectorBytes, last);
+        }
         storeVector(d, first);
-        storeVector(d + bytes - kVectorBytes, last);
       }
       return marks;
     }
@@ -192,11 +194,19 @@ inline constexpr bool kStoresBind = false;
 template <typename F>
 inline constexpr bool kStoresBind<F, std::enable_if_t<F::kStoresBind>> = true;
 
+// Whether a function takes the 32 bytes of a block at once in every build, as F::Block.
+template <typename F, typename = void>
+inline constexpr bool kTakesBlocks = false;
+template <typename F>
+inline constexpr bool kTakesBlocks<F, std::void_t<typename F::Block>> = true;
+
 // Applies f, which takes vectors of T samples, to 32 bytes of each operand. Floats go at once; integers go by
-// halves where the build has no wider ones.
+// halves where the build has no wider ones and f does not say otherwise.
 template <typename T, typename F, typename... Operand>
 [[gnu::always_inline]] inline auto applyToBlock(const F& f, Operand... operands) {
-  if constexpr (std::is_floating_point_v<T> || kVectorBytes == 32)
+  if constexpr (kTakesBlocks<F>)
+    return bytesOf(f(blockAs<typename F::Block>(operands)...));
+  else if constexpr (std::is_floating_point_v<T> || kVectorBytes == 32)
     return bytesOf(f(samplesOf<T>(operands)...));
   else if constexpr (kStoresBind<F>)
     return joined(halves(bytesOf(f(samplesOf<T>(lowHalf(operands))...)),
@@ -205,6 +215,25 @@ template <typename T, typename F, typename... Operand>
     return halves(bytesOf(f(samplesOf<T>(lowHalf(operands))...)),
                   bytesOf(f(samplesOf<T>(highHalf(operands))...)));
 }
+
+// A function of sixteen bytes, for vectors of any width.
+template <typename F>
+struct InSixteens {
+  F f;
+
+  InSixteens() = default;
+  template <typename... Argument>
+  explicit InSixteens(Argument... argument) : f(argument...) {}
+  template <typename T>
+  auto operator()(Samples16<T> a, Samples16<T> b) const {
+    return f(a, b);
+  }
+  template <typename T>
+  auto operator()(Samples32<T> a, Samples32<T> b) const {
+    return joined(f(Samples16<T>{lowHalf(a.v)}, Samples16<T>{lowHalf(b.v)}),
+                  f(Samples16<T>{highHalf(a.v)}, Samples16<T>{highHalf(b.v)}));
+  }
+};
 
 // d = f(a, b), samples of one type T.
 template <typename T, typename F, typename A, typename B>

@@ -67,29 +67,12 @@ template <typename Saturated, typename Divided, typename Larger, typename Run>
   }
 }
 
-// Of functions that take the 32 bytes of a block at once, whatever the integers of the build.
-template <typename T, typename F, typename A, typename B>
-struct BinaryBlocks : Binary<T, F, A, B> {
-  using Base = Binary<T, F, A, B>;
-
-  [[gnu::always_inline]] auto block(size_t at, const typename Base::Phase& phase) const {
-    return bytesOf(
-        this->f(Samples32<T>{this->a.block(at, phase.a)}, Samples32<T>{this->b.block(at, phase.b)}));
-  }
-  BinaryBlocks onPieces(const Byte* const* pieces, size_t at) const { return {Base::onPieces(pieces, at)}; }
-};
-
-template <typename F, typename = void>
-inline constexpr bool kTakesBlocks = false;
-template <typename F>
-inline constexpr bool kTakesBlocks<F, std::void_t<typename F::TakesBlocks>> = true;
-
 template <typename T, int alpha, typename Store, typename F, typename A>
 [[gnu::always_inline]] inline bool run(TargetRows dst, Extent samples, A a, SourceRows b, F f) {
   using B = ImageRow<T, T>;
-  using Rule = std::conditional_t<kTakesBlocks<F>, BinaryBlocks<T, F, A, B>, Binary<T, F, A, B>>;
   constexpr size_t pixel = alpha ? 4 * alpha * sizeof(T) : sizeof(T);
-  return runPixels<pixel, pixel - alpha * sizeof(T), Store>(dst, samples, Rule{a, B(b), f}).any();
+  return runPixels<pixel, pixel - alpha * sizeof(T), Store>(dst, samples, Binary<T, F, A, B>{a, B(b), f})
+      .any();
 }
 
 }  // namespace simd

@@ -10,6 +10,14 @@
 
 namespace lumi::simd {
 
+// Two complex numbers n / d: n times the conjugate of d, and the square of the size of d.
+struct ComplexFraction {
+  Doubles4 parts, norm;
+
+  ComplexFraction(Doubles4 d, Doubles4 n)
+      : parts(addPairs(n * d, swappedPairs(n) * conjugate(d))), norm(addPairs(d * d, d * d)) {}
+};
+
 // By zero both parts, which are no numbers, become 0.
 template <typename T>
 struct ComplexPartQuotients {

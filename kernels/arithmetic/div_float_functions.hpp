@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The functions of division of floats and of complex samples.
+// The functions of division of floats, real and complex.
 #pragma once
 
 #include "kernels/arithmetic/div.hpp"
@@ -14,57 +14,76 @@ namespace lumi::simd {
 struct FloatQuotient {
   explicit FloatQuotient(Division) {}
 
+  template <typename V>
+  static V quotient(V d, V n) {
+    const V r = approximateReciprocal(d);
+    const V e = broadcastFloat<V>(1) - d * r;
+    const V q = n * r;
+    return q + (q + q * e) * e;
+  }
   // Out of the way: rare, and registers are few.
   template <typename V>
-  [[gnu::noinline, gnu::cold]] static V replaced(const V& d, const V& n, const V& isZero, const V& q) {
+  [[gnu::noinline, gnu::cold]] static void divideWithZeros(const V& d, const V& n, Marked<V>* result) {
+    const V one = broadcastFloat<V>(1), isZero = isEqual(d, broadcastFloat<V>(0));
+    const V isMinus = isEqual(d | one, broadcastFloat<V>(-1));
     const V infinite = (n & broadcastFloat<V>(-0.0F)) | broadcastBits<V>(0x7F800000);
     const V byZero =
         ifThenElse(isBelowOrAbove(n, broadcastFloat<V>(0)), infinite, broadcastBits<V>(0x7FBFFFFF));
-    const V minusOne = broadcastFloat<V>(-1), isMinus = isEqual(d | broadcastFloat<V>(1), minusOne);
-    return ifThenElse(isZero, ifThenElse(isMinus, d, byZero), q);
+    const V q = quotient(d | (isZero & one), n);  // 0 becomes 1
+    result->results = ifThenElse(isZero, ifThenElse(isMinus, d, byZero), q);
+    result->marks = andNot(d, isZero) & broadcastFloat<V>(-0.0F);
   }
+  // The rare call takes copies: what it is given the address of would be stored for every vector.
   template <typename V>
   Marked<V> operator()(V d, V n) const {
-    const V zero = broadcastFloat<V>(0), one = broadcastFloat<V>(1);
-    const V isZero = isEqual(d, zero);
-    const V divisor = d | (isZero & one);  // 0 becomes 1
-    const V r = approximateReciprocal(divisor);
-    const V e = one - divisor * r;
-    const V q0 = n * r;
-    const V q = q0 + (q0 + q0 * e) * e;
-    if (__builtin_expect(!anySign(isZero), true)) return {q, zero};
-    return {replaced(d, n, isZero, q), andNot(d, isZero) & broadcastFloat<V>(-0.0F)};
+    if (__builtin_expect(!anySign(isEqual(d, broadcastFloat<V>(0))), true))
+      return {quotient(d, n), broadcastFloat<V>(0)};
+    const V divisor = d, dividend = n;
+    Marked<V> result;
+    divideWithZeros(divisor, dividend, &result);
+    return result;
   }
 };
 
-// Two complex numbers n / d: n times the conjugate of d, and the square of the size of d.
-struct ComplexFraction {
-  Doubles4 parts, norm;
-
-  ComplexFraction(Doubles4 d, Doubles4 n)
-      : parts(addPairs(n * d, swappedPairs(n) * conjugate(d))), norm(addPairs(d * d, d * d)) {}
-};
-
-// In doubles, whose squares of floats neither overflow nor vanish. By 0 both parts are no number.
+// In doubles, whose squares of floats neither overflow nor vanish, by the reciprocal of the norm: four
+// samples at once, their real and their imaginary parts apart. By 0 both parts are no number.
 struct ComplexFloatQuotient {
   explicit ComplexFloatQuotient(Division) {}
 
-  Marked<Doubles2> of(Doubles2 d, Doubles2 n) const {
-    const Floats4 floats = samplesOf<float>(bytesOf(d));
-    const ComplexFraction x(doublesOf(floats), doublesOf(samplesOf<float>(bytesOf(n))));
-    const Floats4 zeroPart = isEqual(floats, broadcastFloat<Floats4>(0));
-    const Floats4 isZero = zeroPart & samplesOf<float>(permuteDwords<1, 0, 3, 2>(bytesOf(zeroPart)));
-    const Floats4 q = ifThenElse(isZero, broadcastBits<Floats4>(0x7FC00000), floatsOf(x.parts / x.norm));
-    return {samplesOf<double>(bytesOf(q)), samplesOf<double>(bytesOf(isZero))};
+  struct Parts {
+    Doubles4 real, imaginary;
+
+    explicit Parts(Bytes32 samples)
+        : real(doublesOf(samplesOf<float>(evenPixels<4>(lowHalf(samples), highHalf(samples))))),
+          imaginary(doublesOf(samplesOf<float>(oddDwords(lowHalf(samples), highHalf(samples))))) {}
+  };
+  static Doubles4 joinedParts(Doubles4 real, Doubles4 imaginary) {
+    const Bytes16 re = bytesOf(floatsOf(real)), im = bytesOf(floatsOf(imaginary));
+    return samplesOf<double>(joined(interleaveLowDwords(re, im), interleaveHighDwords(re, im)));
   }
-  Marked<Doubles2> operator()(Doubles2 d, Doubles2 n) const { return of(d, n); }
-  Marked<Doubles4> operator()(Doubles4 d, Doubles4 n) const {
-    const auto half = [](Bytes16 x) { return samplesOf<double>(x); };
-    const Bytes32 x = bytesOf(d), y = bytesOf(n);
-    const Marked<Doubles2> low = of(half(lowHalf(x)), half(lowHalf(y))),
-                           high = of(half(highHalf(x)), half(highHalf(y)));
-    return {samplesOf<double>(joined(bytesOf(low.results), bytesOf(high.results))),
-            samplesOf<double>(joined(bytesOf(low.marks), bytesOf(high.marks)))};
+  // Out of the way: rare, and registers are few.
+  [[gnu::noinline, gnu::cold]] static void replace(const Doubles4& isZero, Marked<Doubles4>* q) {
+    const Doubles4 none = broadcastReal<Doubles4>(std::numeric_limits<double>::quiet_NaN());
+    q->marks = joinedParts(isZero, isZero);
+    q->results = ifThenElse(q->marks, joinedParts(none, none), q->results);
+  }
+  Marked<Doubles4> operator()(Doubles4 divisors, Doubles4 dividends) const {
+    const Parts d(bytesOf(divisors)), n(bytesOf(dividends));
+    const Doubles4 norm = d.real * d.real + d.imaginary * d.imaginary, zero = broadcastReal<Doubles4>(0);
+    const Doubles4 reciprocal = broadcastReal<Doubles4>(1) / norm, isZero = isEqual(norm, zero);
+    const Doubles4 q = joinedParts((n.real * d.real + n.imaginary * d.imaginary) * reciprocal,
+                                   (n.imaginary * d.real - n.real * d.imaginary) * reciprocal);
+    if (__builtin_expect(!anySign(isZero), true)) return {q, zero};
+    const Doubles4 which = isZero;
+    Marked<Doubles4> replaced{q, zero};
+    replace(which, &replaced);
+    return replaced;
+  }
+  Marked<Doubles2> operator()(Doubles2 d, Doubles2 n) const {
+    const auto twice = [](Doubles2 x) { return samplesOf<double>(joined(bytesOf(x), bytesOf(x))); };
+    const auto half = [](Doubles4 x) { return samplesOf<double>(lowHalf(bytesOf(x))); };
+    const Marked<Doubles4> q = (*this)(twice(d), twice(n));
+    return {half(q.results), half(q.marks)};
   }
 };
 

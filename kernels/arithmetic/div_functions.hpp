@@ -53,7 +53,7 @@ struct ByMode {
 // operands, so that quotients are the samples' own. No byte is moved.
 template <typename Rounding>
 struct ByteQuotients {
-  using TakesBlocks = void;
+  using Block = Samples32<uint8_t>;
   Rounding rounding;
   float factor;
 
@@ -146,24 +146,6 @@ struct WordsByDoubles : WordQuotients<T, Rounding> {
     const S32 low = this->dwords(doublesOf(wideD.low), doublesOf(wideN.low)),
               high = this->dwords(doublesOf(wideD.high), doublesOf(wideN.high));
     return {narrowSigned<T>(low, high), isEqual(d, broadcast16<T>(0))};
-  }
-};
-
-// A function of sixteen bytes, for vectors of any width.
-template <typename F>
-struct InSixteens {
-  F f;
-
-  explicit InSixteens(Division how) : f(how) {}
-  template <typename T>
-  auto operator()(Samples16<T> a, Samples16<T> b) const {
-    return f(a, b);
-  }
-  template <typename T>
-  Marked<Samples32<T>> operator()(Samples32<T> a, Samples32<T> b) const {
-    const auto low = f(Samples16<T>{lowHalf(a.v)}, Samples16<T>{lowHalf(b.v)}),
-               high = f(Samples16<T>{highHalf(a.v)}, Samples16<T>{highHalf(b.v)});
-    return {{joined(low.results.v, high.results.v)}, {joined(low.marks.v, high.marks.v)}};
   }
 };
 

@@ -9,21 +9,16 @@ using namespace simd;
 
 namespace {
 
-// Whole blocks at once, as float vectors combine bits in every build.
-template <typename Op, typename A>
-struct Bitwise : Binary<Byte, Op, A, ImageRow<Byte, Byte>> {
-  using Both = Binary<Byte, Op, A, ImageRow<Byte, Byte>>;
-
-  Bytes32 block(size_t at, const typename Both::Phase& phase) const {
-    return applyToBlock<float>(this->f, this->a.block(at, phase.a), this->b.block(at, phase.b));
-  }
-  Bitwise onPieces(const Byte* const* pieces, size_t at) const { return {Both::onPieces(pieces, at)}; }
+// Float vectors combine the bits of whole blocks in every build.
+template <typename Op>
+struct Bitwise : Op {
+  using Block = Floats8;
 };
 
 template <typename Op, size_t pixelBytes, size_t usedBytes, typename A>
 [[gnu::always_inline]] inline void run(A a, SourceRows b, TargetRows dst, Extent bytes) {
-  const ImageRow<Byte, Byte> second(b);
-  runPixels<pixelBytes, usedBytes>(dst, bytes, Bitwise<Op, A>{{a, second, Op()}});
+  using B = ImageRow<Byte, Byte>;
+  runPixels<pixelBytes, usedBytes>(dst, bytes, Binary<Byte, Bitwise<Op>, A, B>{a, B(b), {}});
 }
 
 }  // namespace

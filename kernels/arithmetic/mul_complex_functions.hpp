@@ -116,9 +116,9 @@ inline Bytes16 narrowedPairs(Quads real, Quads imaginary) {
 }
 
 struct ComplexDwordProduct {
-  Bytes16 operator()(Bytes16 a, Bytes16 b) const {
-    const ComplexDwords x(a, b);
-    return narrowedPairs(x.real, x.imaginary);
+  Samples16<int64_t> operator()(Samples16<int64_t> a, Samples16<int64_t> b) const {
+    const ComplexDwords x(a.v, b.v);
+    return {narrowedPairs(x.real, x.imaginary)};
   }
 };
 
@@ -135,32 +135,18 @@ struct DividedComplexDwords {
     const Quads rounded = (size + bias + ((size >> shift) & broadcastQuad(1))) >> shift;
     return (rounded ^ sign) - sign;
   }
-  Bytes16 operator()(Bytes16 a, Bytes16 b) const {
-    const ComplexDwords x(a, b);
-    return narrowedPairs(quotient(x.real), quotient(x.imaginary));
+  Samples16<int64_t> operator()(Samples16<int64_t> a, Samples16<int64_t> b) const {
+    const ComplexDwords x(a.v, b.v);
+    return {narrowedPairs(quotient(x.real), quotient(x.imaginary))};
   }
-};
-
-// A function of sixteen bytes, for vectors of any width.
-template <typename F>
-struct BySixteen {
-  F f;
-
-  BySixteen() = default;
-  explicit BySixteen(int bits) : f(bits) {}
-  Bytes16 of(Bytes16 a, Bytes16 b) const { return f(a, b); }
-  Bytes32 of(Bytes32 a, Bytes32 b) const {
-    return joined(f(lowHalf(a), lowHalf(b)), f(highHalf(a), highHalf(b)));
-  }
-  Samples<int64_t> operator()(Samples<int64_t> a, Samples<int64_t> b) const { return {of(a.v, b.v)}; }
 };
 
 template <>
 struct Functions<Mul, Complex<int32_t>> {
   template <typename Run>
   [[gnu::always_inline]] static void choose(Scaling scaling, const Run& run) {
-    using Product = BySixteen<ComplexDwordProduct>;
-    chooseByPath<Product, BySixteen<DividedComplexDwords>, Multiplied<Product, int32_t>>(scaling, run);
+    using Product = InSixteens<ComplexDwordProduct>;
+    chooseByPath<Product, InSixteens<DividedComplexDwords>, Multiplied<Product, int32_t>>(scaling, run);
   }
 };
 

@@ -204,6 +204,25 @@ inline Bytes16 blendDwords(Bytes16 a, Bytes16 b) {
 inline Bytes16 interleaveLowDwords(Bytes16 a, Bytes16 b) { return _mm_unpacklo_epi32(a, b); }
 inline Bytes16 interleaveHighDwords(Bytes16 a, Bytes16 b) { return _mm_unpackhi_epi32(a, b); }
 
+// The first, third and so on of the pixels of two vectors.
+template <size_t bytes>
+Bytes16 evenPixels(Bytes16 a, Bytes16 b) {
+  static_assert(bytes == 1 || bytes == 2 || bytes == 4);
+  if constexpr (bytes == 1) {
+    const Bytes16 low = _mm_set1_epi16(0xFF);
+    return _mm_packus_epi16(bitAnd(a, low), bitAnd(b, low));
+  } else if constexpr (bytes == 2) {
+    const Bytes16 low = _mm_set1_epi32(0xFFFF);
+    return _mm_packus_epi32(bitAnd(a, low), bitAnd(b, low));
+  } else {
+    return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(a), _mm_castsi128_ps(b), 0x88));
+  }
+}
+// The second, fourth and so on.
+inline Bytes16 oddDwords(Bytes16 a, Bytes16 b) {
+  return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(a), _mm_castsi128_ps(b), 0xDD));
+}
+
 // Half `a` of the first vector (0 low, 1 high), then half `b` of the second.
 template <int a, int b>
 inline Bytes16 shuffleHalves(Bytes16 first, Bytes16 second) {

@@ -90,5 +90,12 @@ auto samplesOf(Bytes32 v) {
   else
     return Samples32<T>{v};
 }
+template <typename Block>
+Block blockAs(Bytes32 v) {
+  if constexpr (std::is_same_v<Block, Floats8>)
+    return {asFloats(v)};
+  else
+    return {v};
+}
 
 }  // namespace lumi::simd

@@ -14,6 +14,7 @@ inline Floats8 approximateReciprocal(Floats8 x) { return {_mm256_rcp_ps(x.v)}; }
 inline Doubles4 max(Doubles4 a, Doubles4 b) { return {_mm256_max_pd(a.v, b.v)}; }
 inline Doubles4 operator&(Doubles4 a, Doubles4 b) { return {_mm256_and_pd(a.v, b.v)}; }
 inline Doubles4 operator|(Doubles4 a, Doubles4 b) { return {_mm256_or_pd(a.v, b.v)}; }
+inline Doubles4 andNot(Doubles4 a, Doubles4 b) { return {_mm256_andnot_pd(a.v, b.v)}; }
 inline Floats4 operator^(Floats4 a, Floats4 b) { return {_mm_xor_ps(a.v, b.v)}; }
 
 // A mask of what is a number.
@@ -23,9 +24,11 @@ inline Doubles4 isNumber(Doubles4 x) { return {_mm256_cmp_pd(x.v, x.v, _CMP_ORD_
 // Masks of unequal numbers.
 inline Floats4 isBelowOrAbove(Floats4 a, Floats4 b) { return {_mm_cmp_ps(a.v, b.v, _CMP_NEQ_OQ)}; }
 inline Floats8 isBelowOrAbove(Floats8 a, Floats8 b) { return {_mm256_cmp_ps(a.v, b.v, _CMP_NEQ_OQ)}; }
+inline Doubles4 isEqual(Doubles4 a, Doubles4 b) { return {_mm256_cmp_pd(a.v, b.v, _CMP_EQ_OQ)}; }
 // Whether any sign is set.
 inline bool anySign(Floats4 x) { return _mm_movemask_ps(x.v) != 0; }
 inline bool anySign(Floats8 x) { return _mm256_movemask_ps(x.v) != 0; }
+inline bool anySign(Doubles4 x) { return _mm256_movemask_pd(x.v) != 0; }
 
 // Of neighbours: the sums of those of a and those of b in turn; each in the other's place; the second one's
 // sign turned.

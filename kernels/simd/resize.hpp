@@ -26,24 +26,6 @@ inline Bytes16 pickNear(const Byte* p, const int32_t* index) {
       _mm_sub_epi32(load16(reinterpret_cast<const Byte*>(index)), _mm_set1_epi32(index[0]));
   return _mm_castps_si128(_mm_permutevar_ps(_mm_castsi128_ps(load16(p)), control));
 }
-// The first, third and so on of the pixels of two vectors.
-template <size_t bytes>
-Bytes16 evenPixels(Bytes16 a, Bytes16 b) {
-  static_assert(bytes == 1 || bytes == 2 || bytes == 4);
-  if constexpr (bytes == 1) {
-    const Bytes16 low = _mm_set1_epi16(0xFF);
-    return _mm_packus_epi16(bitAnd(a, low), bitAnd(b, low));
-  } else if constexpr (bytes == 2) {
-    const Bytes16 low = _mm_set1_epi32(0xFFFF);
-    return _mm_packus_epi32(bitAnd(a, low), bitAnd(b, low));
-  } else {
-    return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(a), _mm_castsi128_ps(b), 0x88));
-  }
-}
-// The second, fourth and so on.
-inline Bytes16 oddDwords(Bytes16 a, Bytes16 b) {
-  return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(a), _mm_castsi128_ps(b), 0xDD));
-}
 
 // Word i from p.
 template <int i>

@@ -75,8 +75,8 @@ inline float divide(float d, float n, int, Round = Round::NearestEven) {
 
 inline Complex<float> divide(Complex<float> d, Complex<float> n, int, Round = Round::NearestEven) {
   if (warns(d)) return {fromBits(0x7FC00000), fromBits(0x7FC00000)};
-  const double dr = d.re, di = d.im, nr = n.re, ni = n.im, norm = dr * dr + di * di;
-  return {static_cast<float>((nr * dr + ni * di) / norm), static_cast<float>((ni * dr - nr * di) / norm)};
+  const double dr = d.re, di = d.im, nr = n.re, ni = n.im, m = 1 / (dr * dr + di * di);
+  return {static_cast<float>((nr * dr + ni * di) * m), static_cast<float>((ni * dr - nr * di) * m)};
 }
 
 // A part of a quotient, before it is scaled.
