@@ -111,7 +111,7 @@ def machine():
 def measure(options):
     """Runs the programs; gives what --json saves."""
     words, libraries = {}, {}
-    for word, preset in (("32", "x86-bench"), ("64", "x64-bench")):
+    for word, preset in (("32", "x86-avx"), ("64", "x64-avx")):
         if options.word not in (word, "both"):
             continue
         start = time.monotonic()
@@ -124,7 +124,7 @@ def measure(options):
     if len(words) == 2:
         add_bar(words["32"], words["64"])
     if options.wide:
-        add_wide(words["64"], run("build/x64-v3-bench/bench/lumi_bench", options, False))
+        add_wide(words["64"], run("build/x64-v3/bench/lumi_bench", options, False))
     return {"date": datetime.date.today().isoformat(), "machine": machine(), "libraries": libraries, "rows": words}
 
 
