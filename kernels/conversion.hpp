@@ -37,9 +37,11 @@ template <typename S, typename D, typename Store, typename F, size_t... k>
       for (; next + round <= length; next += round)
         (Store::store(d + (next + k * block) * sizeof(D), results(next + k * block)), ...);
     }
-    for (size_t i = 0; i < length; i = i == 0 ? next : i + block) {
-      const size_t at = i + block <= length ? i : length - block;
+    const size_t last = length - block;
+    for (size_t at = 0;; next += block) {
       Cached::store(d + at * sizeof(D), results(at));
+      if (next >= length) break;
+      at = next < last ? next : last;
     }
   }
 }
