@@ -26,24 +26,8 @@ inline Doubles4 squareRoot(Doubles4 x) { return {_mm256_sqrt_pd(x.v)}; }
 inline Floats4 nearest(Floats4 x) { return {_mm_round_ps(x.v, kTiesToEven)}; }
 inline Floats8 nearest(Floats8 x) { return {_mm256_round_ps(x.v, kTiesToEven)}; }
 
-// Masks; false where either is not a number.
-inline Floats4 isBelow(Floats4 a, Floats4 b) { return {_mm_cmp_ps(a.v, b.v, _CMP_LT_OQ)}; }
-inline Floats8 isBelow(Floats8 a, Floats8 b) { return {_mm256_cmp_ps(a.v, b.v, _CMP_LT_OQ)}; }
-inline Floats4 isEqual(Floats4 a, Floats4 b) { return {_mm_cmp_ps(a.v, b.v, _CMP_EQ_OQ)}; }
-inline Floats8 isEqual(Floats8 a, Floats8 b) { return {_mm256_cmp_ps(a.v, b.v, _CMP_EQ_OQ)}; }
 inline bool allSet(Floats4 mask) { return _mm_movemask_ps(mask.v) == 0xF; }
 inline bool allSet(Floats8 mask) { return _mm256_movemask_ps(mask.v) == 0xFF; }
-
-// b without the bits of a.
-inline Floats4 andNot(Floats4 a, Floats4 b) { return {_mm_andnot_ps(a.v, b.v)}; }
-inline Floats8 andNot(Floats8 a, Floats8 b) { return {_mm256_andnot_ps(a.v, b.v)}; }
-
-// By lanes: yes where the mask is all ones, no where it is zero. Not by the instruction that looks at signs
-// alone: compilers take that apart into integers, which the level has no 32 bytes of.
-template <typename V>
-auto ifThenElse(V mask, V yes, V no) -> decltype(andNot(mask, no)) {
-  return (mask & yes) | andNot(mask, no);
-}
 
 // The bits that any of the dwords has.
 inline int bitsOfDwords(Bytes32 v) {

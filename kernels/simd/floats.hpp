@@ -51,6 +51,34 @@ inline Floats8 max(Floats8 a, Floats8 b) { return {_mm256_max_ps(a.v, b.v)}; }
 // Masks; false where either is not a number.
 inline Floats4 isAtLeast(Floats4 a, Floats4 b) { return {_mm_cmpge_ps(a.v, b.v)}; }
 inline Floats8 isAtLeast(Floats8 a, Floats8 b) { return {_mm256_cmp_ps(a.v, b.v, _CMP_GE_OS)}; }
+inline Floats4 isBelow(Floats4 a, Floats4 b) { return {_mm_cmp_ps(a.v, b.v, _CMP_LT_OQ)}; }
+inline Floats8 isBelow(Floats8 a, Floats8 b) { return {_mm256_cmp_ps(a.v, b.v, _CMP_LT_OQ)}; }
+template <typename V>
+auto isAbove(V a, V b) -> decltype(isBelow(b, a)) {
+  return isBelow(b, a);
+}
+inline Floats4 isEqual(Floats4 a, Floats4 b) { return {_mm_cmp_ps(a.v, b.v, _CMP_EQ_OQ)}; }
+inline Floats8 isEqual(Floats8 a, Floats8 b) { return {_mm256_cmp_ps(a.v, b.v, _CMP_EQ_OQ)}; }
+
+// b without the bits of a.
+inline Floats4 andNot(Floats4 a, Floats4 b) { return {_mm_andnot_ps(a.v, b.v)}; }
+inline Floats8 andNot(Floats8 a, Floats8 b) { return {_mm256_andnot_ps(a.v, b.v)}; }
+
+// By lanes: yes where the mask is all ones, no where it is zero. Not by the instruction that looks at signs
+// alone: compilers take that apart into integers, which the level has no 32 bytes of.
+template <typename V>
+auto ifThenElse(V mask, V yes, V no) -> decltype(andNot(mask, no)) {
+  return (mask & yes) | andNot(mask, no);
+}
+// The same by a comparison, which does not hold where either is not a number.
+template <typename V>
+auto ifAboveThenElse(V a, V b, V yes, V no) -> decltype(ifThenElse(isAbove(a, b), yes, no)) {
+  return ifThenElse(isAbove(a, b), yes, no);
+}
+template <typename V>
+auto ifAtLeastThenElse(V a, V b, V yes, V no) -> decltype(ifThenElse(isAtLeast(a, b), yes, no)) {
+  return ifThenElse(isAtLeast(a, b), yes, no);
+}
 
 template <typename V>
 V broadcastFloat(float x) {

@@ -213,8 +213,9 @@ inline S32 ifNegativeThenElse(S32 mask, S32 yes, S32 no) {
 // All ones where a is above b, both taken as signed.
 template <typename T>
 Samples16<T> isAboveSigned(Samples16<T> a, Samples16<T> b) {
-  static_assert(sizeof(T) == 2 || sizeof(T) == 4);
-  return {sizeof(T) == 2 ? _mm_cmpgt_epi16(a.v, b.v) : _mm_cmpgt_epi32(a.v, b.v)};
+  if constexpr (sizeof(T) == 1) return {_mm_cmpgt_epi8(a.v, b.v)};
+  if constexpr (sizeof(T) == 2) return {_mm_cmpgt_epi16(a.v, b.v)};
+  if constexpr (sizeof(T) == 4) return {_mm_cmpgt_epi32(a.v, b.v)};
 }
 
 // |x| as an unsigned number of the same size.
@@ -237,6 +238,28 @@ namespace lumi::simd {
 template <typename T, size_t bytes>
 SamplesOf<T, bytes> isAtLeast(SamplesOf<T, bytes> a, SamplesOf<T, bytes> b) {
   return isEqual(max(a, b), a);
+}
+template <typename T, size_t bytes>
+SamplesOf<T, bytes> isAbove(SamplesOf<T, bytes> a, SamplesOf<T, bytes> b) {
+  if constexpr (std::is_signed_v<T>)
+    return isAboveSigned(a, b);
+  else
+    return isAtLeast(b, a) ^ broadcastLike(a, std::numeric_limits<T>::max());
+}
+
+// A choice by a comparison, through whichever mask is had for less.
+template <typename T, size_t bytes>
+SamplesOf<T, bytes> ifAboveThenElse(SamplesOf<T, bytes> a, SamplesOf<T, bytes> b, SamplesOf<T, bytes> yes,
+                                    SamplesOf<T, bytes> no) {
+  if constexpr (std::is_signed_v<T>)
+    return ifThenElse(isAboveSigned(a, b), yes, no);
+  else
+    return ifThenElse(isAtLeast(b, a), no, yes);
+}
+template <typename T, size_t bytes>
+SamplesOf<T, bytes> ifAtLeastThenElse(SamplesOf<T, bytes> a, SamplesOf<T, bytes> b, SamplesOf<T, bytes> yes,
+                                      SamplesOf<T, bytes> no) {
+  return std::is_signed_v<T> ? ifAboveThenElse(b, a, no, yes) : ifThenElse(isAtLeast(a, b), yes, no);
 }
 
 // The limit on the side of a: 2^31 - 1 where it is not negative, -2^31 where it is.

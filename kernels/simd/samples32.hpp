@@ -182,8 +182,9 @@ inline Samples32<int32_t> ifNegativeThenElse(Samples32<int32_t> mask, Samples32<
 
 template <typename T>
 Samples32<T> isAboveSigned(Samples32<T> a, Samples32<T> b) {
-  static_assert(sizeof(T) == 2 || sizeof(T) == 4);
-  return {sizeof(T) == 2 ? _mm256_cmpgt_epi16(a.v, b.v) : _mm256_cmpgt_epi32(a.v, b.v)};
+  if constexpr (sizeof(T) == 1) return {_mm256_cmpgt_epi8(a.v, b.v)};
+  if constexpr (sizeof(T) == 2) return {_mm256_cmpgt_epi16(a.v, b.v)};
+  if constexpr (sizeof(T) == 4) return {_mm256_cmpgt_epi32(a.v, b.v)};
 }
 
 inline Samples32<uint16_t> magnitude(Samples32<int16_t> x) { return {_mm256_abs_epi16(x.v)}; }
