@@ -187,6 +187,80 @@ struct ConstantRow {
   ConstantRow onPieces(const Byte* const*, size_t at) const { return {pattern, start + at}; }
 };
 
+// Vectors side by side, as one operand of a function, and their bytes. Those of half a block stand for either
+// half.
+template <size_t n, typename V>
+struct Several {
+  V each[n];
+
+  const V& operator[](size_t i) const { return each[i]; }
+};
+template <size_t n, size_t bytes>
+struct SeveralBytes {
+  typename Register<bytes>::Type each[n];
+};
+template <size_t n>
+SeveralBytes<n, 16> lowHalf(const SeveralBytes<n, 16>& v) {
+  return v;
+}
+template <size_t n>
+SeveralBytes<n, 16> highHalf(const SeveralBytes<n, 16>& v) {
+  return v;
+}
+template <size_t n>
+SeveralBytes<n, 16> lowHalf(const SeveralBytes<n, 32>& v) {
+  SeveralBytes<n, 16> half;
+  for (size_t i = 0; i < n; ++i) half.each[i] = lowHalf(v.each[i]);
+  return half;
+}
+template <size_t n>
+SeveralBytes<n, 16> highHalf(const SeveralBytes<n, 32>& v) {
+  SeveralBytes<n, 16> half;
+  for (size_t i = 0; i < n; ++i) half.each[i] = highHalf(v.each[i]);
+  return half;
+}
+template <typename T, size_t n, size_t bytes>
+auto samplesOf(const SeveralBytes<n, bytes>& v) {
+  Several<n, decltype(samplesOf<T>(v.each[0]))> samples;
+  for (size_t i = 0; i < n; ++i) samples.each[i] = samplesOf<T>(v.each[i]);
+  return samples;
+}
+
+// Constant pixels of T samples, each over and over: functions take them as Several. Pixels of three samples,
+// or of up to sixteen bytes.
+template <typename T, size_t n, bool ofThree>
+struct ConstantRows {
+  const PixelPattern* patterns;
+  size_t start = 0;
+
+  static constexpr size_t kBlocks = ConstantRow<ofThree>::kBlocks;
+  static constexpr int kSources = 0;
+  // Half a block of pixels that divide it is the same as the other half, and takes fewer registers.
+  static constexpr bool kHalf = !ofThree && !std::is_floating_point_v<T>;
+  using Phase = SeveralBytes<n, kHalf ? kVectorBytes : kBlock>;
+
+  ConstantRow<ofThree> row(size_t i) const { return {patterns[i], start}; }
+  Phase phase(size_t at) const {
+    Phase phase;
+    for (size_t i = 0; i < n; ++i)
+      if constexpr (kHalf)
+        phase.each[i] = row(i).vector(at);
+      else
+        phase.each[i] = row(i).phase(at);
+    return phase;
+  }
+  Phase block(size_t, const Phase& phase) const { return phase; }
+  SeveralBytes<n, kVectorBytes> vector(size_t at) const {
+    SeveralBytes<n, kVectorBytes> vectors;
+    for (size_t i = 0; i < n; ++i) vectors.each[i] = row(i).vector(at);
+    return vectors;
+  }
+  void advance(int) {}
+  static bool isApart(TargetRows, size_t, int) { return true; }
+  void describe(PieceSource*) const {}
+  ConstantRows onPieces(const Byte* const*, size_t at) const { return {patterns, start + at}; }
+};
+
 // Whether a function is so little work that the stores bound it: F::kStoresBind. A store of half a block
 // takes as long as one of it, but to join halves takes a shuffle, which dearer functions have no room for.
 template <typename F, typename = void>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The loop of pointwise rows: vectors of doubles, and marks of bad samples.
+// The loop of pointwise rows: vectors of doubles, marks of bad samples, and several constants.
 #include "kernels/pointwise.hpp"
 
 #include <gtest/gtest.h>
@@ -105,6 +105,49 @@ TEST(PointwiseMarks, SamplesMadeInOrder) {
     expectMarks<8>(pixels, 3, -5);
     expectMarks<8>(pixels, 3, -16);
   }
+}
+
+// Each sample times the first constant of its channel, and the second one added.
+struct TimesAndPlus {
+  template <typename V>
+  V operator()(V a, const Several<2, V>& c) const {
+    return a * c[0] + c[1];
+  }
+};
+
+template <typename T, int channels>
+void expectConstants(size_t pixels, size_t gap, ptrdiff_t distance) {
+  constexpr bool ofThree = channels == 3;
+  const T factors[] = {2, 3, -5, 7}, sums[] = {100, -200, 300, -400};
+  const PixelPattern patterns[] = {makePattern<sizeof(T) * channels>(factors),
+                                   makePattern<sizeof(T) * channels>(sums)};
+  const size_t length = pixels * channels, step = length + gap;
+  std::vector<T> image(2 * step + 8), expected;
+  for (size_t i = 0; i < image.size(); ++i) image[i] = static_cast<T>(i % 50);
+  expected = image;
+  for (size_t y = 0; y < 2; ++y)
+    for (size_t i = 0; i < length; ++i)
+      expected[y * step + i + static_cast<size_t>(distance)] =
+          static_cast<T>(expected[y * step + i] * factors[i % channels] + sums[i % channels]);
+  auto* const src = reinterpret_cast<uint8_t*>(image.data());
+  const auto byteStep = static_cast<ptrdiff_t>(step * sizeof(T));
+  using Constants = ConstantRows<T, 2, ofThree>;
+  runRows({src + distance * static_cast<ptrdiff_t>(sizeof(T)), byteStep}, {length, 2},
+          Binary<T, TimesAndPlus, ImageRow<T, T>, Constants>{
+              ImageRow<T, T>({src, byteStep}), Constants{patterns}, {}});
+  ASSERT_EQ(image, expected) << pixels << " pixels of " << channels << ", gap " << gap << ", to " << distance;
+}
+
+TEST(PointwiseConstants, EachChannelHasItsOwn) {
+  for (size_t pixels = 1; pixels <= 70; ++pixels)
+    for (size_t gap : {8U, 9U})
+      for (ptrdiff_t distance : {0, 1, 8}) {
+        expectConstants<int16_t, 1>(pixels, gap, distance);
+        expectConstants<int16_t, 3>(pixels, gap, distance);
+        expectConstants<int16_t, 4>(pixels, gap, distance);
+        expectConstants<float, 3>(pixels, gap, distance % 2);
+        expectConstants<float, 4>(pixels, gap, 0);
+      }
 }
 
 }  // namespace
