@@ -57,6 +57,9 @@ def _check_text(word, export):
         code = f"lumStatus{status} ({reader.statuses()[status]})"
         return f"{code:<26} {'; '.join(abouts) or name + ' is refused'}"
     text = CHECK_TEXT[word]
+    if word == "value":
+        names = [a.name for a in export.args if a.kind == "values"] or ["value"]
+        text = text.replace("value", " or ".join(names))
     if word == "null" and "value" in export.check:
         text = text.replace("a pointer is null, plane pointers included", "an image's pointer is null")
     if word == "size" and any(a.kind == "size" and a.name != "roi" for a in export.args):

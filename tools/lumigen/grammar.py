@@ -164,11 +164,11 @@ def _channels(layout):
     return count
 
 
-def _value(sample, layout):
-    count = _channels(layout)
+def _values(name, sample, count, refused=()):
+    """A constant: one sample by value, or several by pointer."""
     if count == 1:
-        return [Arg("value", "value", f"{sample} value")]
-    return [Arg("values", "value", f"const {sample} value[{count}]", count)]
+        return Arg("value", name, f"{sample} {name}", refused=refused)
+    return Arg("values", name, f"const {sample} {name}[{count}]", count, refused=refused)
 
 
 _BASES = {"LumiSize": ("7", "3"), "LumiRect": ("0", "0", "7", "3")}
@@ -178,6 +178,8 @@ def _param(param, ctype, descriptor):
     decl = f"{ctype} {param.name}"
     if param.each:
         count = _channels(descriptor.layouts[0] if descriptor and descriptor.layouts else "")
+        if "*" not in ctype:
+            return _values(param.name, ctype, count, tuple(param.refused))
         decl = decl if count == 1 else f"{ctype.removesuffix('*')} {param.name}[{count}]"
         return Arg("results", param.name, decl, count)
     if param.length:
@@ -205,7 +207,7 @@ def _grammar_args(role, types, descriptor):
     if role == "mask":
         return _image("mask", "8u", "C1", False) if descriptor.masked else []
     if role == "value":
-        return _value(SAMPLE_TYPES[types[0]], source_layout)
+        return [_values("value", SAMPLE_TYPES[types[0]], _channels(source_layout))]
     if role == "bounds":
         return [Arg("lower", "lower", "Lum32f lower"), Arg("upper", "upper", "Lum32f upper")]
     return [Arg("number", "scaleFactor", "int scaleFactor")] if descriptor.scaled else []

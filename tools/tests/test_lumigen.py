@@ -145,6 +145,20 @@ class Rows(unittest.TestCase):
         self.assertEqual([args[n].passing for n in ("sum", "count", "at", "part")], ["pointer", "int32", "pair", "rect"])
         self.assertIn("Lum64f* sum", emit.prototype(exports(text)["lumiProbe_16u_C1R"]))
 
+    def test_constants_of_any_name(self):
+        text = HEAD + ("  param low {T} each refuses 2 by BadThresholdOrder : lower bound\n  param high {T} each : upper bound\n"
+                       "  args src roi low high\n  16s C1R check null size low bind probe\n"
+                       "  16s {C3 AC4}R check null size value low bind probe\n")
+        one, three = (exports(text)[f"lumiProbe_16s_{layout}R"].args[-2:] for layout in ("C1", "AC4"))
+        self.assertEqual([(a.decl, a.kind) for a in one], [("Lum16s low", "value"), ("Lum16s high", "value")])
+        self.assertEqual([(a.decl, a.kind, a.count) for a in three],
+                         [("const Lum16s low[3]", "values", 3), ("const Lum16s high[3]", "values", 3)])
+        family = read(text)
+        self.assertIn("(-8)  low or high is null", emit.family_header(family))
+        table = test_rows.export_table([family])
+        self.assertRegex(table, r'Kind::Value, Passing::Int32, "low", 0, \{\{0\}\}, nullptr, \{kRefused \+ 0, 1\}')
+        self.assertRegex(table, r'Kind::Values, Passing::Pointer, "low", 3, \{\{0\}\}, nullptr, \{\}')
+
     def test_names_of_all_homes(self):
         text = HEAD.replace("op Probe", "op Probe_L1") + ("  args src dst\n  16uc16u 8u24u C1R bind a\n  64s P2C1R bind b\n"
                                                           "  8u C1AP4R bind c\n")
