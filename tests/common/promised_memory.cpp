@@ -100,7 +100,7 @@ void expectNoReadsBehindTheMask(const Member& m) {
   expectNoReadsBehindTheLastPixel(m);
 }
 
-bool takesValuesByPointer(const Member& m) { return m.values > 1 && !m.floatResults; }
+bool takesValuesByPointer(const Member& m) { return m.valuesByPointer && !m.floatResults; }
 
 void expectValuesToBeReadFirst(const Member& m) {
   const CoreGuard guard;
@@ -121,6 +121,8 @@ void expectValuesToBeReadFirst(const Member& m) {
     call.values = call.dst[0] + at;
     call.mask = mask.begin();
     call.maskStep = width;
+    for (const Member::Choice& choice : m.choices)
+      call.chosen.push_back({choice.name, random.pick(choice.values)});
     Call model = call;
     model.dst[0] = arena.twin(call.dst[0]);
     if (m.inPlace) model.src[0] = model.dst[0];

@@ -16,7 +16,6 @@
 namespace test {
 namespace {
 
-constexpr int64_t kFloor = 1 << 20;  // no call that moves less asks for the cache's size
 constexpr size_t kLargestImage = 8 << 20;
 
 // Bytes read and written for each pixel; a fill only writes.
@@ -110,8 +109,8 @@ void expectModelOfLargeImages(const Member& m) {
   const auto rows = [&, first = random.below(4)](int i) { return kRows[(first + i) % 4]; };
 
   testcore::setCacheSize(1);
-  const Case small = largeCase(m, kFloor, rows(0), 0);
-  ASSERT_LE(int64_t{small.roi.width} * small.roi.height * bytesMoved(m), kFloor);
+  const Case small = largeCase(m, m.asksFrom, rows(0), 0);
+  ASSERT_LE(int64_t{small.roi.width} * small.roi.height * bytesMoved(m), m.asksFrom);
   ASSERT_NO_FATAL_FAILURE(expectEqualToModel(m, small, "none expected"));
   EXPECT_EQ(testcore::counts().cacheQueries, 0) << describe(m, small);
 
@@ -120,7 +119,7 @@ void expectModelOfLargeImages(const Member& m) {
     ASSERT_NO_FATAL_FAILURE(
         expectEqualToModel(m, largeCase(m, m.streamsFrom + 65536, rows(i), kOneRow + i), "1 byte"));
 
-  constexpr int64_t sizes[] = {kFloor + 64, kFloor + 4096, 2 * kFloor - 1, 2 * kFloor};
+  const int64_t sizes[] = {m.asksFrom + 64, m.asksFrom + 4096, 2 * m.asksFrom - 1, 2 * m.asksFrom};
   for (int i = 0; i < settings().scaled(2); ++i) {
     const CacheReport report = random.pick(kReports);
     report.apply();

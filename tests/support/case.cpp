@@ -149,7 +149,7 @@ Case makeCase(const Member& member, uint64_t seed, int index) {
   c.src2 = anyPlacement(random, random.below(64));
   c.maskKind = random.pick(kMaskKinds);
   c.inputs = random.pick(member.contents);
-  c.valuesInDst = member.values > 1 && !member.floatResults && random.oneIn(8);
+  c.valuesInDst = member.valuesByPointer && !member.floatResults && random.oneIn(8);
   c.valuesPhase = random.oneIn(2) ? 0 : random.below(64);
 
   if (member.aliasing != Aliasing::None && random.oneIn(8)) {
@@ -188,7 +188,7 @@ std::string describe(const Member& member, const Case& c) {
     for (const double number : c.chosen[i].numbers) out << " " << number;
   }
   out << ", contents " << static_cast<int>(c.inputs);
-  if (member.values > 1) {
+  if (member.valuesByPointer) {
     out << ", values " << (c.valuesInDst ? "inside the destination" : "") << c.valuesPhase;
     if (!c.valuesInDst) out << " bytes before the end";
   }

@@ -67,6 +67,8 @@ bool setNamed(const ExportRow& row, const Argument& argument, const Call& call, 
 std::vector<Slot> slotsOf(const ExportRow& row, const Call& call) {
   std::vector<Slot> slots = baseSlots(row);
   int step = 0, number = 0;
+  const Byte* value = call.values;
+  const int sample = sampleBytes(row.types.front());
   const auto image = [&](const std::string& role, Slot& slot) {
     const auto take = [&](Byte* first, int itsStep) { slot.setPointer(first), step = itsStep; };
     if (role == "src2") return take(call.src2, call.src2Step);
@@ -92,10 +94,12 @@ std::vector<Slot> slotsOf(const ExportRow& row, const Call& call) {
         slot.set(step);
         break;
       case Kind::Values:
-        slot.setPointer(call.values);
+        slot.setPointer(value);
+        value += argument.count * sample;
         break;
       case Kind::Value:
-        slot.setSample(argument.passing, row.types.front(), call.values);
+        slot.setSample(argument.passing, row.types.front(), value);
+        value += sample;
         break;
       case Kind::Size:
         if (std::string(argument.name) != "roi") abortOver("value of", argument.name);
@@ -228,8 +232,9 @@ Member memberOf(const ExportRow& row) {
         (name == "src2" ? m.src2 : m.src) = operandOf(row.types.front(), row.layouts.front());
       m.inPlace |= name == "srcDst";
     }
-    if (argument.kind == Kind::Value) m.values = 1;
-    if (argument.kind == Kind::Values) m.values = argument.count;
+    m.valuesByPointer |= argument.kind == Kind::Values;
+    if (argument.kind == Kind::Value) m.values += 1;
+    if (argument.kind == Kind::Values) m.values += argument.count;
     if (isNumber(argument)) m.numbers.push_back(choicesOf(argument));
     if (m.numbers.size() > kMaxNumbers) abortOver("so many numbers of", m.name);
     if (argument.kind == Kind::Lower) m.bounds = {{0.0f, 255.0f}, {-1.0f, 1.0f}, {-0.1f, 1000.7f}};

@@ -130,8 +130,11 @@ struct Member {
   bool masked = false, checksSteps = false;
   bool mayStream = true;          // whether large images are tried
   int64_t streamsFrom = 2 << 20;  // bytes moved from which on a path may depend on them, at the most
+  int64_t asksFrom = 1 << 20;     // bytes moved up to which nothing asks for the cache's size
   bool floatResults = false;      // NaNs need not have equal bits, and rows of the destination are apart
-  int values = 0;                 // samples of the value argument; one is passed by value
+  int values = 0;                 // samples of all constants, one behind the other
+  bool valuesByPointer = false;   // of several channels
+  std::function<void(Random&, Byte*)> arrangeValues;   // makes most of them acceptable, where not all are
   std::vector<Contents> contents = {Contents::Bytes};  // of sources and values
   std::vector<std::vector<int>> numbers;  // what each number that is not chosen by name is chosen from
   std::vector<std::pair<Lum32f, Lum32f>> bounds;

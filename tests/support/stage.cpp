@@ -165,6 +165,7 @@ void Stage::placeValues(const Member& member, const Case& c, Call& call, Random&
   }
   Byte* values = values_->end() - bytes - c.valuesPhase;
   fillSamples(member.types.front(), values, bytes, c.inputs, random);
+  if (member.arrangeValues) member.arrangeValues(random, values);
   call.values = values;
   placed_.push_back({"values", values_, values, 0, bytes, 1, values_->begin(), values_->end()});
 }
