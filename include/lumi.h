@@ -22,6 +22,7 @@
 #include "lumi/scale.h"
 #include "lumi/set.h"
 #include "lumi/shift.h"
+#include "lumi/threshold.h"
 #include "lumi/unary.h"
 #include "lumi/version.h"
 

@@ -54,6 +54,16 @@ enum {
   lumRoundHalfAway = 2     /**< to the nearest integer, ties away from zero */
 };
 
+/** How two samples are compared. Each operation tells which ones it takes. */
+typedef int32_t LumCmpOp;
+enum {
+  lumCmpOpLess = 0,         /**< the first one is below the second */
+  lumCmpOpLessEqual = 1,    /**< below it or equal to it */
+  lumCmpOpEqual = 2,        /**< equal to it */
+  lumCmpOpGreaterEqual = 3, /**< above it or equal to it */
+  lumCmpOpGreater = 4       /**< above it */
+};
+
 /**
  * Where samples outside an image come from: a type, and flags of the sides where they are in memory. On
  * flagged sides the real samples are used, on the others the type decides; all four flags are the same as
