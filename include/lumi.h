@@ -7,6 +7,7 @@
 #include "lumi/types.h"
 
 #include "lumi/add_sub.h"
+#include "lumi/best_threshold.h"
 #include "lumi/bits.h"
 #include "lumi/border.h"
 #include "lumi/convert.h"

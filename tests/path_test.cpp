@@ -136,6 +136,24 @@ TEST(Paths, LargeConversionsBypassTheCache) {
   EXPECT_EQ(converts(kPixels, 1), 0) << "no sample there starts on a boundary";
 }
 
+TEST(Paths, LargeThresholdsOfWordsBypassTheCache) {
+  const CoreGuard guard;
+  constexpr int kWidth = 512, kRows = (1 << 20) / (2 * kWidth);
+  std::vector<Lum16u> src(kWidth * (kRows + 1)), dst(src.size());
+  const auto limits = [&](const Lum16u* from, Lum16u* to, int rows) {
+    return taken(Path::StreamingRows, [&] {
+      return lumiThreshold_GT_16u_C1R(from, 2 * kWidth, to, 2 * kWidth, {kWidth, rows}, 9);
+    });
+  };
+  testcore::setCacheSize(2 << 20);  // twice the results of so many rows
+  EXPECT_EQ(limits(src.data(), dst.data(), kRows + 1), 1);
+  EXPECT_EQ(limits(src.data(), dst.data(), kRows), 0);
+  EXPECT_EQ(limits(src.data(), src.data(), kRows + 1), 0) << "in place";
+  testcore::setCacheSize(0);
+  EXPECT_EQ(limits(src.data(), dst.data(), kRows / 4 + 1), 1);
+  EXPECT_EQ(limits(src.data(), dst.data(), kRows / 4), 0);
+}
+
 TEST(Paths, LargeComplexRowsWithConstantsBypassTheCache) {
   const Lum16sc value[3] = {{1, 2}, {3, 4}, {5, 6}};
   constexpr int kStep = 12 * 64, kRows = (1 << 20) / (2 * kStep) + 1;

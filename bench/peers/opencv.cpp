@@ -171,6 +171,26 @@ Peer above(View src, double threshold) {
   return peer("opencv", [s = mat(src), bytes, threshold] { cv::compare(s, threshold, bytes, cv::CMP_GT); });
 }
 
+Peer limitAbove(View src, View dst, Value thresholds) {
+  if (src.channels > 1)
+    return peer("opencv", [s = mat(src), d = mat(dst), t = scalar(thresholds)] { cv::min(s, t, d); });
+  return peer("opencv", [s = mat(src), d = mat(dst), t = thresholds[0]] {
+    cv::threshold(s, d, t, 0, cv::THRESH_TRUNC);
+  });
+}
+
+Peer zeroAbove(View src, View dst, double threshold) {
+  return peer("opencv",
+              [=, s = mat(src), d = mat(dst)] { cv::threshold(s, d, threshold, 0, cv::THRESH_TOZERO_INV); });
+}
+
+Peer bestThreshold(View src) {
+  const cv::Mat above(src.roi.height, src.roi.width, CV_8UC1);
+  return peer("opencv", [s = mat(src), above] {
+    cv::threshold(s, above, 0, 255, cv::THRESH_BINARY | cv::THRESH_OTSU);
+  });
+}
+
 Peer border(View src, View dst, int top, int left, Border kind, Value value) {
   constexpr int kKinds[] = {cv::BORDER_CONSTANT, cv::BORDER_REPLICATE, cv::BORDER_WRAP};
   const int bottom = dst.roi.height - src.roi.height - top, right = dst.roi.width - src.roi.width - left;

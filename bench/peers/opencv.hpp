@@ -43,6 +43,11 @@ enum class Logic { conjunction, disjunction, exclusive };
 [[gnu::weak]] Peer exponential(View src, View dst);
 // 255 for samples above the threshold, else 0: a byte for each bit.
 [[gnu::weak]] Peer above(View src, double threshold);
+// Samples above the thresholds become those, or 0.
+[[gnu::weak]] Peer limitAbove(View src, View dst, Value thresholds);
+[[gnu::weak]] Peer zeroAbove(View src, View dst, double threshold);
+// The best threshold of bytes; stores which of them are above it.
+[[gnu::weak]] Peer bestThreshold(View src);
 // To the destination's type.
 [[gnu::weak]] Peer convert(View src, View dst);
 enum class Border { constant, replicate, wrap };

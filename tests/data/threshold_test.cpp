@@ -35,7 +35,8 @@ std::vector<Member> oneSided(const std::string& operation, Run run) {
       [&](Member& m, auto sample) {
         describe(m);
         if (!named) m.choose("cmpOp", {{{lumCmpOpLess}}, {{lumCmpOpGreater}}});
-        m.model = [=, isAbove = operation.find("GT") != std::string::npos, channels = m.channels](const Call& c) {
+        m.model = [=, isAbove = operation.find("GT") != std::string::npos,
+                   channels = m.channels](const Call& c) {
           run(sample, c, named ? isAbove : c.number("cmpOp") == lumCmpOpGreater, channels);
         };
       },
@@ -81,8 +82,8 @@ const bool added = addAll();
 
 // One row of floats, in place.
 template <typename... Argument>
-std::vector<float> row(LumStatus (*threshold)(Lum32f*, int, LumiSize, Argument...), std::vector<float> samples,
-                       Argument... arguments) {
+std::vector<float> row(LumStatus (*threshold)(Lum32f*, int, LumiSize, Argument...),
+                       std::vector<float> samples, Argument... arguments) {
   const int width = static_cast<int>(samples.size());
   EXPECT_EQ(threshold(samples.data(), 4 * width, {width, 1}, arguments...), lumStatusOk);
   return samples;
@@ -123,8 +124,10 @@ TEST(Threshold, NaNStaysOrIsReplaced) {
 }
 
 TEST(Threshold, ThresholdsThatAreNaNPassTheOrderTest) {
-  expectSame(row(lumiThreshold_LTValGTVal_32f_C1IR, {kNaN, 0, 1, 9}, 1.0F, -9.0F, kNaN, 9.0F), {-9, -9, 1, 9});
-  expectSame(row(lumiThreshold_LTValGTVal_32f_C1IR, {kNaN, 0, 1, 8}, kNaN, -9.0F, 1.0F, 9.0F), {-9, -9, -9, 9});
+  expectSame(row(lumiThreshold_LTValGTVal_32f_C1IR, {kNaN, 0, 1, 9}, 1.0F, -9.0F, kNaN, 9.0F),
+             {-9, -9, 1, 9});
+  expectSame(row(lumiThreshold_LTValGTVal_32f_C1IR, {kNaN, 0, 1, 8}, kNaN, -9.0F, 1.0F, 9.0F),
+             {-9, -9, -9, 9});
 }
 
 TEST(Threshold, EqualSamplesStay) {
@@ -182,7 +185,8 @@ TEST(Threshold, UnorderedThresholdsOfAnyChannel) {
               lumStatusBadThresholdOrder);
     EXPECT_EQ(lumiThreshold_LTValGTVal_16u_C3IR(pixel, 8, {1, 1}, lower, value, upper, nullptr),
               lumStatusNullPointer);
-    EXPECT_EQ(lumiThreshold_LTValGTVal_16u_C3IR(pixel, 0, {1, 1}, lower, value, upper, value), lumStatusBadStep);
+    EXPECT_EQ(lumiThreshold_LTValGTVal_16u_C3IR(pixel, 0, {1, 1}, lower, value, upper, value),
+              lumStatusBadStep);
     for (const Lum16u sample : pixel) EXPECT_EQ(sample, 5);
   }
 }
@@ -204,14 +208,16 @@ TEST(Threshold, WhatAsksForTheCache) {
   EXPECT_EQ(single(floorRows), 0);
   EXPECT_EQ(single(floorRows + 1), 1);
   const LumiSize roi{width, floorRows + 1};
-  EXPECT_EQ(asks([&] { return lumiThreshold_LTVal_16u_C3IR(image.data(), 6 * width, roi, constant, constant); }),
-            1);
-  EXPECT_EQ(asks([&] { return lumiThreshold_LTVal_16u_C4IR(image.data(), 8 * width, roi, constant, constant); }),
-            0);
+  EXPECT_EQ(
+      asks([&] { return lumiThreshold_LTVal_16u_C3IR(image.data(), 6 * width, roi, constant, constant); }),
+      1);
+  EXPECT_EQ(
+      asks([&] { return lumiThreshold_LTVal_16u_C4IR(image.data(), 8 * width, roi, constant, constant); }),
+      0);
   EXPECT_EQ(asks([&] { return lumiThreshold_GT_16u_AC4IR(image.data(), 8 * width, roi, constant); }), 0);
   EXPECT_EQ(asks([&] {
-              return lumiThreshold_LTVal_16u_C4R(image.data(), 8 * width, other.data(), 8 * width, roi, constant,
-                                                 constant);
+              return lumiThreshold_LTVal_16u_C4R(image.data(), 8 * width, other.data(), 8 * width, roi,
+                                                 constant, constant);
             }),
             1);
   auto* const words = reinterpret_cast<Lum16s*>(image.data());

@@ -21,7 +21,8 @@ struct Constants {
 // Each sample becomes the constant that which(sample, channel) names, or, where it names none, stays. Samples
 // are moved as bytes, so that every NaN stays what it is.
 template <typename T, typename Which>
-void choose(const Constants<T>& constants, Image src, Image dst, LumiSize roi, Channels channels, Which which) {
+void choose(const Constants<T>& constants, Image src, Image dst, LumiSize roi, Channels channels,
+            Which which) {
   for (int y = 0; y < roi.height; ++y)
     for (int x = 0; x < roi.width; ++x)
       for (int c = 0; c < channels.moved; ++c) {
