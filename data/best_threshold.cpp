@@ -21,7 +21,8 @@ struct Histogram {
   double of[kLevels] = {};
 
   Histogram(const Lum8u* src, int step, LumiSize roi) {
-    const auto most = static_cast<int>(std::min<uint32_t>(INT_MAX, UINT32_MAX / static_cast<uint32_t>(roi.width)));
+    const auto most =
+        static_cast<int>(std::min<uint32_t>(INT_MAX, UINT32_MAX / static_cast<uint32_t>(roi.width)));
     for (int y = 0, height = 0; y < roi.height; y += height) {
       height = std::min(most, roi.height - y);
       runFused(

@@ -21,6 +21,7 @@
 #include "lumi/mul.h"
 #include "lumi/set.h"
 #include "lumi/shift.h"
+#include "lumi/threshold.h"
 #include "support/core_guard.hpp"
 
 namespace {

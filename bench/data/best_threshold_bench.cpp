@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "lumi/best_threshold.h"
-
 #include "bench/harness.hpp"
 #include "bench/peers/loop.hpp"
 #include "bench/peers/opencv.hpp"
+#include "lumi/best_threshold.h"
 
 namespace bench {
 namespace {

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "lumi/threshold.h"
-
 #include "bench/harness.hpp"
 #include "bench/peers/loop.hpp"
 #include "bench/peers/opencv.hpp"
+#include "lumi/threshold.h"
 
 namespace bench {
 namespace {
@@ -28,8 +27,8 @@ Peer loopOf(Image<T> src, Image<T> dst, Function function) {
 template <typename T>
 std::array<T, 4> levels(int first) {
   constexpr int unit = sizeof(T) == 2 && std::is_unsigned_v<T> ? 256 : 1;
-  return {static_cast<T>(first * unit), static_cast<T>((first + 9) * unit), static_cast<T>((first - 20) * unit),
-          static_cast<T>((first + 31) * unit)};
+  return {static_cast<T>(first * unit), static_cast<T>((first + 9) * unit),
+          static_cast<T>((first - 20) * unit), static_cast<T>((first + 31) * unit)};
 }
 
 template <typename T>
@@ -49,7 +48,8 @@ Suite::Build limitedByChannel(Threshold<T, const T*> lumi) {
     const auto src = s.input<T>(C), dst = s.output<T>(C);
     const auto t = levels<T>(77);
     s.ours([=] { lumi(src.data(), src.step, dst.data(), dst.step, dst.roi, t.data()); });
-    if (used == C) s.peer(opencv::limitAbove, src, dst, Value{double{t[0]}, double{t[1]}, double{t[2]}, double{t[3]}});
+    if (used == C)
+      s.peer(opencv::limitAbove, src, dst, Value{double{t[0]}, double{t[1]}, double{t[2]}, double{t[3]}});
     s.peer(loopOf<C, used>(src, dst, [=](T x, std::size_t c) { return x < t[c] ? x : t[c]; }));
   };
 }
@@ -80,10 +80,10 @@ template <typename T>
 Suite::Build replacedBoth(Threshold<T, T, T, T, T> lumi) {
   return [=](Scene& s) {
     const auto src = s.input<T>(1), dst = s.output<T>(1);
-    const T low = levels<T>(50)[0], below = levels<T>(20)[0], high = levels<T>(77)[0], above = levels<T>(99)[0];
+    const T low = levels<T>(50)[0], below = levels<T>(20)[0], high = levels<T>(77)[0],
+            above = levels<T>(99)[0];
     s.ours([=] { lumi(src.data(), src.step, dst.data(), dst.step, dst.roi, low, below, high, above); });
-    s.peer(loopOf<1, 1>(
-        src, dst, [=](T x, std::size_t) { return x > high ? above : x < low ? below : x; }));
+    s.peer(loopOf<1, 1>(src, dst, [=](T x, std::size_t) { return x > high ? above : x < low ? below : x; }));
   };
 }
 

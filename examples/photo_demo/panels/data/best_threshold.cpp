@@ -4,8 +4,8 @@
 
 namespace {
 
-// Green as 255 where it is above the threshold that parts it best, and as 0 elsewhere: that threshold is never
-// 255.
+// Green as 255 where it is above the threshold that parts it best, and as 0 elsewhere: that threshold is
+// never 255.
 Grey brightPart(const Colour& photo, Calls& calls) {
   const Planes planes = split(photo);
   const Grey& green = planes.green;
@@ -18,9 +18,8 @@ Grey brightPart(const Colour& photo, Calls& calls) {
     return lumiThreshold_GTVal_8u_C1R(green.data(), green.step(), mask.data(), mask.step(), photo.size(),
                                       threshold, 255);
   });
-  calls.time("lumiThreshold_LTVal_8u_C1IR", photo.size(), [&] {
-    return lumiThreshold_LTVal_8u_C1IR(mask.data(), mask.step(), photo.size(), 255, 0);
-  });
+  calls.time("lumiThreshold_LTVal_8u_C1IR", photo.size(),
+             [&] { return lumiThreshold_LTVal_8u_C1IR(mask.data(), mask.step(), photo.size(), 255, 0); });
   return mask;
 }
 
