@@ -12,6 +12,7 @@ namespace simd {
 // Of a sample and constants, as Beyond lists them. Of floats the order of operands tells what a NaN becomes.
 struct LimitedAbove {
   static constexpr size_t kConstants = 1;
+  static constexpr bool kStoresBind = true;
   template <typename V>
   V operator()(V x, const Several<1, V>& c) const {
     return min(x, c[0]);
@@ -19,6 +20,7 @@ struct LimitedAbove {
 };
 struct LimitedBelow {
   static constexpr size_t kConstants = 1;
+  static constexpr bool kStoresBind = true;
   template <typename V>
   V operator()(V x, const Several<1, V>& c) const {
     return max(x, c[0]);
