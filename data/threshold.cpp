@@ -2,6 +2,9 @@
 // Thresholds: samples beyond them are limited, or replaced by a value.
 #include "lumi/threshold.h"
 
+#include <cstring>
+#include <type_traits>
+
 #include "frame/check.hpp"
 #include "frame/constant.hpp"
 #include "frame/rows.hpp"

@@ -204,8 +204,8 @@ LumStatus lumiThreshold_LT_8u_C3R(const Lum8u* src, int srcStep, Lum8u* dst, int
  * Replaces samples beyond a threshold by a value.
  *
  * lumCmpOpLess: samples below the threshold become the value. lumCmpOpGreater: samples above it do. Other
- * samples stay, among them those that are equal to it. C1 takes one threshold and one value, C3 and AC4 three,
- * C4 four, one for each channel; they are read before any pixel is touched. AC4 leaves the fourth sample of
+ * samples stay, among them those that are equal to it. C1 takes one threshold and one value, C3 and AC4 three
+ * of each, one for each channel; they are read before any pixel is touched. AC4 leaves the fourth sample of
  * every pixel as it was.
  *
  * A sample that is NaN stays with lumCmpOpGreater, and becomes the value with lumCmpOpLess. All samples do so
@@ -282,7 +282,7 @@ LumStatus lumiThreshold_Val_8u_C3R(const Lum8u* src, int srcStep, Lum8u* dst, in
 /**
  * Replaces samples above a threshold by a value.
  *
- * As lumiThreshold_Val with lumCmpOpGreater.
+ * As lumiThreshold_Val with lumCmpOpGreater; C4 takes four thresholds and values.
  *
  *   threshold  the samples above it are replaced
  *
@@ -365,7 +365,7 @@ LumStatus lumiThreshold_GTVal_8u_C4R(const Lum8u* src, int srcStep, Lum8u* dst, 
 /**
  * Replaces samples below a threshold by a value.
  *
- * As lumiThreshold_Val with lumCmpOpLess.
+ * As lumiThreshold_Val with lumCmpOpLess; C4 takes four thresholds and values.
  *
  *   threshold  the samples below it are replaced
  *

@@ -37,7 +37,7 @@ std::vector<Member> oneSided(const std::string& operation, Run run) {
         if (!named) m.choose("cmpOp", {{{lumCmpOpLess}}, {{lumCmpOpGreater}}});
         m.model = [=, isAbove = operation.find("GT") != std::string::npos,
                    channels = m.channels](const Call& c) {
-          run(sample, c, named ? isAbove : c.number("cmpOp") == lumCmpOpGreater, channels);
+          run(sample, c, named ? isAbove : static_cast<int>(c.number("cmpOp")) == lumCmpOpGreater, channels);
         };
       },
       ThresholdTypes());
