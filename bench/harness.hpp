@@ -81,7 +81,7 @@ class Scene {
   Image<T> input(int channels) {
     return typed<T>(allocate(depthOf<T>(), channels, false));
   }
-  // An input that has another size than the row.
+  // Images that have another size than the row.
   template <typename T>
   Image<T> inputOf(int channels, LumiSize size) {
     std::swap(roi_, size);
@@ -92,6 +92,13 @@ class Scene {
   template <typename T>
   Image<T> output(int channels) {
     return typed<T>(allocate(depthOf<T>(), channels, true));
+  }
+  template <typename T>
+  Image<T> outputOf(int channels, LumiSize size) {
+    std::swap(roi_, size);
+    const Image<T> image = output<T>(channels);
+    std::swap(roi_, size);
+    return image;
   }
   template <typename T>
   Planes<T> inputPlanes(int count) {

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+
 #include "bench/harness.hpp"
 #include "bench/peers/loop.hpp"
 #include "bench/peers/opencv.hpp"
@@ -32,6 +34,13 @@ std::array<T, 4> levels(int first) {
 }
 
 template <typename T>
+Value valueOf(const std::array<T, 4>& samples) {
+  Value value;
+  std::copy(samples.begin(), samples.end(), value.begin());
+  return value;
+}
+
+template <typename T>
 Suite::Build limited(Threshold<T, T> lumi) {
   return [=](Scene& s) {
     const auto src = s.input<T>(1), dst = s.output<T>(1);
@@ -48,8 +57,7 @@ Suite::Build limitedByChannel(Threshold<T, const T*> lumi) {
     const auto src = s.input<T>(C), dst = s.output<T>(C);
     const auto t = levels<T>(77);
     s.ours([=] { lumi(src.data(), src.step, dst.data(), dst.step, dst.roi, t.data()); });
-    if (used == C)
-      s.peer(opencv::limitAbove, src, dst, Value{double{t[0]}, double{t[1]}, double{t[2]}, double{t[3]}});
+    if (used == C) s.peer(opencv::limitAbove, src, dst, valueOf(t));
     s.peer(loopOf<C, used>(src, dst, [=](T x, std::size_t c) { return x < t[c] ? x : t[c]; }));
   };
 }
