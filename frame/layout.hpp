@@ -48,6 +48,10 @@ struct C4 {
 struct AC4 {
   static constexpr int kStored = 4, kUsed = 3;
 };
+// Alpha stands first, and belongs to what is stored.
+struct A0C4 {
+  static constexpr int kStored = 4, kUsed = 4;
+};
 // One chosen channel; the image pointer is at its sample of the first pixel.
 struct C3C {
   static constexpr int kStored = 3, kUsed = 1;

@@ -41,6 +41,7 @@ LumStatus statusOf(const CheckStep& step) {
   switch (step.check) {
     case Check::Null:
     case Check::Value:
+    case Check::Each:
       return lumStatusNullPointer;
     case Check::Size:
     case Check::Width:
@@ -48,6 +49,7 @@ LumStatus statusOf(const CheckStep& step) {
     case Check::Offset:
       return lumStatusBadSize;
     case Check::Step:
+    case Check::Row:
       return lumStatusBadStep;
     case Check::Range:
       return lumStatusBadDataRange;
@@ -69,12 +71,14 @@ bool finds(const CheckStep& step, const ExportRow& row, const BadArgument& fault
   }
   switch (step.check) {
     case Check::Null:
-      return wrong == Wrong::Null || wrong == Wrong::NullPlane;
+      return wrong == Wrong::Null ||
+             (wrong == Wrong::NullPlane && row.arguments[fault.argument].kind == Kind::Planes);
     case Check::Size:
       return wrong == Wrong::Width || wrong == Wrong::Height;
     case Check::Width:
       return wrong == Wrong::Width;
     case Check::Step:
+    case Check::Row:
       return wrong == Wrong::Step;
     case Check::Offset:
       return wrong == Wrong::Offset;
@@ -82,6 +86,8 @@ bool finds(const CheckStep& step, const ExportRow& row, const BadArgument& fault
       return wrong == Wrong::Range;
     case Check::Value:
       return wrong == Wrong::NullValue;
+    case Check::Each:
+      return wrong == Wrong::NullPlane && row.arguments[fault.argument].kind == Kind::Arrays;
     case Check::Inside:  // these find refused values only
     case Check::Status:
     case Check::Own:
@@ -107,7 +113,7 @@ std::vector<Slot> validArguments(const ExportRow& row) {
   std::vector<Slot> slots = baseSlots(row);
   for (size_t i = 0; i < slots.size(); ++i) {
     const Argument& argument = row.arguments[i];
-    if (argument.kind == Kind::Planes) {
+    if (argument.kind == Kind::Planes || argument.kind == Kind::Arrays) {
       slots[i].isPlanes = true;
       for (void*& plane : slots[i].planes) plane = forbidden(i);
     } else if (argument.passing == Passing::Pointer) {
@@ -145,11 +151,12 @@ class Faults {
       case Kind::Values:
         return addNull(has(row_, Check::Value) ? Wrong::NullValue : Wrong::Null);
       case Kind::Planes:
+      case Kind::Arrays:
         return addPlanes();
       case Kind::Size:
         return addSizes();
       case Kind::Step:
-        return addNumbers(has(row_, Check::Step) ? Wrong::Step : Wrong::Harmless, {0, -1, INT32_MIN});
+        return addNumbers(checksSteps() ? Wrong::Step : Wrong::Harmless, {0, -1, INT32_MIN});
       case Kind::Offset:
         return addNumbers(Wrong::Offset, {-1, INT32_MIN});
       case Kind::Lower:  // the other bound is 255
@@ -164,6 +171,8 @@ class Faults {
         return;
     }
   }
+
+  bool checksSteps() const { return has(row_, Check::Step) || has(row_, Check::Row); }
 
   void add(Wrong wrong, const std::string& what, const Slot& slot, int part = 0) {
     list_.push_back({index_, wrong, what + " of " + argument_.name, slot, part});

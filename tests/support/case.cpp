@@ -167,6 +167,10 @@ Case makeCase(const Member& member, uint64_t seed, int index) {
   if (member.checksSteps && member.floatResults) c.dstStep = std::abs(c.dstStep);
   if (member.checksSteps)
     for (int* each : {&c.srcStep, &c.src2Step, &c.dstStep, &c.maskStep}) *each = std::max(1, *each);
+  if (member.checksRows) {
+    c.srcStep = std::max(c.srcStep, srcTight);
+    c.dstStep = std::max(c.dstStep, dstTight);
+  }
   if (c.srcIsDst) c.srcStep = c.dstStep;
   if (c.src2IsDst) c.src2Step = c.dstStep;
   return c;

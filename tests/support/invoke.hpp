@@ -25,6 +25,7 @@ enum class Kind {
   Values,   // samples by pointer
   Results,  // one for each channel, by pointer
   Array,    // as many as another argument says
+  Arrays,   // one for each channel, by an array of pointers
   Number,
   Lower,  // bounds of a range
   Upper,
@@ -38,7 +39,7 @@ enum class Passing { Pointer, Int32, Int64, Float, Double, Pair, Rect, Halves, F
 // A step of the order in which an operation checks its arguments.
 // Status: an argument's values that have a status of their own.
 // Own: an order that the general words do not tell; the family's own tests do.
-enum class Check { Null, Size, Width, Step, Offset, Range, Inside, Value, Own, Status };
+enum class Check { Null, Size, Width, Step, Offset, Range, Inside, Value, Each, Row, Own, Status };
 
 // A number, or those of a size, a point or a rectangle.
 struct Value {
@@ -68,7 +69,7 @@ struct Argument {
   Kind kind;
   Passing passing;
   const char* name;
-  int count;           // planes, values or results of an array of them
+  int count;           // planes, pointers, values or results of an array of them
   Value base;          // one that the operation accepts
   const char* length;  // the argument that tells an array's length
   Span<Refused> refused;

@@ -23,6 +23,7 @@ Layout layoutOf(const std::string& name) {
   const bool counts = name.size() >= 2 && name.back() >= '1' && name.back() <= '4';
   if (name == "AP4") return {4, 1, 1};
   if (name == "AC4") return {1, 4, 3};
+  if (name == "A0C4") return {1, 4, 4};
   if (name == "AC1") return {1, 1, 1};
   if (name == "C3C" || name == "C4C") return {1, digitAt(1), 1};
   if (name.size() == 2 && name[0] == 'P' && counts) return {digitAt(1), 1, 1};
@@ -239,7 +240,10 @@ Member memberOf(const ExportRow& row) {
     if (m.numbers.size() > kMaxNumbers) abortOver("so many numbers of", m.name);
     if (argument.kind == Kind::Lower) m.bounds = {{0.0f, 255.0f}, {-1.0f, 1.0f}, {-0.1f, 1000.7f}};
   }
-  for (const CheckStep& step : row.checks) m.checksSteps |= step.check == Check::Step;
+  for (const CheckStep& step : row.checks) {
+    m.checksSteps |= step.check == Check::Step;
+    m.checksRows |= step.check == Check::Row;
+  }
   m.row = &row;
   return m;
 }

@@ -11,7 +11,7 @@ import re
 from . import grammar
 from .names import GENERATED
 
-_REST = re.compile(r"(?:AC4|AC1|AP4|C3A0C4|C[1-4]C?|P[2-4])*(.*)$")
+_REST = re.compile(r"(?:AC4|AC1|AP4|A0C4|C[1-4]C?|P[2-4])*(.*)$")
 
 
 def _key(export):

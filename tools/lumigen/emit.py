@@ -16,6 +16,8 @@ CHECK_TEXT = {
     "range": "lumStatusBadDataRange (-13) upper is not above lower",
     "inside": "lumStatusBadSize (-6)      top or left is negative, or dstRoi does not hold srcRoi at that place",
     "value": "lumStatusNullPointer (-8)  value is null",
+    "each": "lumStatusNullPointer (-8)  one of an array of pointers is null",
+    "row": "lumStatusBadStep (-14)     a step is below the bytes of a row",
 }
 
 
@@ -62,6 +64,8 @@ def _check_text(word, export):
         text = text.replace("value", " or ".join(names))
     if word == "null" and "value" in export.check:
         text = text.replace("a pointer is null, plane pointers included", "an image's pointer is null")
+    if word == "null" and "each" in export.check:
+        text = text.replace(", plane pointers included", "")
     if word == "size" and any(a.kind == "size" and a.name != "roi" for a in export.args):
         text = text.replace("roi.width or roi.height", "a width or a height")
     return text
@@ -70,13 +74,14 @@ def _check_text(word, export):
 def _doc_block(op):
     lines = [op.brief] + ([""] + op.text if op.text else [])
     if op.params:
-        lines += [""] + [f"  {p.name:<10} {p.about}" for p in op.params]
+        lines += [""] + list(dict.fromkeys(f"  {p.name:<10} {p.about}" for p in op.params))
     cohorts = {}
     for export in op.exports:
         if export.check and export.check != ("own",):
             cohorts.setdefault(export.check, []).append(export)
+    partly = any(e.check == ("own",) for e in op.exports)
     for check, exports in cohorts.items():
-        members = f" ({_members(exports)})" if len(cohorts) > 1 else ""
+        members = f" ({_members(exports)})" if len(cohorts) > 1 or partly else ""
         lines += ["", f"Returns lumStatusOk (0) or, tested in this order and before anything is written{members}:"]
         lines += [f"  {_check_text(c, exports[0])}" for c in check]
     body = "\n".join((" * " + line).rstrip() for line in lines)

@@ -11,15 +11,15 @@ SAMPLE_TYPES = {
     "24u": "Lum8u",  # three bytes a sample
 }
 # Samples a constant or a per-channel result has; layouts absent here are planar.
-CHANNELS = {"C1": 1, "C2": 2, "C3": 3, "C4": 4, "AC4": 3, "AC1": 1, "C3C": 1, "C4C": 1}
+CHANNELS = {"C1": 1, "C2": 2, "C3": 3, "C4": 4, "AC4": 3, "AC1": 1, "C3C": 1, "C4C": 1, "A0C4": 4}
 PLANES = {"P2": 2, "P3": 3, "P4": 4, "AP4": 4}
 
 ROLES = ("src", "src1", "src2", "dst", "srcDst", "roi", "mask", "value", "bounds", "sfs")
 
 _TYPE = r"\d+(?:uc|sc|fc|u|s|f)"
 _TYPES = re.compile(rf"({_TYPE})({_TYPE})?$")
-_LAYOUT = r"AC4|AC1|AP4|C3A0C4|C3C(?=R)|C4C(?=R)|C[1-4]|P[2-4]"
-_DESCRIPTOR = re.compile(rf"({_LAYOUT})({_LAYOUT})?(I)?(M)?(Rs?)?(Sfs)?$")
+_LAYOUT = r"AC4|AC1|AP4|C3C(?=R)|C4C(?=R)|C[1-4]|P[2-4]"
+_DESCRIPTOR = re.compile(rf"({_LAYOUT})({_LAYOUT}|A0C4)?(I)?(M)?(Rs?)?(Sfs)?$")
 _BARE = ("L2",)  # descriptors without a layout
 
 # How an argument is passed: by the type of its declaration, where that is no pointer.
@@ -40,10 +40,10 @@ class GrammarError(ValueError):
 class Arg:
     """One argument of a C prototype. `kind` says what the fault tests may do with it."""
 
-    kind: str      # image planes step offset size point rect value values results array number lower upper pointer optional
+    kind: str      # image planes step offset size point rect value values results array arrays number lower upper pointer optional
     name: str
     decl: str      # C declaration, name included
-    count: int = 0   # planes of an array of them, values of an array of those, results of all channels
+    count: int = 0   # planes or pointers of an array of them, values of an array of those, results of all channels
     base: tuple = ("0",)  # a valid value of a number, a size, a point or a rectangle
     refused: tuple = ()   # Refused values
     length: str = ""      # the argument that tells an array's length
@@ -174,14 +174,26 @@ def _values(name, sample, count, refused=()):
 _BASES = {"LumiSize": ("7", "3"), "LumiRect": ("0", "0", "7", "3")}
 
 
+def _each(param, ctype, decl, descriptor):
+    """One for each channel: constants, results, arrays of the caller's, or numbers. None where it is as if it stood alone."""
+    count = _channels(descriptor.layouts[0] if descriptor and descriptor.layouts else "")
+    if ctype in SAMPLE_TYPES.values():
+        return _values(param.name, ctype, count, tuple(param.refused))
+    is_result = "*" in ctype and not ctype.startswith("const ")
+    if count == 1:
+        return Arg("results", param.name, decl, count) if is_result else None
+    if is_result:
+        return Arg("results", param.name, f"{ctype.removesuffix('*')} {param.name}[{count}]", count)
+    if "*" in ctype:
+        return Arg("arrays", param.name, f"{ctype} const {param.name}[{count}]", count)
+    return Arg("pointer", param.name, f"const {ctype} {param.name}[{count}]")
+
+
 def _param(param, ctype, descriptor):
     decl = f"{ctype} {param.name}"
-    if param.each:
-        count = _channels(descriptor.layouts[0] if descriptor and descriptor.layouts else "")
-        if "*" not in ctype:
-            return _values(param.name, ctype, count, tuple(param.refused))
-        decl = decl if count == 1 else f"{ctype.removesuffix('*')} {param.name}[{count}]"
-        return Arg("results", param.name, decl, count)
+    each = _each(param, ctype, decl, descriptor) if param.each else None
+    if each:
+        return each
     if param.length:
         return Arg("array", param.name, decl, length=param.length)
     if "*" in ctype:

@@ -32,7 +32,7 @@ class Grammar(unittest.TestCase):
 
     def test_descriptors(self):
         for token, layouts in (("C1R", ("C1",)), ("AC4IRSfs", ("AC4",)), ("C3P3R", ("C3", "P3")),
-                               ("C3CR", ("C3C",)), ("C3C1R", ("C3", "C1")), ("C3A0C4R", ("C3A0C4",)),
+                               ("C3CR", ("C3C",)), ("C3C1R", ("C3", "C1")), ("C3A0C4R", ("C3", "A0C4")),
                                ("AC4C3R", ("AC4", "C3")), ("C1Rs", ("C1",)), ("C4C", None)):
             with self.subTest(token):
                 if layouts is None:
@@ -159,6 +159,14 @@ class Rows(unittest.TestCase):
         self.assertRegex(table, r'Kind::Value, Passing::Int32, "low", 0, \{\{0\}\}, nullptr, \{kRefused \+ 0, 1\}')
         self.assertRegex(table, r'Kind::Values, Passing::Pointer, "low", 3, \{\{0\}\}, nullptr, \{\}')
 
+    def test_what_stands_once_for_each_channel(self):
+        text = (HEAD + "  param levels const {T}* each : levels\n  param count int each = 2 refuses 1 by TooFewLutLevels : how many\n"
+                "  args src levels count\n  8u {C1 AC4}R bind probe\n")
+        self.assertIn("const Lum8u* levels, int count)", emit.prototype(exports(text)["lumiProbe_8u_C1R"]))
+        of_three = exports(text)["lumiProbe_8u_AC4R"]
+        self.assertIn("const Lum8u* const levels[3], const int count[3])", emit.prototype(of_three))
+        self.assertEqual([a.kind for a in of_three.args[2:]], ["arrays", "pointer"])
+
     def test_names_of_all_homes(self):
         text = HEAD.replace("op Probe", "op Probe_L1") + ("  args src dst\n  16uc16u 8u24u C1R bind a\n  64s P2C1R bind b\n"
                                                           "  8u C1AP4R bind c\n")
@@ -189,7 +197,7 @@ class Complaints(unittest.TestCase):
         (HEAD + "  args src\n  8u C9R bind x\n", 5, "'C9R' is no layout descriptor"),
         (HEAD + "  args nosuch\n  8u C1R bind x\n", 5, "'nosuch' is neither a role"),
         (HEAD + "  args roi\n  8u bind x\n", 5, "'roi' follows from a sample type and a descriptor"),
-        (HEAD + "  args value\n  8u C3A0C4R bind x\n", 5, "'C3A0C4' does not tell how many channels"),
+        (HEAD + "  args src\n  8u A0C4R bind x\n", 5, "'A0C4R' is no layout descriptor"),
         (HEAD + "  args src\n  8u C1R\n", 5, "a row ends in: bind name"),
         (HEAD + "  args src\n  8u C1R check nul bind x\n", 5, "check takes words of"),
         (HEAD + "  param a int refuses x by size : a\n", 4, "'x' are no values of int"),
