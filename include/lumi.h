@@ -17,6 +17,8 @@
 #include "lumi/filter_border.h"
 #include "lumi/image_memory.h"
 #include "lumi/logic.h"
+#include "lumi/lut.h"
+#include "lumi/lut_palette.h"
 #include "lumi/mul.h"
 #include "lumi/mul_scale.h"
 #include "lumi/resize.h"

@@ -20,6 +20,9 @@ enum class Path {
   LinearDoubled,
   LinearByteWindows,
   LinearFloatWindows,
+  LookUpOneTable,
+  LookUpSixteen,
+  LookUpSteps,
   FilterWordSums,
   FilterStrip,
 };

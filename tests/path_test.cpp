@@ -18,6 +18,8 @@
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"
 #include "lumi/div.h"
+#include "lumi/lut.h"
+#include "lumi/lut_palette.h"
 #include "lumi/mul.h"
 #include "lumi/set.h"
 #include "lumi/shift.h"
@@ -80,6 +82,48 @@ TEST(Paths, DivisionsByOneCopy) {
   EXPECT_EQ(copies(1, 0), 1);
   EXPECT_EQ(copies(2, 0), 0);
   EXPECT_EQ(copies(1, 1), 0);
+}
+
+TEST(Paths, EqualFunctionsOfBytesHaveOneTable) {
+  const Lum32s levels[] = {0, 256}, values[] = {1, 2}, other[] = {2, 2};
+  const Lum32s* const allLevels[] = {levels, levels, levels};
+  const int counts[] = {2, 2, 2};
+  Lum8u image[30] = {};
+  const auto runs = [&](const Lum32s* last) {
+    const Lum32s* const allValues[] = {values, values, last};
+    return taken(Path::LookUpOneTable, [&] {
+      return lumiLUT_8u_C3IR(image, 30, {10, 1}, allValues, allLevels, counts);
+    });
+  };
+  EXPECT_EQ(runs(values), 1);
+  EXPECT_EQ(runs(other), 0);
+}
+
+TEST(Paths, SmallPalettesTakeOneShuffle) {
+  const Lum8u table[32] = {};
+  Lum8u image[30] = {};
+  const auto runs = [&](int bits) {
+    return taken(Path::LookUpSixteen, [&] {
+      return lumiLUTPalette_8u_C1R(image, 30, image, 30, {30, 1}, table, bits);
+    });
+  };
+  EXPECT_EQ(runs(4), 1);
+  EXPECT_EQ(runs(1), 1);
+  EXPECT_EQ(runs(5), 0);
+}
+
+TEST(Paths, FewAscendingLevelsAreStepsOfVectors) {
+  float levels[34], image[8] = {};
+  for (int k = 0; k < 34; ++k) levels[k] = static_cast<float>(k);
+  const auto runs = [&](int count) {
+    return taken(Path::LookUpSteps, [&] {
+      return lumiLUT_32f_C1IR(image, 32, {8, 1}, levels, levels, count);
+    });
+  };
+  EXPECT_EQ(runs(33), 1);
+  EXPECT_EQ(runs(34), 0);
+  std::swap(levels[1], levels[2]);
+  EXPECT_EQ(runs(33), 0);
 }
 
 TEST(Paths, LongFillsStoreStrings) {

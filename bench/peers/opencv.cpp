@@ -166,6 +166,15 @@ Peer exponential(View src, View dst) {
   return peer("opencv", [s = mat(src), d = mat(dst)] { cv::exp(s, d); });
 }
 
+Peer lookUp(View src, View dst, std::vector<Lum8u> tables) {
+  const int channels = static_cast<int>(tables.size() / 256);
+  cv::Mat table(1, 256, CV_MAKETYPE(CV_8U, channels));
+  for (int i = 0; i < 256; ++i)
+    for (int c = 0; c < channels; ++c)
+      table.data[i * channels + c] = tables[static_cast<std::size_t>(c * 256 + i)];
+  return peer("opencv", [s = mat(src), d = mat(dst), table] { cv::LUT(s, table, d); });
+}
+
 Peer above(View src, double threshold) {
   const cv::Mat bytes(src.roi.height, src.roi.width, CV_8UC1);
   return peer("opencv", [s = mat(src), bytes, threshold] { cv::compare(s, threshold, bytes, cv::CMP_GT); });

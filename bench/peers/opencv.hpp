@@ -41,6 +41,8 @@ enum class Logic { conjunction, disjunction, exclusive };
 [[gnu::weak]] Peer root(View src, View dst);
 [[gnu::weak]] Peer logarithm(View src, View dst);
 [[gnu::weak]] Peer exponential(View src, View dst);
+// Bytes by a table of 256 entries for each of the source's channels, or one for all.
+[[gnu::weak]] Peer lookUp(View src, View dst, std::vector<Lum8u> tables);
 // 255 for samples above the threshold, else 0: a byte for each bit.
 [[gnu::weak]] Peer above(View src, double threshold);
 // Samples above the thresholds become those, or 0.

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+// Vector pieces of look-ups: choices by masks of comparisons, and functions of doubles as entries of tables.
+#pragma once
+
+#include "kernels/simd/elementary.hpp"
+
+namespace lumi::simd {
+
+// Zeros come in.
+template <int bits, typename T>
+Samples16<T> shiftLeft(Samples16<T> a) {
+  static_assert(sizeof(T) == 2);
+  return {_mm_slli_epi16(a.v, bits)};
+}
+#ifdef __AVX2__
+template <int bits, typename T>
+Samples32<T> shiftLeft(Samples32<T> a) {
+  static_assert(sizeof(T) == 2);
+  return {_mm256_slli_epi16(a.v, bits)};
+}
+#endif
+
+// By lanes: yes where a comparison of floats or doubles held, else no.
+inline Floats8 where(Floats8 held, Floats8 yes, Floats8 no) {
+  return {_mm256_blendv_ps(no.v, yes.v, held.v)};
+}
+inline Doubles4 where(Doubles4 held, Doubles4 yes, Doubles4 no) {
+  return {_mm256_blendv_pd(no.v, yes.v, held.v)};
+}
+template <typename T>
+Samples16<T> where(Samples16<T> held, Samples16<T> yes, Samples16<T> no) {
+  return ifThenElse(held, yes, no);
+}
+
+// Eight doubles: in the order of the floats that they belong to, or each half's lower two first, as
+// interleaving a mask with itself widens it.
+struct Doubles8 {
+  Doubles4 low, high;
+};
+inline Doubles8 widenedMask(Floats8 mask) {
+  return {{_mm256_castps_pd(_mm256_unpacklo_ps(mask.v, mask.v))},
+          {_mm256_castps_pd(_mm256_unpackhi_ps(mask.v, mask.v))}};
+}
+// From the order of masks into that of floats.
+inline Doubles8 ordered(Doubles8 x) {
+  return {{_mm256_permute2f128_pd(x.low.v, x.high.v, 0x20)},
+          {_mm256_permute2f128_pd(x.low.v, x.high.v, 0x31)}};
+}
+inline Doubles8 where(Doubles8 held, Doubles8 yes, Doubles8 no) {
+  return {where(held.low, yes.low, no.low), where(held.high, yes.high, no.high)};
+}
+inline Doubles8 widened(Floats8 x) {
+  return {{_mm256_cvtps_pd(_mm256_castps256_ps128(x.v))}, {_mm256_cvtps_pd(_mm256_extractf128_ps(x.v, 1))}};
+}
+inline Floats8 narrowed(Doubles8 x) {
+  return {
+      _mm256_insertf128_ps(_mm256_castps128_ps256(_mm256_cvtpd_ps(x.low.v)), _mm256_cvtpd_ps(x.high.v), 1)};
+}
+inline Doubles8 operator+(Doubles8 a, Doubles8 b) { return {a.low + b.low, a.high + b.high}; }
+inline Doubles8 operator*(Doubles8 a, Doubles8 b) { return {a.low * b.low, a.high * b.high}; }
+
+inline Doubles4 max(Doubles4 a, Doubles4 b) { return {_mm256_max_pd(a.v, b.v)}; }
+
+}  // namespace lumi::simd
