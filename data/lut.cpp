@@ -4,9 +4,9 @@
 #include "lumi/lut.h"
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 
+#include "data/lut_bytes.hpp"
 #include "data/lut_levels.hpp"
 #include "data/lut_pieces.hpp"
 #include "frame/rows.hpp"
@@ -90,40 +90,35 @@ void makeTables(const Lists& lists, T* tables) {
   for (size_t c = 0; c < lists.size(); ++c) makeTable(Form(), lists[c], tables + c * kTableEntries<T>);
 }
 
-// A function of bytes for one channel, or the same for all.
-template <typename Layout>
-bool isOneTable(const Lum8u* tables) {
-  constexpr size_t all = kTableEntries<Lum8u> * static_cast<size_t>(Layout::kUsed);
-  return std::memcmp(tables, tables + kTableEntries<Lum8u>, all - kTableEntries<Lum8u>) == 0;
-}
-
 template <typename T, typename Layout>
 void lookUpPixels(SourceRows src, TargetRows dst, Extent pixels, const T* tables) {
-  LookUp lookUp{{}, kTableEntries<T> - 1};
-  for (size_t c = 0; c < static_cast<size_t>(Layout::kUsed); ++c)
-    lookUp.table[c] = reinterpret_cast<const Byte*>(tables + c * kTableEntries<T>);
-  lookUpRows<sizeof(T), sizeof(T), Layout::kUsed, Layout::kStored, Layout::kStored, Placed::AsTheyAre>(
-      src, dst, pixels, lookUp);
+  using Pixel = PixelLayout<Layout::kUsed, Layout::kStored, Layout::kStored>;
+  lookUpRows<sizeof(T), sizeof(T), Pixel>(src, dst, pixels, reinterpret_cast<const Byte*>(tables));
 }
 
 template <typename Form, typename Layout>
 LumStatus runBytes(SourceRows src, TargetRows dst, Extent pixels, const LevelLists<Lum32s, Layout>& lists) {
   Lum8u tables[kTableEntries<Lum8u> * static_cast<size_t>(Layout::kUsed) + kBehindTables];
   makeTables<Form>(lists, tables);
-  if (Layout::kStored == 1 || isOneTable<Layout>(tables)) {
-    countPath(Path::LookUpOneTable);
-    lookUpBytesRows<256, kAlpha<Lum8u, Layout>>(src, dst, pixels.times(Layout::kStored), tables);
-  } else if constexpr (Layout::kStored > 1) {
-    lookUpPixels<Lum8u, Layout>(src, dst, pixels, tables);
-  }
+  lookUpBytesOf<Layout>(src, dst, pixels, tables);
   return lumStatusOk;
 }
 
-// Signed samples have tables like unsigned ones: their bits are the index.
+// So many steps take less time than tables that the nearest cache does not hold.
+constexpr int kStepsBeforeTables = 8;
+
+// Signed samples have tables like unsigned ones: their bits are the index. That a call fails without memory
+// for the tables is part of the interface, so that steps, which need none, ask for it too.
 template <typename Form, typename T, typename Layout>
 LumStatus runWords(SourceRows src, TargetRows dst, Extent pixels, const LevelLists<Lum32s, Layout>& lists) {
   const Scratch scratch(static_cast<int64_t>(kTableEntries<T> * sizeof(T) * lists.size() + kBehindTables));
   if (!scratch) return lumStatusNoMemory;
+  if constexpr (std::is_same_v<Form, Constant>) {
+    if (haveFewSteps(lists, kStepsBeforeTables)) {
+      runIntegerSteps<T, Layout>(src, dst, pixels, lists);
+      return lumStatusOk;
+    }
+  }
   T* const tables = static_cast<T*>(scratch.data());
   makeTables<Form>(lists, tables);
   lookUpPixels<T, Layout>(src, dst, pixels, tables);

@@ -35,10 +35,9 @@ bool isAscending(const LevelList<L>& list) {
 
 // Whether vectors of steps are the fastest way.
 template <typename Lists>
-bool haveFewSteps(const Lists& lists) {
-  const bool few = std::all_of(lists.begin(), lists.end(), [](const auto& list) {
-    return list.pieces() <= kMostSteps && isAscending(list);
-  });
+bool haveFewSteps(const Lists& lists, int most = kMostSteps) {
+  const bool few = std::all_of(lists.begin(), lists.end(),
+                               [=](const auto& list) { return list.pieces() <= most && isAscending(list); });
   if (few) countPath(Path::LookUpSteps);
   return few;
 }
@@ -167,17 +166,10 @@ LumStatus runFloats(SourceRows src, TargetRows dst, Extent pixels, const LevelLi
     return runCurvedFloats<Form, Layout>(src, dst, pixels, lists);
 }
 
-// Constant pieces of integers that have no table. Levels that no sample reaches are left out: a channel
-// repeats its last step that some sample does.
+// Constant pieces of 16-bit integers. Levels that no sample reaches are left out: a channel repeats its last
+// step that some sample does.
 template <typename T, typename Layout>
-void runDirectly(SourceRows src, TargetRows dst, Extent pixels, const LevelLists<Lum32s, Layout>& lists) {
-  if (!haveFewSteps(lists)) {
-    StepFunction functions[4] = {};
-    for (size_t c = 0; c < lists.size(); ++c)
-      functions[c] = {lists[c].levels, lists[c].values, lists[c].count};
-    bisectRows<T>(src, dst, pixels, functions, Layout::kStored);
-    return;
-  }
+void runIntegerSteps(SourceRows src, TargetRows dst, Extent pixels, const LevelLists<Lum32s, Layout>& lists) {
   constexpr int low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
   const auto limited = [=](Lum32s x) { return static_cast<T>(std::clamp<Lum32s>(x, low, high)); };
   const auto reached = [](const LevelList<Lum32s>& list, int piece) {
@@ -204,7 +196,16 @@ void runDirectly(SourceRows src, TargetRows dst, Extent pixels, const LevelLists
   setPattern<Layout>(pieces.last, lists, 0, [&](const auto& list, int) {
     return isEmpty(list) ? T{low} : limited(list.levels[list.pieces()] - 1);
   });
-  piecewiseRows<ConstantStep<T>, 0>(src, dst, pixels.times(Layout::kStored), pieces);
+  piecewiseRows<ConstantStep<T>, kAlpha<T, Layout>>(src, dst, pixels.times(Layout::kStored), pieces);
+}
+
+// The same without a table, whatever the lists.
+template <typename T, typename Layout>
+void runDirectly(SourceRows src, TargetRows dst, Extent pixels, const LevelLists<Lum32s, Layout>& lists) {
+  if (haveFewSteps(lists)) return runIntegerSteps<T, Layout>(src, dst, pixels, lists);
+  StepFunction functions[4] = {};
+  for (size_t c = 0; c < lists.size(); ++c) functions[c] = {lists[c].levels, lists[c].values, lists[c].count};
+  bisectRows<T>(src, dst, pixels, functions, Layout::kStored);
 }
 
 }  // namespace lumi

@@ -29,7 +29,7 @@ std::vector<Slot> runningArguments(const ExportRow& row, int width) {
   const auto image = [&] { return memory[next++ % memory.size()].data(); };
   for (size_t i = 0; i < slots.size(); ++i) {
     const Argument& argument = row.arguments[i];
-    if (argument.kind == Kind::Planes) {
+    if (argument.kind == Kind::Planes || argument.kind == Kind::Arrays) {
       slots[i].isPlanes = true;
       for (int p = 0; p < argument.count; ++p) slots[i].planes[p] = image();
     } else if (argument.kind == Kind::Values) {

@@ -10,50 +10,56 @@ namespace {
 using namespace simd;
 
 // A shuffle tells 16 entries apart by the low four bits of a byte, and gives zero where its highest bit is
-// set: so two shuffles, joined, do 32 entries that lie 128 apart. The bits between choose among such pairs.
+// set: so two shuffles, joined, do 32 entries of which 16 lie 128 behind the others. The bits between choose
+// among such pairs.
 template <int entries>
-struct Shuffled {
+struct Shuffle {
+  using Results = Samples<uint8_t>;
   const Byte* table;
+  Results low, high;  // the bytes, and with their highest bit turned
 
-  // Entries from `at` on, by the low four bits.
-  VectorBytes piece(VectorBytes x, int at) const { return shuffleBytes(repeated(load16(table + at)), x); }
-  struct Index {
-    VectorBytes low, high;              // the byte, and with its highest bit turned
-    Samples<uint8_t> bit4, bit5, bit6;  // in the highest bit of each byte
-    explicit Index(Samples<uint8_t> x)
-        : low((x & broadcast<uint8_t>(entries == 256 ? 0xFF : entries - 1)).v),
-          high((x ^ broadcast<uint8_t>(0x80)).v),
-          bit4(shiftedUp<3>(x)),
-          bit5(shiftedUp<2>(x)),
-          bit6(shiftedUp<1>(x)) {}
-  };
-  Samples<uint8_t> sixteen(const Index& x, int at) const {
-    if constexpr (entries < 256)
-      return {piece(x.low, at)};
-    else
-      return Samples<uint8_t>{piece(x.low, at)} | Samples<uint8_t>{piece(x.high, at + 128)};
+  Shuffle(const Byte* of, Results x)
+      : table(of),
+        low(entries == 256 ? x : x & broadcast<uint8_t>(entries - 1)),
+        high(x ^ broadcast<uint8_t>(0x80)) {}
+
+  Results piece(Results index, int at) const { return {shuffleBytes(repeated(load16(table + at)), index.v)}; }
+  [[gnu::always_inline]] Results joined(int at) const {
+    if constexpr (entries < 256) return piece(low, at);
+    return piece(low, at) | piece(high, at + 128);
   }
-  Samples<uint8_t> thirtyTwo(const Index& x, int at) const {
-    return ifThenElse(x.bit4, sixteen(x, at + 16), sixteen(x, at));
+  // A bit of each byte goes up to the highest; what that leaves in the neighbour's low bits does not matter.
+  template <int bit>
+  Results mask() const {
+    return as<uint8_t>(shiftLeft<7 - bit>(as<uint16_t>(low)));
   }
-  Samples<uint8_t> sixtyFour(const Index& x, int at) const {
-    return ifThenElse(x.bit5, thirtyTwo(x, at + 32), thirtyTwo(x, at));
+  [[gnu::always_inline]] Results byBit4(Results mask, int at) const {
+    return byHighestBit(mask, joined(at + 16), joined(at));
   }
+  [[gnu::always_inline]] Results results() const {
+    if constexpr (entries == 16) return joined(0);
+    const Results bit4 = mask<4>(), bit5 = mask<5>();
+    const Results first = byHighestBit(bit5, byBit4(bit4, 32), byBit4(bit4, 0));
+    if constexpr (entries == 64) return first;
+    const Results second = byHighestBit(bit5, byBit4(bit4, 96), byBit4(bit4, 64));
+    return byHighestBit(mask<6>(), second, first);
+  }
+};
+
+template <int entries>
+struct ByVectors {
+  const Byte* table;
   [[gnu::always_inline]] VectorBytes vector(const Byte* p) const {
-    const Index x(Samples<uint8_t>{loadVector(p)});
-    if constexpr (entries == 16)
-      return sixteen(x, 0).v;
-    else if constexpr (entries == 64)
-      return sixtyFour(x, 0).v;
-    else
-      return ifThenElse(x.bit6, sixtyFour(x, 64), sixtyFour(x, 0)).v;
+    return Shuffle<entries>(loadedAnew(table), {loadVector(p)}).results().v;
   }
-
- private:
-  // The bytes' low bits go up; what their high bits leave in the neighbour's low ones does not matter.
-  template <int bits>
-  static Samples<uint8_t> shiftedUp(Samples<uint8_t> x) {
-    return as<uint8_t>(shiftLeft<bits>(as<uint16_t>(x)));
+};
+// Two vectors of sixteen bytes, which are stored apart.
+template <int entries>
+struct ByBlocks {
+  ByVectors<entries> each;
+  auto half(const Byte* p) const { return each.vector(p); }
+  [[gnu::always_inline]] auto block(const Byte* p) const {
+    return halves(each.vector(p), each.vector(p + 16));
   }
 };
 
@@ -61,8 +67,8 @@ struct Shuffled {
 
 template <int entries, int alpha>
 void lookUpBytesRows(SourceRows src, TargetRows dst, Extent samples, const uint8_t* table) {
-  using F = Shuffled<entries>;
-  runPixels<4, 4 - alpha>(dst, samples, Unary<Byte, Byte, F>{ImageRow<Byte, Byte>(src), F{table}});
+  using F = std::conditional_t<kVectorBytes == kBlock, ByVectors<entries>, ByBlocks<entries>>;
+  runPixels<4, 4 - alpha>(dst, samples, Unary<Byte, Byte, F>{ImageRow<Byte, Byte>(src), F{{table}}});
 }
 
 template void lookUpBytesRows<16, 0>(SourceRows, TargetRows, Extent, const uint8_t*);

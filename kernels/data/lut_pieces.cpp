@@ -160,17 +160,15 @@ void piecewiseRows(SourceRows src, TargetRows dst, Extent samples, const Stepped
                                                     typename RuleOf<Step>::Type{ImageRow<T, T>(src), pieces});
 }
 
-template void piecewiseRows<ConstantStep<uint16_t>, 0>(SourceRows, TargetRows, Extent,
-                                                       const Stepped<ConstantStep<uint16_t>>&);
-template void piecewiseRows<ConstantStep<int16_t>, 0>(SourceRows, TargetRows, Extent,
-                                                      const Stepped<ConstantStep<int16_t>>&);
-template void piecewiseRows<ConstantStep<float>, 0>(SourceRows, TargetRows, Extent,
-                                                    const Stepped<ConstantStep<float>>&);
-template void piecewiseRows<ConstantStep<float>, 1>(SourceRows, TargetRows, Extent,
-                                                    const Stepped<ConstantStep<float>>&);
-template void piecewiseRows<LinearStep, 0>(SourceRows, TargetRows, Extent, const Stepped<LinearStep>&);
-template void piecewiseRows<LinearStep, 1>(SourceRows, TargetRows, Extent, const Stepped<LinearStep>&);
-template void piecewiseRows<CubicStep, 0>(SourceRows, TargetRows, Extent, const Stepped<CubicStep>&);
-template void piecewiseRows<CubicStep, 1>(SourceRows, TargetRows, Extent, const Stepped<CubicStep>&);
+#define LUMI_PIECES(Step, alpha) \
+  template void piecewiseRows<Step, alpha>(SourceRows, TargetRows, Extent, const Stepped<Step>&);
+#define LUMI_STEPS(Step) LUMI_PIECES(Step, 0) LUMI_PIECES(Step, 1)
+LUMI_STEPS(ConstantStep<uint16_t>)
+LUMI_STEPS(ConstantStep<int16_t>)
+LUMI_STEPS(ConstantStep<float>)
+LUMI_STEPS(LinearStep)
+LUMI_STEPS(CubicStep)
+#undef LUMI_STEPS
+#undef LUMI_PIECES
 
 }  // namespace lumi

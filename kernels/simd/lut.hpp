@@ -20,16 +20,38 @@ Samples32<T> shiftLeft(Samples32<T> a) {
 }
 #endif
 
-// By lanes: yes where a comparison of floats or doubles held, else no.
+// By lanes: yes where a comparison of floats or doubles held, else no. The instruction is written out, since
+// compilers take the function for it apart into integers, which the level has no 32 bytes of.
 inline Floats8 where(Floats8 held, Floats8 yes, Floats8 no) {
-  return {_mm256_blendv_ps(no.v, yes.v, held.v)};
+  __m256 v;
+  asm("vblendvps %3, %2, %1, %0" : "=x"(v) : "x"(no.v), "x"(yes.v), "x"(held.v));
+  return {v};
 }
 inline Doubles4 where(Doubles4 held, Doubles4 yes, Doubles4 no) {
-  return {_mm256_blendv_pd(no.v, yes.v, held.v)};
+  __m256d v;
+  asm("vblendvpd %3, %2, %1, %0" : "=x"(v) : "x"(no.v), "x"(yes.v), "x"(held.v));
+  return {v};
 }
 template <typename T>
 Samples16<T> where(Samples16<T> held, Samples16<T> yes, Samples16<T> no) {
   return ifThenElse(held, yes, no);
+}
+
+// By bytes: yes where the mask's highest bit is set, else no. Of the function for it compilers make masks of
+// whole bytes first.
+template <size_t bytes>
+SamplesOf<uint8_t, bytes> byHighestBit(SamplesOf<uint8_t, bytes> mask, SamplesOf<uint8_t, bytes> yes,
+                                       SamplesOf<uint8_t, bytes> no) {
+  SamplesOf<uint8_t, bytes> v;
+  asm("vpblendvb %3, %2, %1, %0" : "=x"(v.v) : "x"(no.v), "x"(yes.v), "x"(mask.v));
+  return v;
+}
+
+// The same address, of which compilers do not know that: what is there is loaded again rather than kept in
+// registers that there are not.
+inline const Byte* loadedAnew(const Byte* p) {
+  asm("" : "+r"(p));
+  return p;
 }
 
 // Eight doubles: in the order of the floats that they belong to, or each half's lower two first, as

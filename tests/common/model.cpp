@@ -11,7 +11,6 @@
 namespace test {
 namespace {
 
-constexpr int kRounds = 24;  // of caseRound() cases each
 constexpr int kAllocationCases = 12;
 
 Stage& sharedStage() {
@@ -30,7 +29,7 @@ std::string reproduction(const Member& m, int index) {
 void expectModel(const Member& m) {
   const CoreGuard guard;
   const int only = settings().onlyCase;
-  const int last = only >= 0 ? only : settings().scaled(kRounds * caseRound()) - 1;
+  const int last = only >= 0 ? only : settings().scaled(m.rounds * caseRound()) - 1;
   for (int index = std::max(0, only); index <= last; ++index) {
     const Case c = makeCase(m, settings().seed, index);
     const auto failure = sharedStage().run(m, c);

@@ -141,6 +141,7 @@ struct Member {
   std::vector<std::pair<Lum32f, Lum32f>> bounds;
   const ExportRow* row = nullptr;
   Model model;
+  int rounds = 24;  // of images of every width; fewer where a call does much besides its image
   bool allocates =
       false;  // scratch, by lumcore: fails with lumStatusMemAlloc and leaves everything as it was
 
