@@ -15,9 +15,8 @@ template <typename T>
 Samples16<T> fromLane(const Pattern<T>& p, size_t lane) {
   return {load16(reinterpret_cast<const Byte*>(p.lane + lane))};
 }
-inline Doubles8 maskOrder(const Pattern<double>& p, size_t lane) {
-  const Doubles4 low = loadDoubles4(p.lane + lane), high = loadDoubles4(p.lane + lane + 4);
-  return ordered({low, high});
+inline Doubles8 fromLane(const Pattern<double>& p, size_t lane) {
+  return {loadDoubles4(p.lane + lane), loadDoubles4(p.lane + lane + 4)};
 }
 
 inline Floats8 insideOf(Floats8 x, Floats8 first, Floats8 last) {
@@ -53,27 +52,26 @@ struct LinearPiece {
   }
 };
 
-// Doubles are kept in the order of widened masks.
 struct CubicPiece {
   Floats8 value, origin;
   Doubles8 a, b, c;
   CubicPiece(const CubicStep& s, size_t lane)
       : value(fromLane(s.value, lane)),
         origin(fromLane(s.origin, lane)),
-        a(maskOrder(s.a, lane)),
-        b(maskOrder(s.b, lane)),
-        c(maskOrder(s.c, lane)) {}
+        a(fromLane(s.a, lane)),
+        b(fromLane(s.b, lane)),
+        c(fromLane(s.c, lane)) {}
   void replace(Floats8 held, const CubicStep& s, size_t lane) {
     value = where(held, fromLane(s.value, lane), value);
     origin = where(held, fromLane(s.origin, lane), origin);
     const Doubles8 both = widenedMask(held);
-    a = where(both, maskOrder(s.a, lane), a);
-    b = where(both, maskOrder(s.b, lane), b);
-    c = where(both, maskOrder(s.c, lane), c);
+    a = where(both, fromLane(s.a, lane), a);
+    b = where(both, fromLane(s.b, lane), b);
+    c = where(both, fromLane(s.c, lane), c);
   }
   Floats8 operator()(Floats8 x) const {
     const Doubles8 t = widened(x - origin), square = t * t;
-    return narrowed((square * ordered(a) + ordered(c)) * t + (widened(value) + square * ordered(b)));
+    return narrowed((square * a + c) * t + (widened(value) + square * b));
   }
 };
 

@@ -54,19 +54,14 @@ inline const Byte* loadedAnew(const Byte* p) {
   return p;
 }
 
-// Eight doubles: in the order of the floats that they belong to, or each half's lower two first, as
-// interleaving a mask with itself widens it.
 struct Doubles8 {
   Doubles4 low, high;
 };
+// A mask of floats as one of the doubles that they become.
 inline Doubles8 widenedMask(Floats8 mask) {
-  return {{_mm256_castps_pd(_mm256_unpacklo_ps(mask.v, mask.v))},
-          {_mm256_castps_pd(_mm256_unpackhi_ps(mask.v, mask.v))}};
-}
-// From the order of masks into that of floats.
-inline Doubles8 ordered(Doubles8 x) {
-  return {{_mm256_permute2f128_pd(x.low.v, x.high.v, 0x20)},
-          {_mm256_permute2f128_pd(x.low.v, x.high.v, 0x31)}};
+  const __m256 low = _mm256_unpacklo_ps(mask.v, mask.v), high = _mm256_unpackhi_ps(mask.v, mask.v);
+  return {{_mm256_castps_pd(_mm256_permute2f128_ps(low, high, 0x20))},
+          {_mm256_castps_pd(_mm256_permute2f128_ps(low, high, 0x31))}};
 }
 inline Doubles8 where(Doubles8 held, Doubles8 yes, Doubles8 no) {
   return {where(held.low, yes.low, no.low), where(held.high, yes.high, no.high)};
