@@ -194,16 +194,12 @@ Suite::Build floatPixels(Several<float> lumi, F f) {
   };
 }
 
-const std::vector<LumiSize> kPadded{kCall, kSmall};
-
 const Family family("lut", [](Suite& suite) {
   suite.row("lut 8u C1", kEverySize, plane<Lum8u>(lumiLUT_8u_C1R));
-  suite.row("lut 8u C1 padded", kPadded, plane<Lum8u>(lumiLUT_8u_C1R), Placement::padded);
   suite.row("lut 8u C3", kUpToHd, pixels<3, 3, Lum8u>(lumiLUT_8u_C3R, lumiLUT_8u_C1R));
   suite.row("lut 8u C4", kUpToHd, pixels<4, 4, Lum8u>(lumiLUT_8u_C4R, lumiLUT_8u_C1R));
   suite.row("lut 8u AC4", kUpToHd, pixels<4, 3, Lum8u>(lumiLUT_8u_AC4R, lumiLUT_8u_C1R));
   suite.row("lut 16u C1", kUpToHd, plane<Lum16u>(lumiLUT_16u_C1R));
-  suite.row("lut 16u C1 padded", kPadded, plane<Lum16u>(lumiLUT_16u_C1R), Placement::padded);
   suite.row("lut 16u C3", kUpToHd, pixels<3, 3, Lum16u>(lumiLUT_16u_C3R, lumiLUT_16u_C1R));
   suite.row("lut 16u AC4", kCachedAndHd, pixels<4, 3, Lum16u>(lumiLUT_16u_AC4R, lumiLUT_16u_C1R));
   suite.row("lut 32f C1", kUpToHd, floats(lumiLUT_32f_C1R, Stay()));

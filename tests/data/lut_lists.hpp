@@ -118,7 +118,7 @@ void describe(Member& m, model::Form form) {
   m.floatResults = isFloat && form != model::Form::Constant;
   m.aliasing = m.inPlace ? Aliasing::None : Aliasing::SameImage;
   m.allocates = isFloat ? form != model::Form::Constant : sizeof(T) == 2;
-  if (sizeof(T) == 2) m.rounds = 3;  // large tables
+  m.rounds = sizeof(T) == 2 ? 3 : 12;  // words have large tables
   m.model = [=](const Call& c) {
     model::lut<T, LevelOf<T>>(form, c.srcImage(), c.dstImage(), c.roi, channels,
                               [&](int channel) { return levelsOf<T>(c, isOne, channel); });

@@ -227,7 +227,7 @@ void expectEveryEntry() {
     const model::Form form = operation == std::string("LUT")          ? model::Form::Constant
                              : operation == std::string("LUT_Linear") ? model::Form::Linear
                                                                       : model::Form::Cubic;
-    for (int turn = 0; turn < settings().scaled(12); ++turn) {
+    for (int turn = 0; turn < settings().scaled(3); ++turn) {
       const int levelCount = random.pick(lut::kCounts);
       alignas(4) Byte values[4 * lut::kMostLevels], levels[4 * lut::kMostLevels];
       lut::fillValues<T>(random, values, lut::kMostLevels);
