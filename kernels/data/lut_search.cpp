@@ -34,30 +34,36 @@ int pieceOf(const PiecewiseFunction& f, float x) {
 }
 
 template <int degree>
-float valueAt(const PiecewiseFunction& f, int piece, float x) {
+void setValue(const PiecewiseFunction& f, int piece, float x, float& result) {
   if constexpr (degree == 0) {
-    return f.values[piece];
+    result = f.values[piece];
   } else if constexpr (degree == 1) {
     const double t = x - f.levels[piece];
-    return static_cast<float>(t * f.coefficients[piece] + static_cast<double>(f.values[piece]));
+    result = static_cast<float>(t * f.coefficients[piece] + static_cast<double>(f.values[piece]));
   } else {
     const int origin = originOf(piece, f.count);
     const double t = x - f.levels[origin], square = t * t;
     const double* const c = f.coefficients + size_t{3} * static_cast<size_t>(piece);
-    return static_cast<float>((square * c[0] + c[2]) * t +
-                              (static_cast<double>(f.values[origin]) + square * c[1]));
+    result = static_cast<float>((square * c[0] + c[2]) * t +
+                                (static_cast<double>(f.values[origin]) + square * c[1]));
   }
 }
 
+// Stores what f(channel, sample, result) makes, or the sample as it is where f makes nothing. Results go by
+// reference: on its way through the x87 unit a signalling NaN would change.
 template <typename T, typename F>
-void mapRow(const Byte* s, Byte* d, size_t pixels, int used, int stored, const F& f) {
-  for (size_t x = 0; x < pixels;
-       ++x, s += static_cast<size_t>(stored) * sizeof(T), d += static_cast<size_t>(stored) * sizeof(T))
+[[gnu::always_inline]] inline void mapRow(const Byte* s, Byte* d, size_t pixels, int used, int stored,
+                                          const F& f) {
+  const size_t pixelBytes = static_cast<size_t>(stored) * sizeof(T);
+  for (size_t x = 0; x < pixels; ++x, s += pixelBytes, d += pixelBytes)
     for (int c = 0; c < used; ++c) {
-      T sample;
-      std::memcpy(&sample, s + static_cast<size_t>(c) * sizeof(T), sizeof(T));
-      sample = f(c, sample);
-      std::memcpy(d + static_cast<size_t>(c) * sizeof(T), &sample, sizeof(T));
+      const size_t at = static_cast<size_t>(c) * sizeof(T);
+      T sample, result;
+      std::memcpy(&sample, s + at, sizeof(T));
+      if (f(c, sample, result))
+        std::memcpy(d + at, &result, sizeof(T));
+      else
+        std::memmove(d + at, s + at, sizeof(T));
     }
 }
 
@@ -66,9 +72,10 @@ void mapRow(const Byte* s, Byte* d, size_t pixels, int used, int stored, const F
 template <int degree>
 void searchRows(SourceRows src, TargetRows dst, Extent pixels, const PiecewiseFunction* functions, int used,
                 int stored) {
-  const auto value = [=](int c, float x) {
+  const auto value = [=](int c, float x, float& result) {
     const int piece = pieceOf(functions[c], x);
-    return piece < 0 ? x : valueAt<degree>(functions[c], piece, x);
+    if (piece >= 0) setValue<degree>(functions[c], piece, x, result);
+    return piece >= 0;
   };
   walkPixels([&](const Byte* s, Byte* d, size_t length) { mapRow<float>(s, d, length, used, stored, value); },
              src, dst, pixels);
@@ -77,11 +84,12 @@ void searchRows(SourceRows src, TargetRows dst, Extent pixels, const PiecewiseFu
 template <typename T>
 void bisectRows(SourceRows src, TargetRows dst, Extent pixels, const StepFunction* functions, int channels) {
   constexpr int low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
-  const auto value = [=](int c, T sample) {
+  const auto value = [=](int c, int x, T& result) {
     const StepFunction& f = functions[c];
-    const int x = sample, pieces = f.count - 1;
-    if (x < f.levels[0] || x >= f.levels[pieces]) return sample;
-    return static_cast<T>(std::clamp(f.values[bisect(f.levels, pieces, x)], low, high));
+    const int pieces = f.count - 1;
+    if (x < f.levels[0] || x >= f.levels[pieces]) return false;
+    result = static_cast<T>(std::clamp(f.values[bisect(f.levels, pieces, x)], low, high));
+    return true;
   };
   walkPixels(
       [&](const Byte* s, Byte* d, size_t length) { mapRow<T>(s, d, length, channels, channels, value); }, src,

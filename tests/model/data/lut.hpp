@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <type_traits>
 
@@ -125,23 +126,28 @@ int entryByHalving(const Levels<Lum32s>& list, int x) {
   return std::clamp<int>(list.value(index), std::numeric_limits<T>::min(), std::numeric_limits<T>::max());
 }
 
-inline float floatOf(Form form, const Levels<Lum32f>& list, float x) {
+// Whether x is in a piece, and what it becomes. By reference: on its way through the x87 unit a signalling
+// NaN would change.
+inline bool floatOf(Form form, const Levels<Lum32f>& list, float x, float& result) {
   for (int k = 0; k + 1 < list.count; ++k) {
     if (!(list.level(k) <= x) || !(list.level(k + 1) > x)) continue;
-    if (form == Form::Constant) return list.value(k);
-    if (form == Form::Linear) {
+    if (form == Form::Constant) {
+      result = list.value(k);
+    } else if (form == Form::Linear) {
       const float slope = (list.value(k + 1) - list.value(k)) / (list.level(k + 1) - list.level(k));
       const float t = x - list.level(k);
-      return static_cast<float>(static_cast<double>(t) * slope + list.value(k));
+      result = static_cast<float>(static_cast<double>(t) * slope + list.value(k));
+    } else {
+      double c[3];
+      cubicOf(list, k, c);
+      const int origin = firstKnot(k, list.count) + 1;
+      const float difference = x - list.level(origin);
+      const double t = difference;
+      result = static_cast<float>((t * t * c[0] + c[2]) * t + (list.value(origin) + t * t * c[1]));
     }
-    double c[3];
-    cubicOf(list, k, c);
-    const int origin = firstKnot(k, list.count) + 1;
-    const float difference = x - list.level(origin);
-    const double t = difference;
-    return static_cast<float>((t * t * c[0] + c[2]) * t + (list.value(origin) + t * t * c[1]));
+    return true;
   }
-  return x;
+  return false;
 }
 
 // list(c) gives the levels of channel c.
@@ -155,13 +161,18 @@ void lut(Form form, Image src, Image dst, LumiSize roi, Channels channels, const
     for (int x = 0; x < roi.width; ++x)
       for (int c = 0; c < channels.moved; ++c) {
         const int at = x * channels.src + c;
-        const T sample = load<T>(src.row(y), at);
-        if constexpr (std::is_floating_point_v<T>)
-          store<T>(dst.row(y), at, floatOf(form, list(c), sample));
-        else
+        const Byte* const from = src.row(y) + static_cast<size_t>(at) * sizeof(T);
+        Byte* const to = dst.row(y) + static_cast<size_t>(at) * sizeof(T);
+        const T sample = load<T>(from, 0);
+        std::memmove(to, from, sizeof(T));
+        if constexpr (std::is_floating_point_v<T>) {
+          T result = 0;
+          if (floatOf(form, list(c), sample, result)) store<T>(to, 0, result);
+        } else {
           store<T>(
-              dst.row(y), at,
+              to, 0,
               static_cast<T>(halves ? entryByHalving<T>(list(c), sample) : entry<T>(form, list(c), sample)));
+        }
       }
 }
 
