@@ -42,6 +42,7 @@ LumStatus statusOf(const CheckStep& step) {
     case Check::Null:
     case Check::Value:
     case Check::Each:
+    case Check::Pointer:
       return lumStatusNullPointer;
     case Check::Size:
     case Check::Width:
@@ -50,6 +51,7 @@ LumStatus statusOf(const CheckStep& step) {
       return lumStatusBadSize;
     case Check::Step:
     case Check::Row:
+    case Check::Zerostep:
       return lumStatusBadStep;
     case Check::Range:
       return lumStatusBadDataRange;
@@ -59,6 +61,12 @@ LumStatus statusOf(const CheckStep& step) {
       break;
   }
   return lumStatusOk;
+}
+
+bool isTestedApart(const ExportRow& row, size_t argument) {
+  return std::any_of(row.checks.begin(), row.checks.end(), [&](const CheckStep& step) {
+    return step.check == Check::Pointer && std::strcmp(step.argument, row.arguments[argument].name) == 0;
+  });
 }
 
 bool finds(const CheckStep& step, const ExportRow& row, const BadArgument& fault) {
@@ -71,14 +79,17 @@ bool finds(const CheckStep& step, const ExportRow& row, const BadArgument& fault
   }
   switch (step.check) {
     case Check::Null:
-      return wrong == Wrong::Null ||
+      return (wrong == Wrong::Null && !isTestedApart(row, fault.argument)) ||
              (wrong == Wrong::NullPlane && row.arguments[fault.argument].kind == Kind::Planes);
+    case Check::Pointer:
+      return wrong == Wrong::Null && std::strcmp(step.argument, row.arguments[fault.argument].name) == 0;
     case Check::Size:
       return wrong == Wrong::Width || wrong == Wrong::Height;
     case Check::Width:
       return wrong == Wrong::Width;
     case Check::Step:
     case Check::Row:
+    case Check::Zerostep:
       return wrong == Wrong::Step;
     case Check::Offset:
       return wrong == Wrong::Offset;
@@ -156,7 +167,7 @@ class Faults {
       case Kind::Size:
         return addSizes();
       case Kind::Step:
-        return addNumbers(checksSteps() ? Wrong::Step : Wrong::Harmless, {0, -1, INT32_MIN});
+        return addSteps();
       case Kind::Offset:
         return addNumbers(Wrong::Offset, {-1, INT32_MIN});
       case Kind::Lower:  // the other bound is 255
@@ -172,8 +183,6 @@ class Faults {
     }
   }
 
-  bool checksSteps() const { return has(row_, Check::Step) || has(row_, Check::Row); }
-
   void add(Wrong wrong, const std::string& what, const Slot& slot, int part = 0) {
     list_.push_back({index_, wrong, what + " of " + argument_.name, slot, part});
   }
@@ -181,6 +190,12 @@ class Faults {
     Slot slot;
     slot.setPointer(nullptr);
     add(wrong, "null", slot);
+  }
+  void addSteps() {
+    const bool refused = has(row_, Check::Step) || has(row_, Check::Row),
+               zeroRefused = refused || has(row_, Check::Zerostep);
+    addNumbers(zeroRefused ? Wrong::Step : Wrong::Harmless, {0});
+    addNumbers(refused ? Wrong::Step : Wrong::Harmless, {-1, INT32_MIN});
   }
   void addPlanes() {
     addNull(Wrong::Null);

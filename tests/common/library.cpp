@@ -13,7 +13,8 @@ TEST(Library, IsTheOneToBeTried) {
   if (!wanted) GTEST_SKIP() << "LUMI_TEST_LIBRARY names none";
   Dl_info loaded;
   ASSERT_NE(dladdr(dlsym(RTLD_DEFAULT, "lumiGetLibVersion"), &loaded), 0);
-  EXPECT_TRUE(std::filesystem::equivalent(loaded.dli_fname, wanted)) << loaded.dli_fname << " instead of " << wanted;
+  EXPECT_TRUE(std::filesystem::equivalent(loaded.dli_fname, wanted))
+      << loaded.dli_fname << " instead of " << wanted;
 }
 
 }  // namespace

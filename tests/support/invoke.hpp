@@ -38,8 +38,24 @@ enum class Passing { Pointer, Int32, Int64, Float, Double, Pair, Rect, Halves, F
 
 // A step of the order in which an operation checks its arguments.
 // Status: an argument's values that have a status of their own.
+// Pointer: an argument's pointer, where it is tested apart from the others.
 // Own: an order that the general words do not tell; the family's own tests do.
-enum class Check { Null, Size, Width, Step, Offset, Range, Inside, Value, Each, Row, Own, Status };
+enum class Check {
+  Null,
+  Size,
+  Width,
+  Step,
+  Zerostep,
+  Offset,
+  Range,
+  Inside,
+  Value,
+  Each,
+  Row,
+  Own,
+  Status,
+  Pointer
+};
 
 // A number, or those of a size, a point or a rectangle.
 struct Value {
@@ -77,7 +93,7 @@ struct Argument {
 
 struct CheckStep {
   Check check;
-  const char* argument;  // whose values have the status
+  const char* argument;  // whose values have the status, or whose pointer is tested
   LumStatus status;
 };
 

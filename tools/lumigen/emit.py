@@ -12,6 +12,7 @@ CHECK_TEXT = {
     "size": "lumStatusBadSize (-6)      roi.width or roi.height is below 1",
     "width": "lumStatusBadSize (-6)      roi.width is below 1",
     "step": "lumStatusBadStep (-14)     a step is below 1",
+    "zerostep": "lumStatusBadStep (-14)     a step is 0",
     "offset": "lumStatusBadSize (-6)      a bit offset is negative",
     "range": "lumStatusBadDataRange (-13) upper is not above lower",
     "inside": "lumStatusBadSize (-6)      top or left is negative, or dstRoi does not hold srcRoi at that place",
@@ -58,11 +59,14 @@ def _check_text(word, export):
         abouts = dict.fromkeys(r.about for r in found if r.by == status and r.about)
         code = f"lumStatus{status} ({reader.statuses()[status]})"
         return f"{code:<26} {'; '.join(abouts) or name + ' is refused'}"
+    if word not in CHECK_TEXT:
+        return f"lumStatusNullPointer (-8)  {word} is null"
     text = CHECK_TEXT[word]
     if word == "value":
         names = [a.name for a in export.args if a.kind == "values"] or ["value"]
         text = text.replace("value", " or ".join(names))
-    if word == "null" and "value" in export.check:
+    apart = {"value"} | reader.own_pointers(export.op)
+    if word == "null" and apart.intersection(export.check):
         text = text.replace("a pointer is null, plane pointers included", "an image's pointer is null")
     if word == "null" and "each" in export.check:
         text = text.replace(", plane pointers included", "")

@@ -9,7 +9,7 @@ from dataclasses import dataclass, field
 from . import grammar
 from .grammar import Export, GrammarError, Param, Refused
 
-CHECKS = ("null", "size", "width", "step", "offset", "range", "inside", "value", "each", "row", "own")
+CHECKS = ("null", "size", "width", "step", "zerostep", "offset", "range", "inside", "value", "each", "row", "own")
 STATUS = re.compile(r"^  lumStatus(\w+) = (-?\d+)", re.M)
 HOMES = ("frame", "arithmetic", "data", "statistics", "filters", "geometry", "transforms", "analysis")
 
@@ -49,6 +49,11 @@ def statuses():
 def own_statuses(op):
     """Params that refuse values by a status, which then are words of check."""
     return {p.name for p in op.params for r in p.refused if r.by not in CHECKS}
+
+
+def own_pointers(op):
+    """Pointers that a row may test apart from the others."""
+    return {p.name for p in op.params if "*" in p.ctype and not p.optional}
 
 
 def split_outside_braces(text):
@@ -245,8 +250,9 @@ class _Reader:
                 self._fail(f"no value of '{name}' is refused by '{status}'")
             if not status and len(own) > 1:
                 self._fail(f"'{name}' is refused by {' '.join(sorted(own))}: say {name}:status")
-        elif word not in CHECKS:
-            self._fail(f"check takes words of: {' '.join(CHECKS)}, and params that refuse values by a status")
+        elif word not in CHECKS and word not in own_pointers(op):
+            self._fail(f"check takes words of: {' '.join(CHECKS)}, params that refuse values by a status, and pointers "
+                       "tested apart from the others")
 
     def _members(self, words):
         """Groups of (types, descriptor) pairs; each group is one implementation."""

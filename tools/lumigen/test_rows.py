@@ -57,6 +57,8 @@ def _check(word, export):
     if word in reader.CHECKS:
         return f"{{Check::{word.capitalize()}, nullptr, lumStatusOk}}"
     arg = next(a for a in export.args if a.name == name)
+    if arg.passing == "pointer":
+        return f'{{Check::Pointer, "{name}", lumStatusOk}}'
     status = status or next(r.by for r in arg.refused if r.by not in reader.CHECKS)
     return f'{{Check::Status, "{name}", lumStatus{status}}}'
 

@@ -186,6 +186,16 @@ class Rows(unittest.TestCase):
         self.assertIn("a width or a height is below 1", header)
         self.assertIn("(-8)  value is null", header)
 
+    def test_pointers_tested_apart(self):
+        family = read(HEAD + "  param order const Lum32s* : channels\n  args src order\n"
+                      "  8u C1R check null zerostep order bind probe\n")
+        header = emit.family_header(family)
+        self.assertIn("an image's pointer is null", header)
+        self.assertIn("a step is 0", header)
+        self.assertIn("(-8)  order is null", header)
+        self.assertIn('{Check::Zerostep, nullptr, lumStatusOk},\n    {Check::Pointer, "order", lumStatusOk}',
+                      test_rows.export_table([family]))
+
     def test_no_types(self):
         self.assertIn("lumiProbe", exports(HEAD + "  returns void\n  - bind probe\n"))
 
