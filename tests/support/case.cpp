@@ -13,7 +13,7 @@ namespace {
 constexpr int kSmallWidths = 70;
 constexpr int kLargeWidths[] = {95,  96,  97,  127, 128, 129, 130, 255, 256,
                                 257, 258, 511, 512, 513, 514, 997, 1000};
-constexpr int kHeights[] = {1, 1, 2, 3, 5};
+constexpr int kHeightOfLargeWidths = 5;
 constexpr int kRoundsPerLargeWidth = 4;
 
 // Pixels are what costs: a round has every small width once, and each large one only every few rounds, with
@@ -23,6 +23,12 @@ int widthOf(int index, Random& random) {
   if (at < kSmallWidths) return at + 1;
   const int large = at - kSmallWidths;
   return (round + large) % kRoundsPerLargeWidth == 0 ? kLargeWidths[large] : random.between(1, kSmallWidths);
+}
+
+int heightOf(const Member& member, int width, Random& random) {
+  const int height = random.pick(member.heights);
+  if (width > kSmallWidths) return std::min(height == Member::kAsWide ? 1 : height, kHeightOfLargeWidths);
+  return height == Member::kAsWide ? width : height;
 }
 
 int anyStep(Random& random, int tight, int height) {
@@ -120,7 +126,7 @@ Case makeCase(const Member& member, uint64_t seed, int index) {
   c.index = index;
   c.contents = random.next();
   c.roi.width = widthOf(index, random);
-  c.roi.height = random.pick(kHeights);
+  c.roi.height = heightOf(member, c.roi.width, random);
 
   for (size_t i = 0; i < member.numbers.size(); ++i)
     if (!member.numbers[i].empty()) c.numbers[i] = random.pick(member.numbers[i]);
@@ -128,14 +134,16 @@ Case makeCase(const Member& member, uint64_t seed, int index) {
   if (!member.bounds.empty()) c.bounds = random.pick(member.bounds);
   const int srcTight = member.src.tightStep(c.roi.width, c.numbers[0]);
   const int src2Tight = member.src2.tightStep(c.roi.width, 0);
-  const int dstTight = member.dst.tightStep(c.roi.width, c.numbers[0]);
+  const LumiSize dstSize = member.dstSize(c.roi);
+  const int dstTight = member.dst.tightStep(dstSize.width, c.numbers[0]);
   const bool allTight = random.oneIn(3);
   const auto step = [&](int tight) { return allTight ? tight : anyStep(random, tight, c.roi.height); };
   c.srcStep = step(srcTight);
-  c.dstStep = step(dstTight);
+  c.dstStep = allTight ? dstTight : anyStep(random, dstTight, dstSize.height);
   c.maskStep = step(c.roi.width);
   c.src2Step = step(src2Tight);
-  if (member.floatResults && !allTight) c.dstStep = separateStep(random, dstTight);
+  const bool separateRows = member.floatResults || member.separateRows;
+  if (separateRows && !allTight) c.dstStep = separateStep(random, dstTight);
 
   // The destination's phase takes every value in turn, for each width and over the members; the source's is
   // any.
@@ -164,13 +172,16 @@ Case makeCase(const Member& member, uint64_t seed, int index) {
     c.dstChannel = (c.srcChannel + random.between(1, channels - 1)) % channels;
     c.dstStep = separateStep(random, dstTight);
   }
-  if (member.checksSteps && member.floatResults) c.dstStep = std::abs(c.dstStep);
+  if (member.checksSteps && separateRows) c.dstStep = std::abs(c.dstStep);
   if (member.checksSteps)
     for (int* each : {&c.srcStep, &c.src2Step, &c.dstStep, &c.maskStep}) *each = std::max(1, *each);
   if (member.checksRows) {
     c.srcStep = std::max(c.srcStep, srcTight);
     c.dstStep = std::max(c.dstStep, dstTight);
   }
+  if (member.refusesZeroSteps)
+    for (int* each : {&c.srcStep, &c.src2Step, &c.dstStep})
+      if (*each == 0) *each = -1;
   if (c.srcIsDst) c.srcStep = c.dstStep;
   if (c.src2IsDst) c.src2Step = c.dstStep;
   return c;

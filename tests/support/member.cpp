@@ -243,6 +243,7 @@ Member memberOf(const ExportRow& row) {
   for (const CheckStep& step : row.checks) {
     m.checksSteps |= step.check == Check::Step;
     m.checksRows |= step.check == Check::Row;
+    m.refusesZeroSteps |= step.check == Check::Zerostep;
   }
   m.row = &row;
   return m;

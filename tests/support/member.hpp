@@ -127,14 +127,18 @@ struct Member {
   Operand src, src2, dst;
   bool inPlace = false;
   Aliasing aliasing = Aliasing::None;
-  bool masked = false, checksSteps = false;
+  bool masked = false, checksSteps = false, refusesZeroSteps = false;
   bool checksRows = false;        // refuses steps that are below a row's bytes
   bool mayStream = true;          // whether large images are tried
   int64_t streamsFrom = 2 << 20;  // bytes moved from which on a path may depend on them, at the most
   int64_t asksFrom = 1 << 20;     // bytes moved up to which nothing asks for the cache's size
   bool floatResults = false;      // NaNs need not have equal bits, and rows of the destination are apart
-  int values = 0;                 // samples of all constants, one behind the other
-  bool valuesByPointer = false;   // of several channels
+  bool separateRows = false;      // rows of the destination must not overlap one another
+  bool transposes = false;        // the destination is as wide as the ROI is high, and as high as it is wide
+  std::vector<int> heights = {1, 1, 2, 3, 5};  // kAsWide: those of a square; above 5 beside small widths only
+  static constexpr int kAsWide = 0;
+  int values = 0;                                      // samples of all constants, one behind the other
+  bool valuesByPointer = false;                        // of several channels
   std::function<void(Random&, Byte*)> arrangeValues;   // makes most of them acceptable, where not all are
   std::vector<Contents> contents = {Contents::Bytes};  // of sources and values
   std::vector<std::vector<int>> numbers;  // what each number that is not chosen by name is chosen from
@@ -173,6 +177,7 @@ struct Member {
   Outcome invoke(const Call& call, int misalignment = 0) const;
   // Expects that the rules of the calling convention are kept.
   LumStatus run(const Call& call) const;
+  LumiSize dstSize(LumiSize roi) const { return transposes ? LumiSize{roi.height, roi.width} : roi; }
   bool planar() const { return src.planes > 1 || dst.planes > 1; }
 };
 

@@ -127,7 +127,8 @@ void Stage::placeImages(const Member& member, const Case& c, Call& call) {
   }
   const auto add = [&](const char* role, const Arena& arena, const Placement& where, int step,
                        const Operand& operand) {
-    placed_.push_back(place(role, arena, where, step, c.roi, c.numbers[0], operand));
+    const LumiSize size = &operand == &dst ? member.dstSize(c.roi) : c.roi;
+    placed_.push_back(place(role, arena, where, step, size, c.numbers[0], operand));
     return placed_.back().first;
   };
   for (int p = 0; p < dst.planes; ++p) {
