@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "kernels/data/copy_channels.hpp"
 
-#include "kernels/simd/bytes.hpp"
+#include "kernels/simd/pixels.hpp"
 
 namespace lumi {
 namespace {
@@ -40,26 +40,6 @@ constexpr auto otherChannels() {
   return masks;
 }
 
-// Sorts 12 bytes of colour into 16 with room for alpha, and back.
-template <int sampleBytes>
-constexpr Control widenControl(int start) {
-  Control c{};
-  for (int j = 0; j < 16; ++j) {
-    const int pixel = j / (4 * sampleBytes), within = j % (4 * sampleBytes);
-    c[j] = within < 3 * sampleBytes ? static_cast<Byte>(start + pixel * 3 * sampleBytes + within) : kZero;
-  }
-  return c;
-}
-
-template <int sampleBytes>
-constexpr Control narrowControl(int first) {
-  Control c{};
-  for (Byte& b : c) b = kZero;
-  for (int k = 0; k < 12; ++k)
-    c[(first + k) % 16] = static_cast<Byte>(k / (3 * sampleBytes) * 4 * sampleBytes + k % (3 * sampleBytes));
-  return c;
-}
-
 // Eight pixels of 32-bit samples without their alpha. In each half, vector i is pixel i of four, turned to
 // where its samples stand in three vectors of four pixels.
 void narrowEight(const Byte* src, Byte* dst) {
@@ -93,10 +73,7 @@ template <int sampleBytes>
                                            narrowControl<sampleBytes>(8), narrowControl<sampleBytes>(4)};
     for (; pixels >= kBlock<sampleBytes>; pixels -= kBlock<sampleBytes>, src += 64, dst += 48) {
       const auto group = [&](int i) { return shuffleBytes(load16(src + 16 * i), vectorOf(controls[i])); };
-      const Bytes16 a = group(0), b = group(1), c = group(2), d = group(3);
-      store16(dst, blendDwords<0b1000>(a, b));
-      store16(dst + 16, blendDwords<0b1100>(b, c));
-      store16(dst + 32, blendDwords<0b1110>(c, d));
+      storeTurned(dst, group(0), group(1), group(2), group(3));
     }
   }
   for (; pixels; --pixels, src += 4 * sampleBytes, dst += 3 * sampleBytes) move<3 * sampleBytes>(dst, src);

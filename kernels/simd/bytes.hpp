@@ -90,6 +90,12 @@ inline Bytes16 load16Once(const Byte* p) {
   return v;
 }
 
+// The bytes from byte n on, then zeros.
+template <int n>
+inline Bytes16 bytesFrom(Bytes16 v) {
+  return _mm_srli_si128(v, n);
+}
+
 // The first or the last bytes of a vector.
 inline void storeFirst8(Byte* p, Bytes16 v) { _mm_storel_epi64(reinterpret_cast<__m128i*>(p), v); }
 inline void storeLast8(Byte* p, Bytes16 v) {
@@ -203,6 +209,14 @@ inline Bytes16 blendDwords(Bytes16 a, Bytes16 b) {
 // The low or the high dwords of two vectors in turn.
 inline Bytes16 interleaveLowDwords(Bytes16 a, Bytes16 b) { return _mm_unpacklo_epi32(a, b); }
 inline Bytes16 interleaveHighDwords(Bytes16 a, Bytes16 b) { return _mm_unpackhi_epi32(a, b); }
+
+// In each half: the low or the high quads of two vectors.
+inline Bytes32 interleaveLowQuads(Bytes32 a, Bytes32 b) {
+  return _mm256_castpd_si256(_mm256_unpacklo_pd(_mm256_castsi256_pd(a), _mm256_castsi256_pd(b)));
+}
+inline Bytes32 interleaveHighQuads(Bytes32 a, Bytes32 b) {
+  return _mm256_castpd_si256(_mm256_unpackhi_pd(_mm256_castsi256_pd(a), _mm256_castsi256_pd(b)));
+}
 
 // The first, third and so on of the pixels of two vectors.
 template <size_t bytes>

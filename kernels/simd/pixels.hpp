@@ -40,4 +40,60 @@ constexpr Control repeatControl(int from) {
   return c;
 }
 
+// Stores the first bytes of a vector, and nothing behind them: by two stores that may lie over one another.
+template <int bytes>
+void storePixel(Byte* p, Bytes16 v) {
+  static_assert(bytes == 3 || bytes == 4 || bytes == 6 || bytes == 8 || (bytes >= 12 && bytes <= 16));
+  if constexpr (bytes == 16) {
+    store16(p, v);
+  } else if constexpr (bytes >= 8) {
+    storeFirst8(p, v);
+    if constexpr (bytes == 12) {
+      const uint32_t last = firstDword(bytesFrom<8>(v));
+      std::memcpy(p + 8, &last, 4);
+    } else if constexpr (bytes > 12) {
+      storeFirst8(p + bytes - 8, bytesFrom<bytes - 8>(v));
+    }
+  } else {
+    const uint32_t first = firstDword(v);
+    std::memcpy(p, &first, bytes < 4 ? 2 : 4);
+    if constexpr (bytes == 3) p[2] = static_cast<Byte>(first >> 16);
+    if constexpr (bytes == 6) {
+      const uint32_t last = firstDword(bytesFrom<4>(v));
+      std::memcpy(p + 4, &last, 2);
+    }
+  }
+}
+
+// Sorts 12 bytes of three samples a pixel into 16 with room for a fourth. The bytes begin at `start`.
+template <int sampleBytes>
+constexpr Control widenControl(int start) {
+  Control c{};
+  for (int j = 0; j < 16; ++j) {
+    const int pixel = j / (4 * sampleBytes), within = j % (4 * sampleBytes);
+    c[static_cast<size_t>(j)] =
+        within < 3 * sampleBytes ? static_cast<Byte>(start + pixel * 3 * sampleBytes + within) : kZero;
+  }
+  return c;
+}
+
+// The way back, turned: the twelve bytes begin at byte `first` of the result, and go on at its start.
+template <int sampleBytes>
+constexpr Control narrowControl(int first) {
+  Control c{};
+  for (Byte& b : c) b = kZero;
+  for (int k = 0; k < 12; ++k)
+    c[static_cast<size_t>((first + k) % 16)] =
+        static_cast<Byte>(k / (3 * sampleBytes) * 4 * sampleBytes + k % (3 * sampleBytes));
+  return c;
+}
+
+// Four times twelve bytes in a row. Those of a begin at its start, of b at byte 12, of c at byte 8, of d at
+// byte 4; each goes on at its own start.
+inline void storeTurned(Byte* dst, Bytes16 a, Bytes16 b, Bytes16 c, Bytes16 d) {
+  store16(dst, blendDwords<0b1000>(a, b));
+  store16(dst + 16, blendDwords<0b1100>(b, c));
+  store16(dst + 32, blendDwords<0b1110>(c, d));
+}
+
 }  // namespace lumi::simd
