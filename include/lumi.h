@@ -19,6 +19,7 @@
 #include "lumi/logic.h"
 #include "lumi/lut.h"
 #include "lumi/lut_palette.h"
+#include "lumi/mirror.h"
 #include "lumi/mul.h"
 #include "lumi/mul_scale.h"
 #include "lumi/resize.h"
@@ -26,6 +27,7 @@
 #include "lumi/set.h"
 #include "lumi/shift.h"
 #include "lumi/threshold.h"
+#include "lumi/transpose.h"
 #include "lumi/unary.h"
 #include "lumi/version.h"
 
