@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include "kernels/data/swap_channels.hpp"
+
+#include <algorithm>
+
+#include "kernels/simd/pixels.hpp"
+#include "kernels/simd/samples.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace simd;
+
+constexpr size_t kHalf = sizeof(Bytes16);
+
+// As many whole pixels as sixteen bytes have in both images, and what is made of them.
+template <int sampleBytes, int srcChannels, int dstChannels, int used>
+class Swap {
+ public:
+  static constexpr size_t kSrcPixel = sampleBytes * srcChannels, kDstPixel = sampleBytes * dstChannels,
+                          kPixels = kHalf / std::max(kSrcPixel, kDstPixel),
+                          kSrcBytes = kPixels * kSrcPixel, kDstBytes = kPixels * kDstPixel;
+  static constexpr bool kMayLeaveMore =
+      srcChannels != dstChannels && kHalf / std::min(kSrcPixel, kDstPixel) > kPixels;
+  static constexpr bool kInserts = srcChannels == 3 && dstChannels == 4;
+
+  explicit Swap(const ChannelSources& sources) {
+    static constexpr auto spreading = spread();
+    static constexpr Control starts = startsOfBytes();
+    static constexpr auto alpha = pixelMask<kDstPixel, sampleBytes * used, kHalf>(0, 0xFF);
+    const S32 order{load16(reinterpret_cast<const Byte*>(sources.channels))}, three = broadcast16(3);
+    const auto toBytes = [](S32 v) { return U8{shuffleBytes(v.v, vectorOf(spreading))}; };
+    const U8 firsts = toBytes(order << Shift(sampleBytes == 4 ? 2 : sampleBytes - 1)) + U8{vectorOf(starts)};
+    control_ = firsts.v;
+    value_ = kept_ = load16(alpha.bytes);
+    if constexpr (kInserts) {
+      const U8 isValue = toBytes(isEqual(order, three)), isKept = toBytes(isAboveSigned(order, three));
+      control_ = (firsts | isValue | isKept).v;  // top bits, which give zeros
+      value_ = bitAnd(isValue.v, broadcast16(sample(sources.value)).v);
+      kept_ = isKept.v;
+    }
+    constexpr auto behind = static_cast<uint8_t>(kHalf - kSrcBytes);
+    controlAtEnd_ = addSaturated(U8{control_}, broadcast16(behind)).v;
+  }
+
+  static bool keeps(const ChannelSources& sources) {
+    const auto& channels = sources.channels;
+    return used < dstChannels || (kInserts && *std::max_element(channels, channels + 4) > 3);
+  }
+
+  // The last vector may lie over others: it is made before them.
+  template <bool keeping>
+  [[gnu::always_inline]] inline void row(const Byte* src, Byte* dst, size_t pixels, size_t vectors) const {
+    Byte* const lastDst = dst + (pixels - kPixels) * kDstPixel;
+    const Bytes16 last = made<keeping>(load16(src + pixels * kSrcPixel - kHalf), controlAtEnd_, lastDst);
+    for (; vectors; --vectors, src += kSrcBytes, dst += kDstBytes)
+      store16(dst, made<keeping>(load16(src), control_, dst));
+    // A vector of one image may end where the other has pixels left.
+    if (kMayLeaveMore && dst < lastDst)
+      storePixel<static_cast<int>(kDstBytes)>(
+          dst, made<keeping>(load16(src + kSrcBytes - kHalf), controlAtEnd_, dst));
+    storePixel<static_cast<int>(kDstBytes)>(lastDst, last);
+  }
+
+  // In place a vector is read before the store, which goes beyond the pixels in front of it.
+  [[gnu::always_inline]] inline void rowInPlace(Byte* row, size_t pixels, size_t vectors) const {
+    Byte* const lastRead = row + pixels * kSrcPixel - kHalf;
+    const Bytes16 last = made<false>(load16(lastRead), controlAtEnd_, row);
+    Bytes16 next = load16(row);
+    for (Byte* at = row; vectors; --vectors, at += kSrcBytes) {
+      const Bytes16 now = next;
+      next = load16(std::min(at + kSrcBytes, lastRead));
+      store16(at, made<false>(now, control_, at));
+    }
+    storePixel<static_cast<int>(kDstBytes)>(lastRead + kHalf - kDstBytes, last);
+  }
+
+  template <bool keeping>
+  void byPixels(const Byte* src, Byte* dst, size_t pixels) const {
+    for (; pixels; --pixels, src += kSrcPixel, dst += kDstPixel) {
+      Bytes16 v = withValue(shuffleBytes(loadPixel<kSrcPixel>(src), control_));
+      if constexpr (keeping) v = bitOr(v, bitAnd(loadPixel<kDstPixel>(dst), kept_));
+      storePixel<static_cast<int>(kDstPixel)>(dst, v);
+    }
+  }
+
+  // How many vectors may be read and stored from a row's start on; none where it is too short for any.
+  static size_t vectorsOf(size_t pixels) {
+    const size_t from = pixels * kSrcPixel, to = pixels * kDstPixel;
+    if (from < kHalf || to < kHalf) return 0;
+    return std::min((from - kHalf) / kSrcBytes, (to - kHalf) / kDstBytes) + 1;
+  }
+
+ private:
+  // Each byte takes the low one of its channel's dword.
+  static constexpr Control spread() {
+    Control c{};
+    for (size_t j = 0; j < kHalf; ++j)
+      c[j] = isStored(j) ? static_cast<Byte>(j % kDstPixel / sampleBytes * 4) : kZero;
+    return c;
+  }
+  // Where a byte comes from, were its channel the first.
+  static constexpr Control startsOfBytes() {
+    Control c{};
+    for (size_t j = 0; j < kHalf; ++j)
+      c[j] = isStored(j) ? static_cast<Byte>(j / kDstPixel * kSrcPixel + j % sampleBytes) : kZero;
+    return c;
+  }
+  static constexpr bool isStored(size_t j) { return j < kDstBytes && j % kDstPixel < sampleBytes * used; }
+
+  static auto sample(uint32_t bits) {
+    if constexpr (sampleBytes == 1)
+      return static_cast<uint8_t>(bits);
+    else if constexpr (sampleBytes == 2)
+      return static_cast<uint16_t>(bits);
+    else
+      return bits;
+  }
+  [[gnu::always_inline]] inline Bytes16 withValue(Bytes16 v) const {
+    return kInserts ? bitOr(v, value_) : v;
+  }
+  template <bool keeping>
+  [[gnu::always_inline]] inline Bytes16 made(Bytes16 src, Bytes16 control, const Byte* dst) const {
+    const Bytes16 v = withValue(shuffleBytes(src, control));
+    if constexpr (keeping)
+      return bitOr(v, bitAnd(load16(dst), kept_));
+    else
+      return v;
+  }
+
+  Bytes16 control_, controlAtEnd_;  // of vectors that begin with the pixels, and that end with them
+  Bytes16 value_, kept_;
+};
+
+}  // namespace
+
+template <int sampleBytes, int srcChannels, int dstChannels, int used>
+void swapChannelRows(SourceRows src, TargetRows dst, Extent pixels, const ChannelSources& sources) {
+  using S = Swap<sampleBytes, srcChannels, dstChannels, used>;
+  const S swap(sources);
+  const size_t length = pixels.length, vectors = S::vectorsOf(length);
+  const auto walk = [&](auto keeping) {
+    if (vectors == 0)
+      walkRows(
+          pixels.rows,
+          [=](const Byte* s, Byte* d) { swap.template byPixels<keeping.value>(s, d, length); }, src, dst);
+    else
+      walkRows(
+          pixels.rows,
+          [=](const Byte* s, Byte* d) { swap.template row<keeping.value>(s, d, length, vectors); }, src, dst);
+  };
+  if constexpr (S::kInserts || used < dstChannels) {
+    if (S::keeps(sources)) return walk(std::true_type());
+  }
+  if constexpr (used == dstChannels) walk(std::false_type());
+}
+
+void swapThreeBytes(TargetRows image, Extent pixels, const ChannelSources& sources) {
+  using S = Swap<1, 3, 3, 3>;
+  const S swap(sources);
+  const size_t length = pixels.length, vectors = S::vectorsOf(length);
+  if (vectors == 0)
+    walkRows(
+        pixels.rows, [=](Byte* row) { swap.byPixels<false>(row, row, length); }, image);
+  else
+    walkRows(
+        pixels.rows, [=](Byte* row) { swap.rowInPlace(row, length, vectors); }, image);
+}
+
+#define LUMI_SWAP(sample, from, to, used) \
+  template void swapChannelRows<sample, from, to, used>(SourceRows, TargetRows, Extent, const ChannelSources&);
+#define LUMI_LAYOUTS(sample)                                                                      \
+  LUMI_SWAP(sample, 3, 3, 3)                                                                      \
+  LUMI_SWAP(sample, 4, 4, 4) LUMI_SWAP(sample, 4, 4, 3) LUMI_SWAP(sample, 3, 4, 4) LUMI_SWAP(sample, 4, 3, 3)
+LUMI_LAYOUTS(1)
+LUMI_LAYOUTS(2)
+LUMI_LAYOUTS(4)
+
+}  // namespace lumi
