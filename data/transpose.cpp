@@ -38,8 +38,8 @@ constexpr StreamedShape kStreamed<16, 4>{256, 4, 4, 16};
 
 template <typename T>
 bool isMultiple(const T* image, int step, int of) {
-  return ((reinterpret_cast<uintptr_t>(image) | static_cast<uintptr_t>(step)) & static_cast<uintptr_t>(of - 1)) ==
-         0;
+  return ((reinterpret_cast<uintptr_t>(image) | static_cast<uintptr_t>(step)) &
+          static_cast<uintptr_t>(of - 1)) == 0;
 }
 
 // The core library is asked only about images that could go past the cache.
@@ -56,10 +56,11 @@ bool streams(const T* src, int srcStep, const T* dst, int dstStep, LumiSize roi)
   }
 }
 
+LumStatus square(LumiSize roi) { return roi.width == roi.height ? lumStatusOk : lumStatusBadSize; }
+
 template <typename T, typename Layout>
 LumStatus transposeInPlace(T* image, int step, LumiSize roi) {
-  if (LumStatus fault = firstFault(pointers(image), size(roi))) return fault;
-  if (roi.width != roi.height) return lumStatusBadSize;
+  if (LumStatus fault = firstFault(pointers(image), size(roi), square(roi))) return fault;
   transposeSquare<kPixelBytes<T, Layout>>(rows(image, step), roi.width);
   return lumStatusOk;
 }

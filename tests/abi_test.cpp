@@ -12,8 +12,9 @@
 namespace test {
 namespace {
 
-constexpr int kRowBytes = 4096, kRows = 3;
-alignas(64) std::array<std::array<Lum8u, kRowBytes * kRows + 64>, 8> memory;
+// Columns may become rows.
+constexpr int kRowBytes = 4096, kRows = 3, kMostColumns = 130;
+alignas(64) std::array<std::array<Lum8u, kRowBytes * kMostColumns + 64>, 8> memory;
 
 // Samples that may divide, whatever their type.
 const std::array<Lum8u, 64> constants = [] {
@@ -21,6 +22,8 @@ const std::array<Lum8u, 64> constants = [] {
   all.fill(0x41);
   return all;
 }();
+
+std::array<Lum32s, 4> firstChannels{};
 
 // Arguments of a call that runs, on memory of its own for each pointer.
 std::vector<Slot> runningArguments(const ExportRow& row, int width) {
@@ -34,12 +37,15 @@ std::vector<Slot> runningArguments(const ExportRow& row, int width) {
       for (int p = 0; p < argument.count; ++p) slots[i].planes[p] = image();
     } else if (argument.kind == Kind::Values) {
       slots[i].setPointer(constants.data());
+    } else if (std::string(argument.name) == "order") {
+      slots[i].setPointer(firstChannels.data());
     } else if (argument.passing == Passing::Pointer) {
       slots[i].setPointer(image());
     } else if (argument.kind == Kind::Step) {
       slots[i].set(kRowBytes);
     } else if (argument.kind == Kind::Size && argument.base.numbers[0] == 7) {  // no size of a kernel
-      slots[i].set(LumiSize{width, kRows});
+      const bool isSquare = argument.base.numbers[1] == 7;
+      slots[i].set(LumiSize{isSquare ? kRows : width, kRows});
     }
   }
   return slots;
@@ -54,7 +60,7 @@ void callAll(int width, int misalignment) {
 }
 
 TEST(CallDiscipline, RegistersAndControlWordsSurvive) {
-  for (int width : {1, 5, 33, 130}) callAll(width, 0);
+  for (int width : {1, 5, 33, kMostColumns}) callAll(width, 0);
 }
 
 #ifdef __i386__

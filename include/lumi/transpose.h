@@ -14,15 +14,19 @@ extern "C" {
  * Exchanges rows and columns.
  *
  * dst(y, x) = src(x, y): roi is the size of the source, and the destination is roi.height wide and roi.width
- * high. In place the image must be a square, or its size is refused (-6); where src and dst are equal, and
- * their steps too, the call is the one in place.
+ * high. Where src and dst are equal, and their steps too, the call is the one in place, of a square.
  *
  * Any step is taken, negative ones included. Images may be misaligned in any way, but must not overlap
  * otherwise, nor the rows of the destination.
  *
- * Returns lumStatusOk (0) or, tested in this order and before anything is written:
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u 16u 16s 32s 32f: C1 C3 C4):
  *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
  *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
+ *
+ * Returns lumStatusOk (0) or, tested in this order and before anything is written (8u 16u 16s 32s 32f: C1 C3 C4):
+ *   lumStatusNullPointer (-8)  a pointer is null, plane pointers included
+ *   lumStatusBadSize (-6)      roi.width or roi.height is below 1
+ *   lumStatusBadSize (-6)      roi.width and roi.height differ
  */
 LumStatus lumiTranspose_16s_C1IR(Lum16s* srcDst, int srcDstStep, LumiSize roi);
 LumStatus lumiTranspose_16s_C1R(const Lum16s* src, int srcStep, Lum16s* dst, int dstStep, LumiSize roi);

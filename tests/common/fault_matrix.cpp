@@ -25,7 +25,19 @@ void* forbidden(size_t argument) {
 }
 
 // What is wrong with an argument. Harmless: nothing that this export looks at.
-enum class Wrong { Null, NullPlane, NullValue, Width, Height, Step, Offset, Range, Refused, Harmless };
+enum class Wrong {
+  Null,
+  NullPlane,
+  NullValue,
+  Width,
+  Height,
+  Unequal,
+  Step,
+  Offset,
+  Range,
+  Refused,
+  Harmless
+};
 
 // One change to an otherwise valid list of arguments.
 struct BadArgument {
@@ -46,6 +58,7 @@ LumStatus statusOf(const CheckStep& step) {
       return lumStatusNullPointer;
     case Check::Size:
     case Check::Width:
+    case Check::Square:
     case Check::Inside:
     case Check::Offset:
       return lumStatusBadSize;
@@ -87,6 +100,8 @@ bool finds(const CheckStep& step, const ExportRow& row, const BadArgument& fault
       return wrong == Wrong::Width || wrong == Wrong::Height;
     case Check::Width:
       return wrong == Wrong::Width;
+    case Check::Square:
+      return wrong == Wrong::Unequal;
     case Check::Step:
     case Check::Row:
     case Check::Zerostep:
@@ -216,6 +231,11 @@ class Faults {
   void addSizes() {
     for (const Refused& refused : argument_.refused)
       if (refused.by == Check::Status) return;
+    if (has(row_, Check::Square)) {
+      Slot slot;
+      slot.set(LumiSize{7, 3});
+      add(Wrong::Unequal, "unequal sides", slot);
+    }
     for (const int bad : {0, -1, INT32_MIN})
       for (const int part : {0, 1}) {
         Slot slot = valid_;

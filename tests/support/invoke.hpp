@@ -44,6 +44,7 @@ enum class Check {
   Null,
   Size,
   Width,
+  Square,
   Step,
   Zerostep,
   Offset,

@@ -11,6 +11,7 @@ CHECK_TEXT = {
     "null": "lumStatusNullPointer (-8)  a pointer is null, plane pointers included",
     "size": "lumStatusBadSize (-6)      roi.width or roi.height is below 1",
     "width": "lumStatusBadSize (-6)      roi.width is below 1",
+    "square": "lumStatusBadSize (-6)      roi.width and roi.height differ",
     "step": "lumStatusBadStep (-14)     a step is below 1",
     "zerostep": "lumStatusBadStep (-14)     a step is 0",
     "offset": "lumStatusBadSize (-6)      a bit offset is negative",

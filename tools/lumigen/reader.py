@@ -9,7 +9,7 @@ from dataclasses import dataclass, field
 from . import grammar
 from .grammar import Export, GrammarError, Param, Refused
 
-CHECKS = ("null", "size", "width", "step", "zerostep", "offset", "range", "inside", "value", "each", "row", "own")
+CHECKS = ("null", "size", "width", "square", "step", "zerostep", "offset", "range", "inside", "value", "each", "row", "own")
 STATUS = re.compile(r"^  lumStatus(\w+) = (-?\d+)", re.M)
 HOMES = ("frame", "arithmetic", "data", "statistics", "filters", "geometry", "transforms", "analysis")
 

@@ -37,19 +37,19 @@ def _refused(refused):
     return f"{{Check::Status, lumStatus{refused.by}, {_value(refused.value)}}}"
 
 
-def _base(arg):
+def _base(arg, export):
     if arg.kind == "upper":
         return (255,)
     if arg.name == "roi":
-        return (7, 3)
+        return (7, 7) if "square" in export.check else (7, 3)
     return arg.base if arg.kind in ("number", "size", "point", "rect") else (0,)
 
 
-def _argument(arg, refused):
+def _argument(arg, export, refused):
     length = f'"{arg.length}"' if arg.length else "nullptr"
     values = () if arg.kind == "values" else arg.refused  # the fault tests look into no memory
     return (f'{{Kind::{arg.kind.capitalize()}, Passing::{arg.passing.capitalize()}, "{arg.name}", {arg.count}, '
-            f'{_value(_base(arg))}, {length}, {refused.add(map(_refused, values))}}}')
+            f'{_value(_base(arg, export))}, {length}, {refused.add(map(_refused, values))}}}')
 
 
 def _check(word, export):
@@ -74,7 +74,7 @@ def export_table(families):
     exports = [e for e in all_exports(families) if e.returns == "LumStatus"]
     rows = []
     for e in exports:
-        args = arguments.add(_argument(a, refused) for a in e.args)
+        args = arguments.add(_argument(a, e, refused) for a in e.args)
         order = checks.add(_check(word, e) for word in e.check)
         rows.append(f'    {{"{e.name}", "{family_of[e.name]}", "{e.op.name}", {_words(e.types)}, {_words(e.layouts)}, '
                     f'&{e.name}, {args}, {order}}},\n')
