@@ -24,6 +24,11 @@
 #include "lumi/set.h"
 #include "lumi/shift.h"
 #include "lumi/threshold.h"
+#include "lumi/mirror.h"
+#include "lumi/mul.h"
+#include "lumi/set.h"
+#include "lumi/shift.h"
+#include "lumi/transpose.h"
 #include "support/core_guard.hpp"
 
 namespace {
@@ -230,6 +235,65 @@ TEST(Paths, LargeMergesBypassTheCache) {
   EXPECT_EQ(merges((1 << 20) / (6 * kWidth) + 1, kWidth), 1);
   EXPECT_EQ(merges((1 << 20) / (6 * kWidth), kWidth), 0);
   EXPECT_EQ(merges((1 << 20) / (6 * kWidth) + 30, kWidth - 32), 0);
+}
+
+// Beyond so many bytes; images of four channels where the cache is too small for both.
+TEST(Paths, LargeMirrorsBypassTheCache) {
+  const CoreGuard guard;
+  testcore::setCacheSize(1 << 20);
+  constexpr int kStep = 1 << 12;
+  std::vector<Lum8u> src(600 * kStep), dst(src.size());
+  const auto mirrors = [&](int rows, int flip) {
+    return taken(Path::StreamingRows, [&] {
+      return lumiMirror_8u_C1R(src.data(), kStep, dst.data(), kStep, {kStep, rows}, flip);
+    });
+  };
+  EXPECT_EQ(mirrors(513, 0), 1);
+  EXPECT_EQ(mirrors(512, 0), 0);
+  EXPECT_EQ(mirrors(513, 1), 0);
+  const auto ofFour = [&](int rows, int flip) {
+    return taken(Path::StreamingRows, [&] {
+      return lumiMirror_8u_C4R(src.data(), kStep, dst.data(), kStep, {kStep / 4, rows}, flip);
+    });
+  };
+  for (const int flip : {0, 1, 2}) {
+    EXPECT_EQ(ofFour(129, flip), 1);
+    EXPECT_EQ(ofFour(128, flip), 0);
+  }
+  testcore::setCacheSize(1 << 21);
+  EXPECT_EQ(ofFour(129, 1), 0);
+  const auto ofThree = [&](int rows) {
+    return taken(Path::StreamingRows, [&] {
+      return lumiMirror_8u_C3R(src.data(), kStep, dst.data(), kStep, {kStep / 3, rows}, 0);
+    });
+  };
+  EXPECT_EQ(ofThree(600), 0);
+}
+
+// Where the cache is smaller than both images.
+TEST(Paths, LargeTranspositionsBypassTheCache) {
+  const CoreGuard guard;
+  constexpr int kWidth = 1088, kHeight = 64;
+  std::vector<Lum8u> src(kWidth * kHeight + 64), dst(src.size());
+  const auto aligned = [](std::vector<Lum8u>& v) {
+    return v.data() + (64 - reinterpret_cast<uintptr_t>(v.data()) % 64) % 64;
+  };
+  const auto transposes = [&](int cache) {
+    testcore::setCacheSize(cache);
+    return taken(Path::StreamingRows, [&] {
+      return lumiTranspose_8u_C1R(aligned(src), kWidth, aligned(dst), kHeight, {kWidth, kHeight});
+    });
+  };
+  EXPECT_EQ(transposes(2 * kWidth * kHeight - 1), 1);
+  EXPECT_EQ(transposes(2 * kWidth * kHeight), 0);
+  testcore::failCacheQuery(-1);
+  EXPECT_EQ(
+      taken(Path::StreamingRows,
+            [&] {
+              return lumiTranspose_8u_C1R(aligned(src), kWidth, aligned(dst), kHeight, {kWidth, kHeight});
+            }),
+      1)
+      << "a size that is not told counts as none";
 }
 
 // How often a resize takes a path: of the first columns, or of all.

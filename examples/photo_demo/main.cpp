@@ -28,7 +28,9 @@ namespace fs = std::filesystem;
 
 double perPixel(const Call& call) { return call.nanoseconds / call.pixels; }
 
-std::string timing(const Call& call) {
+std::string timing(const Calls& calls) {
+  if (calls.list().empty()) return "nothing to do";
+  const Call& call = calls.list().back();
   std::ostringstream text;
   text << call.name << ' ' << std::fixed << std::setprecision(2) << perPixel(call) << " ns/px";
   return text.str();
@@ -69,7 +71,7 @@ std::vector<Card> makePanels(const Families& families, const Colour& photo, cons
       const AnyImage image = panel.make(photo, calls);
       tell(panel.title, calls);
       writePicture((folder / (family + '-' + panel.file + ".png")).string(), image);
-      cards.push_back({panel.title, timing(calls.list().back()), thumbnail(image), place++});
+      cards.push_back({panel.title, timing(calls), thumbnail(image), place++});
     }
   }
   return cards;
