@@ -208,6 +208,32 @@ Peer border(View src, View dst, int top, int left, Border kind, Value value) {
   });
 }
 
+Peer transpose(View src, View dst) {
+  return peer("opencv", [s = mat(src), d = mat(dst)] { cv::transpose(s, d); });
+}
+
+Peer flip(View src, View dst, Flip axis) {
+  constexpr int kCodes[] = {0, 1, -1};
+  const int code = kCodes[static_cast<int>(axis)];
+  return peer("opencv", [s = mat(src), d = mat(dst), code] { cv::flip(s, d, code); });
+}
+
+Peer permute(View src, View dst, std::vector<int> order) {
+  std::vector<int> pairs;
+  for (std::size_t c = 0; c < order.size(); ++c) pairs.insert(pairs.end(), {order[c], static_cast<int>(c)});
+  return peer("opencv", [s = mat(src), d = mat(dst), pairs]() mutable {
+    cv::mixChannels(&s, 1, &d, 1, pairs.data(), pairs.size() / 2);
+  });
+}
+
+Peer swapRedBlue(View src, View dst) {
+  if (src.depth == Depth::s16 || src.depth == Depth::s32) return {};
+  const int codes[2][2] = {{cv::COLOR_BGR2RGB, cv::COLOR_BGR2RGBA},
+                           {cv::COLOR_BGRA2RGB, cv::COLOR_BGRA2RGBA}};
+  const int code = codes[src.channels - 3][dst.channels - 3];
+  return peer("opencv", [s = mat(src), d = mat(dst), code] { cv::cvtColor(s, d, code); });
+}
+
 Peer filter(View src, View dst, std::vector<float> taps, LumiSize size) {
   const cv::Mat kernel = cv::Mat(size.height, size.width, CV_32F, taps.data()).clone();
   cv::Mat d = mat(dst);

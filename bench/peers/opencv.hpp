@@ -54,6 +54,14 @@ enum class Logic { conjunction, disjunction, exclusive };
 [[gnu::weak]] Peer convert(View src, View dst);
 enum class Border { constant, replicate, wrap };
 [[gnu::weak]] Peer border(View src, View dst, int top, int left, Border kind, Value value);
+[[gnu::weak]] Peer transpose(View src, View dst);
+// About the horizontal axis, the vertical one, or both.
+enum class Flip { horizontal, vertical, both };
+[[gnu::weak]] Peer flip(View src, View dst, Flip axis);
+// Channel c of dst from channel order[c] of src.
+[[gnu::weak]] Peer permute(View src, View dst, std::vector<int> order);
+// Red and blue exchanged.
+[[gnu::weak]] Peer swapRedBlue(View src, View dst);
 // Correlation with a kernel of floats, to the type of dst; the nearest pixel is repeated outside.
 [[gnu::weak]] Peer filter(View src, View dst, std::vector<float> taps, LumiSize size);
 // To the destination's size.

@@ -101,6 +101,41 @@ Peer dropAlpha(View src, View dst) {
   });
 }
 
+Peer transpose(View src, View dst) {
+  const int width = src.roi.width, height = src.roi.height;
+  if (src.depth != Depth::u8 || src.channels != 1) return {};
+  return peer("libyuv",
+              [=] { libyuv::TransposePlane(src.bytes, src.step, dst.bytes, dst.step, width, height); });
+}
+
+Peer mirror(View src, View dst) {
+  using Mirror = int (*)(const uint8_t*, int, uint8_t*, int, int, int);
+  const Mirror mirrors[] = {libyuv::ARGBMirror, libyuv::RGB24Mirror};
+  const int width = src.roi.width, height = src.roi.height;
+  if (src.depth != Depth::u8) return {};
+  if (src.channels == 1) {
+    return peer("libyuv",
+                [=] { libyuv::MirrorPlane(src.bytes, src.step, dst.bytes, dst.step, width, height); });
+  }
+  const Mirror mirror = mirrors[src.channels == 3];
+  return peer("libyuv", [=] { mirror(src.bytes, src.step, dst.bytes, dst.step, width, height); });
+}
+
+Peer halfTurn(View src, View dst) {
+  const int width = src.roi.width, height = src.roi.height;
+  if (src.depth != Depth::u8 || src.channels == 3) return {};
+  const auto turn = src.channels == 1 ? libyuv::RotatePlane : libyuv::ARGBRotate;
+  return peer("libyuv",
+              [=] { turn(src.bytes, src.step, dst.bytes, dst.step, width, height, libyuv::kRotate180); });
+}
+
+Peer swapRedBlue(View src, View dst) {
+  if (src.depth != Depth::u8 || src.channels != dst.channels) return {};
+  const auto swap = src.channels == 3 ? libyuv::RAWToRGB24 : libyuv::ABGRToARGB;
+  return peer("libyuv",
+              [=] { swap(src.bytes, src.step, dst.bytes, dst.step, src.roi.width, src.roi.height); });
+}
+
 Peer convert(View src, View dst) {
   if (src.depth != Depth::u8 || dst.depth != Depth::f32) return {};
   const bool isOneRow = src.isTight() && dst.isTight();

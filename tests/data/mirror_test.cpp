@@ -147,8 +147,8 @@ TEST(MirrorCalls, OrderOfChecksOfDiagonals) {
   expectOrderOfDiagonals<Lum32f>(lumiMirror_32f_C1R, ofOthers);
 }
 
-// A corner of one image in a row of the other: found for any place of a small image about a larger one. Corners
-// between rows are not, nor are images that lie in one another's gaps.
+// A corner of one image in a row of the other: found for any place of a small image about a larger one.
+// Corners between rows are not, nor are images that lie in one another's gaps.
 TEST(MirrorCalls, OverlapIsFoundByCorners) {
   constexpr int kStep = 16, kWidth = 5, kHeight = 4;
   std::vector<Lum8u> memory(400);
@@ -166,10 +166,10 @@ TEST(MirrorCalls, OverlapIsFoundByCorners) {
   for (int dstStep : {4, 5, 7, 16, 23})
     for (int place = -120; place <= 120; ++place) {
       const LumiSize roi = {kWidth, kHeight}, turned = {kHeight, kWidth};
-      const bool hit = cornersIn(place, dstStep, turned, kStep, roi) ||
-                       cornersIn(-place, kStep, roi, dstStep, turned);
-      const LumStatus status = lumiMirror_8u_C1R(memory.data() + 160, kStep, memory.data() + 160 + place,
-                                                 dstStep, roi, 3);
+      const bool hit =
+          cornersIn(place, dstStep, turned, kStep, roi) || cornersIn(-place, kStep, roi, dstStep, turned);
+      const LumStatus status =
+          lumiMirror_8u_C1R(memory.data() + 160, kStep, memory.data() + 160 + place, dstStep, roi, 3);
       EXPECT_EQ(status, hit ? lumStatusUnsupportedMode : lumStatusOk) << place << " step " << dstStep;
     }
 }

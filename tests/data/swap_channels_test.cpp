@@ -48,7 +48,8 @@ const bool added = addModelTests(membersOfOneType(
       m.array("order", "32s", {channels.moved},
               [named](Random& random, Byte* data, int) { fillOrder(random, data, named); });
       const bool hasValue = inserts(m.channels);
-      if (hasValue) m.choose("value", {valueOf<T>(T{0}), valueOf<T>(T{1}), valueOf<T>(std::numeric_limits<T>::max())});
+      if (hasValue)
+        m.choose("value", {valueOf<T>(T{0}), valueOf<T>(T{1}), valueOf<T>(std::numeric_limits<T>::max())});
       m.model = [=](const Call& c) {
         Lum32s order[4] = {};
         std::memcpy(order, c.block("order").data, sizeof(Lum32s) * static_cast<size_t>(channels.moved));

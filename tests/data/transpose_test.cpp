@@ -57,9 +57,9 @@ struct Shape {
   int width, widthStep, heightStep, sourceAlignment;
 };
 const Shape kShapes[] = {
-    {"lumiTranspose_8u_C1R", 1024, 64, 64, 16},  {"lumiTranspose_16u_C1R", 768, 32, 32, 16},
-    {"lumiTranspose_8u_C4R", 512, 16, 16, 16},   {"lumiTranspose_32s_C1R", 512, 4, 16, 16},
-    {"lumiTranspose_16u_C4R", 384, 8, 8, 16},    {"lumiTranspose_32s_C3R", 256, 4, 16, 8},
+    {"lumiTranspose_8u_C1R", 1024, 64, 64, 16}, {"lumiTranspose_16u_C1R", 768, 32, 32, 16},
+    {"lumiTranspose_8u_C4R", 512, 16, 16, 16},  {"lumiTranspose_32s_C1R", 512, 4, 16, 16},
+    {"lumiTranspose_16u_C4R", 384, 8, 8, 16},   {"lumiTranspose_32s_C3R", 256, 4, 16, 8},
     {"lumiTranspose_32s_C4R", 256, 4, 4, 16},
 };
 
