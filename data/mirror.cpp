@@ -68,8 +68,9 @@ bool streams(LumiSize roi, int flip) {
 }
 
 template <typename T, typename Layout>
-void copyUpwards(SourceRows src, TargetRows dst, LumiSize roi, bool streaming) {
-  const Extent pixels{static_cast<size_t>(roi.width), roi.height}, bytes = pixels.times(kPixelBytes<T, Layout>);
+void copyOrStream(SourceRows src, TargetRows dst, LumiSize roi, bool streaming) {
+  const Extent pixels{static_cast<size_t>(roi.width), roi.height},
+      bytes = pixels.times(kPixelBytes<T, Layout>);
   if constexpr (Layout::kUsed < Layout::kStored)
     copyChosenRows<sizeof(T), Layout::kStored, Layout::kUsed>(src, dst, pixels);
   else if (streaming)
@@ -82,11 +83,11 @@ template <typename T, typename Layout>
 LumStatus mirror(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, int flip) {
   if (src == dst && srcStep == dstStep) return mirrorInPlace<T, Layout>(dst, dstStep, roi, flip);
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi), axis(flip, roi))) return fault;
-  const SourceRows from = rows(src, srcStep);
-  const TargetRows down = rows(dst, dstStep), to = flip == kVertical ? down : upwards(down, roi.height);
+  const SourceRows down = rows(src, srcStep), from = flip == kVertical ? down : upwards(down, roi.height);
+  const TargetRows to = rows(dst, dstStep);
   const bool streaming = Layout::kUsed == Layout::kStored && streams<T, Layout>(roi, flip);
   if (flip == kHorizontal)
-    copyUpwards<T, Layout>(from, to, roi, streaming);
+    copyOrStream<T, Layout>(from, to, roi, streaming);
   else
     reverseRows<kPixelBytes<T, Layout>, kUsedBytes<T, Layout>>(
         from, to, {static_cast<size_t>(roi.width), roi.height}, streaming);
@@ -114,8 +115,7 @@ struct Place {
     return holds(other.first) || holds(right) || holds(other.first + below) || holds(right + below);
   }
   bool isBefore(const Place& other) const {
-    return first <= other.first &&
-           static_cast<int64_t>(other.first - first) >= lastRow() + rowBytes;
+    return first <= other.first && static_cast<int64_t>(other.first - first) >= lastRow() + rowBytes;
   }
 };
 

@@ -19,20 +19,20 @@ LumStatus stepsThatMove(Step... each) {
   return ((each == 0) || ...) ? lumStatusBadStep : lumStatusOk;
 }
 
-// Whether each of so many entries is below the limit, and not negative.
-template <int entries>
-LumStatus entriesBelow(const Lum32s* order, Lum32u limit) {
-  for (int i = 0; i < entries; ++i)
-    if (static_cast<Lum32u>(order[i]) >= limit) return lumStatusBadChannelOrder;
-  return lumStatusOk;
-}
-
-// The entries of a pixel's used samples, read here and never again.
+// The entries of a pixel's used samples, which lie at any address; read here and never again.
 template <int entries>
 ChannelSources sourcesOf(const Lum32s* order) {
   ChannelSources sources{};
-  for (int i = 0; i < entries; ++i) sources.channels[i] = order[i];
+  std::memcpy(sources.channels, order, entries * sizeof *order);
   return sources;
+}
+
+// Whether each of so many entries is below the limit, and not negative.
+template <int entries>
+LumStatus entriesBelow(const ChannelSources& sources, Lum32u limit) {
+  for (int i = 0; i < entries; ++i)
+    if (static_cast<Lum32u>(sources.channels[i]) >= limit) return lumStatusBadChannelOrder;
+  return lumStatusOk;
 }
 
 // Source channels that may be named: alpha is none of them where it stays in the destination.
@@ -49,16 +49,17 @@ void swapRows(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, cons
 
 template <typename Layout, typename T>
 void swapRowsInPlace(T* image, int step, LumiSize roi, const ChannelSources& sources) {
-  const TargetRows all = rows(image, step);
-  const Extent pixels{static_cast<size_t>(roi.width), roi.height};
-  if constexpr (Layout::kStored == 3)
-    swapThreeBytes(all, pixels, sources);
-  else
-    swapChannelRows<sizeof(T), 4, 4, 4>({all.first, all.step}, all, pixels, sources);
+  const auto swap = [&](TargetRows all, Extent pixels) {
+    if constexpr (Layout::kStored == 3)
+      swapThreeBytes(all, pixels, sources);
+    else
+      swapChannelRows<sizeof(T), 4, 4, 4>({all.first, all.step}, all, pixels, sources);
+  };
+  runFused(roi, swap, pixelRows<Layout>(image, step));
 }
 
-// Members differ in when they look at the order's pointer, and at the steps: with the other pointers and behind
-// the size, or by itself and before it.
+// Members differ in when they look at the order's pointer, and at the steps: with the other pointers and
+// behind the size, or by itself and before it.
 struct Together {
   static LumStatus fault(const void* src, const void* dst, const void* order, LumiSize roi, int srcStep,
                          int dstStep) {
@@ -75,8 +76,8 @@ struct OrderApart {
 template <typename Checks, typename T, typename From, typename To = From>
 LumStatus swapChannels(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, const Lum32s* order) {
   if (LumStatus fault = Checks::fault(src, dst, order, roi, srcStep, dstStep)) return fault;
-  if (LumStatus fault = entriesBelow<To::kUsed>(order, kNamed<From, To>)) return fault;
   const ChannelSources sources = sourcesOf<To::kUsed>(order);
+  if (LumStatus fault = entriesBelow<To::kUsed>(sources, kNamed<From, To>)) return fault;
   if constexpr (kPixelBytes<T, From> == 3) {
     if (src == dst) return swapRowsInPlace<From>(dst, dstStep, roi, sources), lumStatusOk;
   }
@@ -89,8 +90,9 @@ LumStatus swapInPlace(T* image, int step, LumiSize roi, const Lum32s* order) {
   constexpr int channels = Layout::kStored;
   const LumStatus early = channels == 3 ? pointers(image) : pointers(image, order);
   if (LumStatus fault = firstFault(early, stepsThatMove(step), size(roi), pointers(order))) return fault;
-  if (LumStatus fault = entriesBelow<channels>(order, channels)) return fault;
-  swapRowsInPlace<Layout>(image, step, roi, sourcesOf<channels>(order));
+  const ChannelSources sources = sourcesOf<channels>(order);
+  if (LumStatus fault = entriesBelow<channels>(sources, channels)) return fault;
+  swapRowsInPlace<Layout>(image, step, roi, sources);
   return lumStatusOk;
 }
 
@@ -98,8 +100,8 @@ template <typename T, typename From, typename To>
 LumStatus swapOrInsert(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, const Lum32s* order,
                        T value) {
   if (LumStatus fault = Together::fault(src, dst, order, roi, srcStep, dstStep)) return fault;
-  if (LumStatus fault = entriesBelow<4>(order, 0x80000000)) return fault;
   ChannelSources sources = sourcesOf<4>(order);
+  if (LumStatus fault = entriesBelow<4>(sources, 0x80000000)) return fault;
   std::memcpy(&sources.value, &value, sizeof value);
   swapRows<From, To>(src, srcStep, dst, dstStep, roi, sources);
   return lumStatusOk;

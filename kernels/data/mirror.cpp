@@ -25,6 +25,15 @@ struct Reversal {
     return c;
   }
 
+  static constexpr Control turned(size_t first) {
+    Control c{};
+    for (Byte& b : c) b = kZero;
+    for (size_t k = 0; k < 12; ++k)
+      c[(first + k) % kHalf] =
+          static_cast<Byte>(kHalf - pixelBytes - k / pixelBytes * pixelBytes + k % pixelBytes);
+    return c;
+  }
+
   // The pixels that begin at p; sixteen bytes are read from there on.
   [[gnu::always_inline]] static inline Bytes16 after(const Byte* p) {
     static constexpr Control c = control(0);
@@ -33,6 +42,12 @@ struct Reversal {
   // The pixels that end at p; sixteen bytes are read up to there.
   [[gnu::always_inline]] static inline Bytes16 before(const Byte* p) {
     static constexpr Control c = control(kHalf - kBytes);
+    return shuffleBytes(load16(p - kHalf), vectorOf(c));
+  }
+  // Of pixels that divide twelve bytes: the twelve that end at p, turned to begin at byte `first`.
+  template <size_t first>
+  [[gnu::always_inline]] static inline Bytes16 turnedBefore(const Byte* p) {
+    static constexpr Control c = turned(first);
     return shuffleBytes(load16(p - kHalf), vectorOf(c));
   }
   // Of pixels that divide sixteen bytes: the 32 bytes that end at p.
@@ -66,17 +81,23 @@ template <int pixelBytes, typename Store>
     at = bytesToBoundary(dst, kVector);
     store32(dst, R::blockBefore(end));
   }
-  for (; at + kVector <= bytes; at += kVector) Store::store(dst + at, R::blockBefore(end - at));
+  for (; at + kVector < bytes; at += kVector) Store::store(dst + at, R::blockBefore(end - at));
   store32(dst + bytes - kVector, last);
 }
 
-// Whole pixels of sixteen bytes at a time. Where these are fewer, a store goes beyond them, over what comes
-// next; the last one does not.
+// Whole pixels of sixteen bytes at a time, or four times twelve bytes where pixels do not divide sixteen. A
+// store may go beyond its pixels then, over what comes next; the last one does not.
 template <int pixelBytes>
 [[gnu::always_inline]] inline void reverseHalves(const Byte* src, Byte* dst, size_t bytes) {
   using R = Reversal<pixelBytes>;
   const Byte* end = src + bytes;
-  for (size_t at = 0; at + kHalf <= bytes; at += R::kBytes) store16(dst + at, R::before(end - at));
+  size_t at = 0;
+  if constexpr (kHalf % pixelBytes != 0)
+    for (; at + 4 * 12 + 4 <= bytes; at += 4 * 12)
+      storeTurned(dst + at, R::template turnedBefore<0>(end - at),
+                  R::template turnedBefore<12>(end - at - 12), R::template turnedBefore<8>(end - at - 24),
+                  R::template turnedBefore<4>(end - at - 36));
+  for (; at + R::kBytes < bytes; at += R::kBytes) store16(dst + at, R::before(end - at));
   storePixel<static_cast<int>(R::kBytes)>(dst + bytes - R::kBytes, R::after(src));
 }
 
@@ -87,11 +108,9 @@ template <int pixelBytes, int usedBytes>
   static constexpr auto used = pixelMask<pixelBytes, usedBytes, kHalf>();
   const Byte* end = src + bytes;
   const Bytes16 mask = load16(used.bytes);
-  const auto vectorAt = [&](size_t at) {
-    return ifThenElse(mask, R::before(end - at), load16(dst + at));
-  };
+  const auto vectorAt = [&](size_t at) { return ifThenElse(mask, R::before(end - at), load16(dst + at)); };
   const Bytes16 last = vectorAt(bytes - kHalf);
-  for (size_t at = 0; at + kHalf <= bytes; at += kHalf) store16(dst + at, vectorAt(at));
+  for (size_t at = 0; at + kHalf < bytes; at += kHalf) store16(dst + at, vectorAt(at));
   store16(dst + bytes - kHalf, last);
 }
 
@@ -103,9 +122,8 @@ void reverseRows(SourceRows src, TargetRows dst, Extent pixels, [[maybe_unused]]
   const size_t bytes = pixels.length * pixelBytes;
   const auto walk = [&](auto row) { walkRows(pixels.rows, row, src, dst); };
   if (bytes < kHalf)
-    return walk([=](const Byte* s, Byte* d) {
-      reverseByPixels<pixelBytes, usedBytes>(s, d, bytes / pixelBytes);
-    });
+    return walk(
+        [=](const Byte* s, Byte* d) { reverseByPixels<pixelBytes, usedBytes>(s, d, bytes / pixelBytes); });
   if constexpr (usedBytes < pixelBytes) {
     walk([=](const Byte* s, Byte* d) { reverseUsed<pixelBytes, usedBytes>(s, d, bytes); });
   } else {
@@ -154,7 +172,7 @@ struct Exchange {
     const Bytes16 toB = R::before(a + bytes), toA = R::after(lastB);
     const bool alpha = usedBytes < pixelBytes;
     const Bytes16 oldA = alpha ? load16(lastA) : toA, oldB = alpha ? load16(lastB) : toB;
-    for (size_t at = 0; at + kHalf <= bytes; at += kBytes) {
+    for (size_t at = 0; at + kBytes < bytes; at += kBytes) {
       Byte *const left = a + at, *const right = bEnd - at - kBytes;
       const Bytes16 reversedLeft = R::after(left), reversedRight = R::before(bEnd - at);
       const Bytes16 oldLeft = alpha ? load16(left) : reversedLeft,
@@ -175,7 +193,8 @@ void exchangeReversed(TargetRows a, TargetRows bEnds, Extent pixels) {
   const size_t bytes = pixels.length * pixelBytes;
   if (bytes < kHalf)
     walkRows(
-        pixels.rows, [=](Byte* left, Byte* rightEnd) { E::byPixels(left, rightEnd, pixels.length); }, a, bEnds);
+        pixels.rows, [=](Byte* left, Byte* rightEnd) { E::byPixels(left, rightEnd, pixels.length); }, a,
+        bEnds);
   else
     walkRows(
         pixels.rows, [=](Byte* left, Byte* rightEnd) { E::row(left, rightEnd, bytes); }, a, bEnds);
@@ -201,7 +220,7 @@ template <typename V, int pixelBytes, int usedBytes>
       return yes;
   };
   const V lastA = load(a + bytes - size), lastB = load(b + bytes - size);
-  for (size_t at = 0; at + size <= bytes; at += size) {
+  for (size_t at = 0; at + size < bytes; at += size) {
     const V fromA = load(a + at), fromB = load(b + at);
     Cached::store(a + at, pick(fromB, fromA));
     Cached::store(b + at, pick(fromA, fromB));
@@ -239,7 +258,7 @@ void copyRowsStreaming(SourceRows src, TargetRows dst, Extent bytes) {
   walkRows(bytes.rows, copy, src, dst);
 }
 
-#define LUMI_EXCHANGE(pixel, used)                                                    \
+#define LUMI_EXCHANGE(pixel, used)                                              \
   template void reverseRows<pixel, used>(SourceRows, TargetRows, Extent, bool); \
   template void exchangeReversed<pixel, used>(TargetRows, TargetRows, Extent);
 LUMI_EXCHANGE(1, 1)

@@ -13,7 +13,8 @@ template <int pixelBytes, int usedBytes>
 void reverseRows(SourceRows src, TargetRows dst, Extent pixels, bool streaming);
 
 // Rows of a and b change places, and the order of their pixels is reversed. Each row of a has so many pixels
-// from its start on, each row of b as many up to its start: b is given by the ends of its rows. They are apart.
+// from its start on, each row of b as many up to its start: b is given by the ends of its rows. They are
+// apart.
 template <int pixelBytes, int usedBytes>
 void exchangeReversed(TargetRows a, TargetRows bEnds, Extent pixels);
 

@@ -18,8 +18,8 @@ template <int sampleBytes, int srcChannels, int dstChannels, int used>
 class Swap {
  public:
   static constexpr size_t kSrcPixel = sampleBytes * srcChannels, kDstPixel = sampleBytes * dstChannels,
-                          kPixels = kHalf / std::max(kSrcPixel, kDstPixel),
-                          kSrcBytes = kPixels * kSrcPixel, kDstBytes = kPixels * kDstPixel;
+                          kPixels = kHalf / std::max(kSrcPixel, kDstPixel), kSrcBytes = kPixels * kSrcPixel,
+                          kDstBytes = kPixels * kDstPixel;
   static constexpr bool kMayLeaveMore =
       srcChannels != dstChannels && kHalf / std::min(kSrcPixel, kDstPixel) > kPixels;
   static constexpr bool kInserts = srcChannels == 3 && dstChannels == 4;
@@ -39,6 +39,11 @@ class Swap {
       value_ = bitAnd(isValue.v, broadcast16(sample(sources.value)).v);
       kept_ = isKept.v;
     }
+    if constexpr (kDstBytes == 12)
+      for (size_t i = 0; i < 4; ++i) {
+        static constexpr Control turns[] = {turn(0), turn(12), turn(8), turn(4)};
+        turnedControls_[i] = shuffleBytes(control_, vectorOf(turns[i]));
+      }
     constexpr auto behind = static_cast<uint8_t>(kHalf - kSrcBytes);
     controlAtEnd_ = addSaturated(U8{control_}, broadcast16(behind)).v;
   }
@@ -53,6 +58,13 @@ class Swap {
   [[gnu::always_inline]] inline void row(const Byte* src, Byte* dst, size_t pixels, size_t vectors) const {
     Byte* const lastDst = dst + (pixels - kPixels) * kDstPixel;
     const Bytes16 last = made<keeping>(load16(src + pixels * kSrcPixel - kHalf), controlAtEnd_, lastDst);
+    if constexpr (kDstBytes == 12)
+      for (; vectors >= 4; vectors -= 4, src += 4 * kSrcBytes, dst += 4 * kDstBytes) {
+        const auto turned = [&](size_t i) {
+          return shuffleBytes(load16(src + i * kSrcBytes), turnedControls_[i]);
+        };
+        storeTurned(dst, turned(0), turned(1), turned(2), turned(3));
+      }
     for (; vectors; --vectors, src += kSrcBytes, dst += kDstBytes)
       store16(dst, made<keeping>(load16(src), control_, dst));
     // A vector of one image may end where the other has pixels left.
@@ -64,15 +76,18 @@ class Swap {
 
   // In place a vector is read before the store, which goes beyond the pixels in front of it.
   [[gnu::always_inline]] inline void rowInPlace(Byte* row, size_t pixels, size_t vectors) const {
-    Byte* const lastRead = row + pixels * kSrcPixel - kHalf;
-    const Bytes16 last = made<false>(load16(lastRead), controlAtEnd_, row);
-    Bytes16 next = load16(row);
-    for (Byte* at = row; vectors; --vectors, at += kSrcBytes) {
-      const Bytes16 now = next;
-      next = load16(std::min(at + kSrcBytes, lastRead));
-      store16(at, made<false>(now, control_, at));
+    Byte* const end = row + pixels * kSrcPixel;
+    const Bytes16 last = made<false>(load16(end - kHalf), controlAtEnd_, row);
+    if (vectors > 0) {
+      Bytes16 now = load16(row);
+      for (; vectors > 1; --vectors, row += kSrcBytes) {
+        const Bytes16 next = load16(row + kSrcBytes);
+        store16(row, made<false>(now, control_, row));
+        now = next;
+      }
+      store16(row, made<false>(now, control_, row));
     }
-    storePixel<static_cast<int>(kDstBytes)>(lastRead + kHalf - kDstBytes, last);
+    storePixel<static_cast<int>(kDstBytes)>(end - kDstBytes, last);
   }
 
   template <bool keeping>
@@ -84,11 +99,12 @@ class Swap {
     }
   }
 
-  // How many vectors may be read and stored from a row's start on; none where it is too short for any.
+  static bool isShort(size_t pixels) { return pixels * std::min(kSrcPixel, kDstPixel) < kHalf; }
+  // How many vectors may be read and stored from the start of such a row on, before its last one.
   static size_t vectorsOf(size_t pixels) {
-    const size_t from = pixels * kSrcPixel, to = pixels * kDstPixel;
-    if (from < kHalf || to < kHalf) return 0;
-    return std::min((from - kHalf) / kSrcBytes, (to - kHalf) / kDstBytes) + 1;
+    const size_t within =
+        std::min((pixels * kSrcPixel - kHalf) / kSrcBytes, (pixels * kDstPixel - kHalf) / kDstBytes);
+    return std::min(within + 1, (pixels - 1) / kPixels);
   }
 
  private:
@@ -106,6 +122,12 @@ class Swap {
       c[j] = isStored(j) ? static_cast<Byte>(j / kDstPixel * kSrcPixel + j % sampleBytes) : kZero;
     return c;
   }
+  // Moves the first byte to another place.
+  static constexpr Control turn(size_t first) {
+    Control c{};
+    for (size_t j = 0; j < kHalf; ++j) c[j] = static_cast<Byte>((kHalf + j - first) % kHalf);
+    return c;
+  }
   static constexpr bool isStored(size_t j) { return j < kDstBytes && j % kDstPixel < sampleBytes * used; }
 
   static auto sample(uint32_t bits) {
@@ -116,9 +138,7 @@ class Swap {
     else
       return bits;
   }
-  [[gnu::always_inline]] inline Bytes16 withValue(Bytes16 v) const {
-    return kInserts ? bitOr(v, value_) : v;
-  }
+  [[gnu::always_inline]] inline Bytes16 withValue(Bytes16 v) const { return kInserts ? bitOr(v, value_) : v; }
   template <bool keeping>
   [[gnu::always_inline]] inline Bytes16 made(Bytes16 src, Bytes16 control, const Byte* dst) const {
     const Bytes16 v = withValue(shuffleBytes(src, control));
@@ -129,6 +149,7 @@ class Swap {
   }
 
   Bytes16 control_, controlAtEnd_;  // of vectors that begin with the pixels, and that end with them
+  Bytes16 turnedControls_[kDstBytes == 12 ? 4 : 1];  // of vectors that are stored four together
   Bytes16 value_, kept_;
 };
 
@@ -138,12 +159,12 @@ template <int sampleBytes, int srcChannels, int dstChannels, int used>
 void swapChannelRows(SourceRows src, TargetRows dst, Extent pixels, const ChannelSources& sources) {
   using S = Swap<sampleBytes, srcChannels, dstChannels, used>;
   const S swap(sources);
-  const size_t length = pixels.length, vectors = S::vectorsOf(length);
+  const size_t length = pixels.length, vectors = S::isShort(length) ? 0 : S::vectorsOf(length);
   const auto walk = [&](auto keeping) {
-    if (vectors == 0)
+    if (S::isShort(length))
       walkRows(
-          pixels.rows,
-          [=](const Byte* s, Byte* d) { swap.template byPixels<keeping.value>(s, d, length); }, src, dst);
+          pixels.rows, [=](const Byte* s, Byte* d) { swap.template byPixels<keeping.value>(s, d, length); },
+          src, dst);
     else
       walkRows(
           pixels.rows,
@@ -158,8 +179,8 @@ void swapChannelRows(SourceRows src, TargetRows dst, Extent pixels, const Channe
 void swapThreeBytes(TargetRows image, Extent pixels, const ChannelSources& sources) {
   using S = Swap<1, 3, 3, 3>;
   const S swap(sources);
-  const size_t length = pixels.length, vectors = S::vectorsOf(length);
-  if (vectors == 0)
+  const size_t length = pixels.length, vectors = S::isShort(length) ? 0 : S::vectorsOf(length);
+  if (S::isShort(length))
     walkRows(
         pixels.rows, [=](Byte* row) { swap.byPixels<false>(row, row, length); }, image);
   else
@@ -167,10 +188,11 @@ void swapThreeBytes(TargetRows image, Extent pixels, const ChannelSources& sourc
         pixels.rows, [=](Byte* row) { swap.rowInPlace(row, length, vectors); }, image);
 }
 
-#define LUMI_SWAP(sample, from, to, used) \
-  template void swapChannelRows<sample, from, to, used>(SourceRows, TargetRows, Extent, const ChannelSources&);
-#define LUMI_LAYOUTS(sample)                                                                      \
-  LUMI_SWAP(sample, 3, 3, 3)                                                                      \
+#define LUMI_SWAP(sample, from, to, used)                                               \
+  template void swapChannelRows<sample, from, to, used>(SourceRows, TargetRows, Extent, \
+                                                        const ChannelSources&);
+#define LUMI_LAYOUTS(sample) \
+  LUMI_SWAP(sample, 3, 3, 3) \
   LUMI_SWAP(sample, 4, 4, 4) LUMI_SWAP(sample, 4, 4, 3) LUMI_SWAP(sample, 3, 4, 4) LUMI_SWAP(sample, 4, 3, 3)
 LUMI_LAYOUTS(1)
 LUMI_LAYOUTS(2)

@@ -26,8 +26,8 @@ template <typename T, size_t n>
   }
 }
 
-// A block of a source: kRows rows of kColumns pixels, which become whole vectors of the destination's rows. It
-// reads as many pixels of a row as kReach; `atEnd` reads bytes before the block in place of those behind.
+// A block of a source: kRows rows of kColumns pixels, which become whole vectors of the destination's rows.
+// It reads as many pixels of a row as kReach; `atEnd` reads bytes before the block in place of those behind.
 template <int pixelBytes>
 struct Block;
 
@@ -98,9 +98,10 @@ struct Block<4> {
   }
 };
 
+// Two pixels as quads, four times.
 template <>
 struct Block<6> {
-  static constexpr size_t kRows = 8, kColumns = 1, kReach = 2;
+  static constexpr size_t kRows = 8, kColumns = 4, kReach = 5;
 
   static constexpr Control turned(int first, int before) {
     Control c = narrowControl<2>(first);
@@ -114,51 +115,58 @@ struct Block<6> {
     constexpr int before = atEnd ? 2 : 0;
     static constexpr Control controls[] = {turned(0, before), turned(12, before), turned(8, before),
                                            turned(4, before)};
-    const auto pair = [&](int i) {
-      const Bytes16 first = loadFew<8>(src.row(2 * i) - before),
-                    second = loadFew<8>(src.row(2 * i + 1) - before);
-      return shuffleBytes(shuffleHalves<0, 0>(first, second), vectorOf(controls[i]));
-    };
-    storeTurned(dst.first, pair(0), pair(1), pair(2), pair(3));
+    for (int x = 0; x < 4; ++x) {
+      const auto pixel = [&](int y) { return loadFew<8>(src.row(y) + 6 * x - before); };
+      const auto pair = [&](int i) {
+        return shuffleBytes(shuffleHalves<0, 0>(pixel(2 * i), pixel(2 * i + 1)), vectorOf(controls[i]));
+      };
+      storeTurned(dst.row(x), pair(0), pair(1), pair(2), pair(3));
+    }
   }
 };
 
 template <>
 struct Block<8> {
-  static constexpr size_t kRows = 4, kColumns = 2, kReach = 2;
+  static constexpr size_t kRows = 8, kColumns = 2, kReach = 2;
 
   template <bool atEnd>
   [[gnu::always_inline]] static inline void move(SourceRows src, TargetRows dst) {
-    const Bytes32 even = joined(load16(src.row(0)), load16(src.row(2))),
-                  odd = joined(load16(src.row(1)), load16(src.row(3)));
-    store32(dst.row(0), interleaveLowQuads(even, odd));
-    store32(dst.row(1), interleaveHighQuads(even, odd));
+    for (int y = 0; y < 8; y += 4) {
+      const Bytes32 even = joined(load16(src.row(y)), load16(src.row(y + 2))),
+                    odd = joined(load16(src.row(y + 1)), load16(src.row(y + 3)));
+      store32(dst.row(0) + 8 * y, interleaveLowQuads(even, odd));
+      store32(dst.row(1) + 8 * y, interleaveHighQuads(even, odd));
+    }
   }
 };
 
 template <>
 struct Block<12> {
-  static constexpr size_t kRows = 4, kColumns = 1, kReach = 2;
+  static constexpr size_t kRows = 4, kColumns = 4, kReach = 5;
 
   template <bool atEnd>
   [[gnu::always_inline]] static inline void move(SourceRows src, TargetRows dst) {
-    const auto row = [&](int y) { return load16(src.row(y) - (atEnd ? 4 : 0)); };
-    if constexpr (atEnd)
-      storeTurned(dst.first, permuteDwords<1, 2, 3, 0>(row(0)), permuteDwords<2, 3, 0, 1>(row(1)),
-                  permuteDwords<3, 0, 1, 2>(row(2)), row(3));
-    else
-      storeTurned(dst.first, row(0), permuteDwords<1, 2, 3, 0>(row(1)), permuteDwords<2, 3, 0, 1>(row(2)),
-                  permuteDwords<3, 0, 1, 2>(row(3)));
+    for (int x = 0; x < 4; ++x) {
+      const auto row = [&](int y) { return load16(src.row(y) + 12 * x - (atEnd ? 4 : 0)); };
+      if constexpr (atEnd)
+        storeTurned(dst.row(x), permuteDwords<1, 2, 3, 0>(row(0)), permuteDwords<2, 3, 0, 1>(row(1)),
+                    permuteDwords<3, 0, 1, 2>(row(2)), row(3));
+      else
+        storeTurned(dst.row(x), row(0), permuteDwords<1, 2, 3, 0>(row(1)), permuteDwords<2, 3, 0, 1>(row(2)),
+                    permuteDwords<3, 0, 1, 2>(row(3)));
+    }
   }
 };
 
 template <>
 struct Block<16> {
-  static constexpr size_t kRows = 2, kColumns = 1, kReach = 1;
+  static constexpr size_t kRows = 4, kColumns = 4, kReach = 4;
 
   template <bool atEnd>
   [[gnu::always_inline]] static inline void move(SourceRows src, TargetRows dst) {
-    store32(dst.first, joined(load16(src.row(0)), load16(src.row(1))));
+    for (int x = 0; x < 4; ++x)
+      for (int y = 0; y < 4; y += 2)
+        store32(dst.row(x) + 16 * y, joined(load16(src.row(y) + 16 * x), load16(src.row(y + 1) + 16 * x)));
   }
 };
 
@@ -177,8 +185,7 @@ template <int pixelBytes>
 [[gnu::always_inline]] inline void moveBlocks(SourceRows src, TargetRows dst, Extent image, Range columns,
                                               Range rows) {
   using B = Block<pixelBytes>;
-  const size_t lastColumn = image.length - B::kColumns,
-               lastRow = static_cast<size_t>(image.rows) - B::kRows;
+  const size_t lastColumn = image.length - B::kColumns, lastRow = static_cast<size_t>(image.rows) - B::kRows;
   for (size_t i = columns.first; i < columns.end; i += B::kColumns) {
     const size_t x = std::min(i, lastColumn);
     const auto column = [&](auto atEnd) {
@@ -204,8 +211,8 @@ template <int pixelBytes>
   }
 }
 
-// Tiles of so many rows and columns, column by column: as many rows stay in the nearest cache until all pixels
-// of their lines are taken.
+// Tiles of so many rows and columns, column by column: their rows stay in the nearest cache until all pixels
+// of their lines are taken, and each line of the destination is stored at once.
 constexpr size_t kTile = 64;
 
 }  // namespace
@@ -226,8 +233,7 @@ namespace {
 // One line of each destination row of a tile, which then goes there at once.
 template <int pixelBytes>
 struct Lines {
-  static constexpr size_t kBytes = pixelBytes == 12 ? 192 : 64, kPixels = kBytes / pixelBytes,
-                          kTile = 128;
+  static constexpr size_t kBytes = pixelBytes == 12 ? 192 : 64, kPixels = kBytes / pixelBytes, kTile = 128;
   static_assert(kBytes % pixelBytes == 0);
   alignas(64) Byte bytes[kTile * kBytes];
 
@@ -277,7 +283,7 @@ void transposeSquare(TargetRows image, int side) {
     }
 }
 
-#define LUMI_TRANSPOSE(pixel)                                          \
+#define LUMI_TRANSPOSE(pixel)                                         \
   template void transposeRows<pixel>(SourceRows, TargetRows, Extent); \
   template void transposeSquare<pixel>(TargetRows, int);
 LUMI_TRANSPOSE(1)

@@ -67,10 +67,11 @@ TEST(MirrorDiagonals, EqualTheModel) {
         m.model = modelOf<decltype(sample)>(m);
       },
       Moved());
-  int tried = 0;
+  int tried = 0;  // members
   for (const Member& m : all) {
     if (!hasDiagonals(m)) continue;
-    for (int i = 0; i < settings().scaled(6 * caseRound()); ++i, ++tried) {
+    ++tried;
+    for (int i = 0; i < settings().scaled(6 * caseRound()); ++i) {
       Case c = makeCase(m, settings().seed, i);
       for (int* step : {&c.srcStep, &c.dstStep}) *step = (*step / m.sampleBytes) * m.sampleBytes;
       if (c.srcStep == 0) c.srcStep = m.sampleBytes;
@@ -79,7 +80,7 @@ TEST(MirrorDiagonals, EqualTheModel) {
       ASSERT_FALSE(failure) << *failure << "\n" << describe(m, c);
     }
   }
-  EXPECT_GT(tried, 1000);
+  EXPECT_EQ(tried, 5);
   EXPECT_FALSE(stage.compareEverything());
 }
 

@@ -35,8 +35,7 @@ void mirror(Image src, Image dst, LumiSize roi, Channels channels, int flip) {
   for (int y = 0; y < roi.height; ++y)
     for (int x = 0; x < roi.width; ++x, pixel += channels.src) {
       const LumiPoint to = mirrored(x, y, roi, flip);
-      for (int c = 0; c < channels.moved; ++c)
-        store<T>(dst.row(to.y), to.x * channels.dst + c, pixel[c]);
+      for (int c = 0; c < channels.moved; ++c) store<T>(dst.row(to.y), to.x * channels.dst + c, pixel[c]);
     }
 }
 
