@@ -50,10 +50,8 @@ void swapRows(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, cons
 template <typename Layout, typename T>
 void swapRowsInPlace(T* image, int step, LumiSize roi, const ChannelSources& sources) {
   const auto swap = [&](TargetRows all, Extent pixels) {
-    if constexpr (Layout::kStored == 3)
-      swapThreeBytes(all, pixels, sources);
-    else
-      swapChannelRows<sizeof(T), 4, 4, 4>({all.first, all.step}, all, pixels, sources);
+    constexpr int channels = Layout::kStored;
+    swapChannelRows<sizeof(T), channels, channels, channels>({all.first, all.step}, all, pixels, sources);
   };
   runFused(roi, swap, pixelRows<Layout>(image, step));
 }

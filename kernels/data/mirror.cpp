@@ -25,12 +25,13 @@ struct Reversal {
     return c;
   }
 
-  static constexpr Control turned(size_t first) {
+  // Twelve bytes from `start` on, turned to begin at byte `first`.
+  static constexpr Control turned(size_t first, size_t start) {
     Control c{};
     for (Byte& b : c) b = kZero;
     for (size_t k = 0; k < 12; ++k)
       c[(first + k) % kHalf] =
-          static_cast<Byte>(kHalf - pixelBytes - k / pixelBytes * pixelBytes + k % pixelBytes);
+          static_cast<Byte>(start + 12 - pixelBytes - k / pixelBytes * pixelBytes + k % pixelBytes);
     return c;
   }
 
@@ -44,11 +45,11 @@ struct Reversal {
     static constexpr Control c = control(kHalf - kBytes);
     return shuffleBytes(load16(p - kHalf), vectorOf(c));
   }
-  // Of pixels that divide twelve bytes: the twelve that end at p, turned to begin at byte `first`.
-  template <size_t first>
-  [[gnu::always_inline]] static inline Bytes16 turnedBefore(const Byte* p) {
-    static constexpr Control c = turned(first);
-    return shuffleBytes(load16(p - kHalf), vectorOf(c));
+  // Of pixels that divide twelve bytes: the 48 that end at p. Nothing else is read.
+  [[gnu::always_inline]] static inline void storeFourTwelves(Byte* dst, const Byte* p) {
+    static constexpr Control a = turned(0, 4), b = turned(12, 4), c = turned(8, 4), d = turned(4, 0);
+    storeTurned(dst, shuffleBytes(load16(p - 16), vectorOf(a)), shuffleBytes(load16(p - 28), vectorOf(b)),
+                shuffleBytes(load16(p - 40), vectorOf(c)), shuffleBytes(load16(p - 48), vectorOf(d)));
   }
   // Of pixels that divide sixteen bytes: the 32 bytes that end at p.
   [[gnu::always_inline]] static inline Bytes32 blockBefore(const Byte* p) {
@@ -85,20 +86,23 @@ template <int pixelBytes, typename Store>
   store32(dst + bytes - kVector, last);
 }
 
-// Whole pixels of sixteen bytes at a time, or four times twelve bytes where pixels do not divide sixteen. A
-// store may go beyond its pixels then, over what comes next; the last one does not.
+// Whole pixels of sixteen bytes at a time. Where these are fewer, a store goes beyond them, over what comes
+// next; the last one does not.
 template <int pixelBytes>
 [[gnu::always_inline]] inline void reverseHalves(const Byte* src, Byte* dst, size_t bytes) {
   using R = Reversal<pixelBytes>;
   const Byte* end = src + bytes;
-  size_t at = 0;
-  if constexpr (kHalf % pixelBytes != 0)
-    for (; at + 4 * 12 + 4 <= bytes; at += 4 * 12)
-      storeTurned(dst + at, R::template turnedBefore<0>(end - at),
-                  R::template turnedBefore<12>(end - at - 12), R::template turnedBefore<8>(end - at - 24),
-                  R::template turnedBefore<4>(end - at - 36));
-  for (; at + R::kBytes < bytes; at += R::kBytes) store16(dst + at, R::before(end - at));
+  for (size_t at = 0; at + R::kBytes < bytes; at += R::kBytes) store16(dst + at, R::before(end - at));
   storePixel<static_cast<int>(R::kBytes)>(dst + bytes - R::kBytes, R::after(src));
+}
+
+// Of pixels that do not divide sixteen bytes: 48 bytes or more.
+constexpr size_t kTwelves = 4 * 12;
+template <int pixelBytes>
+[[gnu::always_inline]] inline void reverseTwelves(const Byte* src, Byte* dst, size_t bytes) {
+  using R = Reversal<pixelBytes>;
+  for (size_t at = 0; at + kTwelves < bytes; at += kTwelves) R::storeFourTwelves(dst + at, src + bytes - at);
+  R::storeFourTwelves(dst + bytes - kTwelves, src + kTwelves);
 }
 
 // Some bytes of every pixel stay.
@@ -139,6 +143,9 @@ void reverseRows(SourceRows src, TargetRows dst, Extent pixels, [[maybe_unused]]
       if (bytes >= kVector)
         return walk([=](const Byte* s, Byte* d) { reverseBlocks<pixelBytes, Cached>(s, d, bytes); });
     }
+    if constexpr (!divides)
+      if (bytes >= kTwelves)
+        return walk([=](const Byte* s, Byte* d) { reverseTwelves<pixelBytes>(s, d, bytes); });
     walk([=](const Byte* s, Byte* d) { reverseHalves<pixelBytes>(s, d, bytes); });
   }
 }

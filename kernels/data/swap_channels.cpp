@@ -13,13 +13,15 @@ using namespace simd;
 
 constexpr size_t kHalf = sizeof(Bytes16);
 
-// As many whole pixels as sixteen bytes have in both images, and what is made of them.
+// As many whole pixels as sixteen bytes have in both images, and what is made of them. Three samples a pixel
+// are stored in four times twelve bytes.
 template <int sampleBytes, int srcChannels, int dstChannels, int used>
 class Swap {
  public:
   static constexpr size_t kSrcPixel = sampleBytes * srcChannels, kDstPixel = sampleBytes * dstChannels,
-                          kPixels = kHalf / std::max(kSrcPixel, kDstPixel), kSrcBytes = kPixels * kSrcPixel,
-                          kDstBytes = kPixels * kDstPixel;
+                          kPixels = 16 / (4 * sampleBytes), kSrcBytes = kPixels * kSrcPixel,
+                          kDstBytes = kPixels * kDstPixel, kGroup = 4 * kPixels;
+  static constexpr bool kInGroups = dstChannels == 3;
   static constexpr bool kMayLeaveMore =
       srcChannels != dstChannels && kHalf / std::min(kSrcPixel, kDstPixel) > kPixels;
   static constexpr bool kInserts = srcChannels == 3 && dstChannels == 4;
@@ -39,13 +41,13 @@ class Swap {
       value_ = bitAnd(isValue.v, broadcast16(sample(sources.value)).v);
       kept_ = isKept.v;
     }
-    if constexpr (kDstBytes == 12)
-      for (size_t i = 0; i < 4; ++i) {
-        static constexpr Control turns[] = {turn(0), turn(12), turn(8), turn(4)};
-        turnedControls_[i] = shuffleBytes(control_, vectorOf(turns[i]));
-      }
     constexpr auto behind = static_cast<uint8_t>(kHalf - kSrcBytes);
     controlAtEnd_ = addSaturated(U8{control_}, broadcast16(behind)).v;
+    if constexpr (kInGroups) {
+      static constexpr Control turns[] = {turn(0), turn(12), turn(8), turn(4)};
+      for (size_t i = 0; i < 4; ++i)
+        turnedControls_[i] = shuffleBytes(i < 3 ? control_ : controlAtEnd_, vectorOf(turns[i]));
+    }
   }
 
   static bool keeps(const ChannelSources& sources) {
@@ -53,41 +55,33 @@ class Swap {
     return used < dstChannels || (kInserts && *std::max_element(channels, channels + 4) > 3);
   }
 
+  // Rows of a group or more. The last one may lie over others: it is made before them, so that the image may
+  // be the source.
+  [[gnu::always_inline]] inline void rowInGroups(const Byte* src, Byte* dst, size_t pixels) const {
+    const auto group = [&](size_t at) {
+      const Byte* const s = src + at * kSrcPixel;
+      const auto turned = [&](size_t i) {
+        const Byte* const from = i < 3 ? s + i * kSrcBytes : s + 4 * kSrcBytes - kHalf;
+        return shuffleBytes(load16(from), turnedControls_[i]);
+      };
+      return FourTwelves(turned(0), turned(1), turned(2), turned(3));
+    };
+    const FourTwelves last = group(pixels - kGroup);
+    for (size_t at = 0; at + kGroup < pixels; at += kGroup) group(at).store(dst + at * kDstPixel);
+    last.store(dst + (pixels - kGroup) * kDstPixel);
+  }
+
   // The last vector may lie over others: it is made before them.
   template <bool keeping>
   [[gnu::always_inline]] inline void row(const Byte* src, Byte* dst, size_t pixels, size_t vectors) const {
     Byte* const lastDst = dst + (pixels - kPixels) * kDstPixel;
     const Bytes16 last = made<keeping>(load16(src + pixels * kSrcPixel - kHalf), controlAtEnd_, lastDst);
-    if constexpr (kDstBytes == 12)
-      for (; vectors >= 4; vectors -= 4, src += 4 * kSrcBytes, dst += 4 * kDstBytes) {
-        const auto turned = [&](size_t i) {
-          return shuffleBytes(load16(src + i * kSrcBytes), turnedControls_[i]);
-        };
-        storeTurned(dst, turned(0), turned(1), turned(2), turned(3));
-      }
     for (; vectors; --vectors, src += kSrcBytes, dst += kDstBytes)
       store16(dst, made<keeping>(load16(src), control_, dst));
     // A vector of one image may end where the other has pixels left.
     if (kMayLeaveMore && dst < lastDst)
-      storePixel<static_cast<int>(kDstBytes)>(
-          dst, made<keeping>(load16(src + kSrcBytes - kHalf), controlAtEnd_, dst));
-    storePixel<static_cast<int>(kDstBytes)>(lastDst, last);
-  }
-
-  // In place a vector is read before the store, which goes beyond the pixels in front of it.
-  [[gnu::always_inline]] inline void rowInPlace(Byte* row, size_t pixels, size_t vectors) const {
-    Byte* const end = row + pixels * kSrcPixel;
-    const Bytes16 last = made<false>(load16(end - kHalf), controlAtEnd_, row);
-    if (vectors > 0) {
-      Bytes16 now = load16(row);
-      for (; vectors > 1; --vectors, row += kSrcBytes) {
-        const Bytes16 next = load16(row + kSrcBytes);
-        store16(row, made<false>(now, control_, row));
-        now = next;
-      }
-      store16(row, made<false>(now, control_, row));
-    }
-    storePixel<static_cast<int>(kDstBytes)>(end - kDstBytes, last);
+      store16(dst, made<keeping>(load16(src + kSrcBytes - kHalf), controlAtEnd_, dst));
+    store16(lastDst, last);
   }
 
   template <bool keeping>
@@ -99,7 +93,9 @@ class Swap {
     }
   }
 
-  static bool isShort(size_t pixels) { return pixels * std::min(kSrcPixel, kDstPixel) < kHalf; }
+  static bool isShort(size_t pixels) {
+    return kInGroups ? pixels < kGroup : pixels * std::min(kSrcPixel, kDstPixel) < kHalf;
+  }
   // How many vectors may be read and stored from the start of such a row on, before its last one.
   static size_t vectorsOf(size_t pixels) {
     const size_t within =
@@ -149,7 +145,7 @@ class Swap {
   }
 
   Bytes16 control_, controlAtEnd_;  // of vectors that begin with the pixels, and that end with them
-  Bytes16 turnedControls_[kDstBytes == 12 ? 4 : 1];  // of vectors that are stored four together
+  Bytes16 turnedControls_[kInGroups ? 4 : 1];
   Bytes16 value_, kept_;
 };
 
@@ -159,33 +155,22 @@ template <int sampleBytes, int srcChannels, int dstChannels, int used>
 void swapChannelRows(SourceRows src, TargetRows dst, Extent pixels, const ChannelSources& sources) {
   using S = Swap<sampleBytes, srcChannels, dstChannels, used>;
   const S swap(sources);
-  const size_t length = pixels.length, vectors = S::isShort(length) ? 0 : S::vectorsOf(length);
+  const size_t length = pixels.length;
   const auto walk = [&](auto keeping) {
+    const auto each = [&](auto row) { walkRows(pixels.rows, row, src, dst); };
     if (S::isShort(length))
-      walkRows(
-          pixels.rows, [=](const Byte* s, Byte* d) { swap.template byPixels<keeping.value>(s, d, length); },
-          src, dst);
+      return each([=](const Byte* s, Byte* d) { swap.template byPixels<keeping.value>(s, d, length); });
+    if constexpr (S::kInGroups)
+      each([=](const Byte* s, Byte* d) { swap.rowInGroups(s, d, length); });
     else
-      walkRows(
-          pixels.rows,
-          [=](const Byte* s, Byte* d) { swap.template row<keeping.value>(s, d, length, vectors); }, src, dst);
+      each([=, vectors = S::vectorsOf(length)](const Byte* s, Byte* d) {
+        swap.template row<keeping.value>(s, d, length, vectors);
+      });
   };
   if constexpr (S::kInserts || used < dstChannels) {
     if (S::keeps(sources)) return walk(std::true_type());
   }
   if constexpr (used == dstChannels) walk(std::false_type());
-}
-
-void swapThreeBytes(TargetRows image, Extent pixels, const ChannelSources& sources) {
-  using S = Swap<1, 3, 3, 3>;
-  const S swap(sources);
-  const size_t length = pixels.length, vectors = S::isShort(length) ? 0 : S::vectorsOf(length);
-  if (S::isShort(length))
-    walkRows(
-        pixels.rows, [=](Byte* row) { swap.byPixels<false>(row, row, length); }, image);
-  else
-    walkRows(
-        pixels.rows, [=](Byte* row) { swap.rowInPlace(row, length, vectors); }, image);
 }
 
 #define LUMI_SWAP(sample, from, to, used)                                               \

@@ -14,11 +14,7 @@ struct ChannelSources {
 };
 
 // Pixels of so many stored samples; the destination's from `used` on stay. The images do not overlap, but
-// pixels of four samples may be exchanged in place.
+// those of equally many channels may be the same.
 template <int sampleBytes, int srcChannels, int dstChannels, int used>
 void swapChannelRows(SourceRows src, TargetRows dst, Extent pixels, const ChannelSources& sources);
-
-// In place: three bytes a pixel.
-void swapThreeBytes(TargetRows image, Extent pixels, const ChannelSources& sources);
-
 }  // namespace lumi

@@ -212,8 +212,10 @@ template <int pixelBytes>
 }
 
 // Tiles of so many rows and columns, column by column: their rows stay in the nearest cache until all pixels
-// of their lines are taken, and each line of the destination is stored at once.
-constexpr size_t kTile = 64;
+// of their lines are taken, and each line of the destination is stored at once. Wide pixels of images that
+// the second cache does not hold go down more rows at a time: longer runs of the destination gain more there
+// than the lines of the source, which the second cache then keeps, lose.
+constexpr size_t kTile = 64, kTallTile = 512, kFar = 0x100000;
 
 }  // namespace
 
@@ -222,10 +224,11 @@ void transposeRows(SourceRows src, TargetRows dst, Extent pixels) {
   using B = Block<pixelBytes>;
   const size_t width = pixels.length, height = static_cast<size_t>(pixels.rows);
   if (width < B::kReach || height < B::kRows) return moveByPixels<pixelBytes>(src, dst, pixels);
+  const size_t tall = pixelBytes >= 6 && width * height * pixelBytes > kFar ? kTallTile : kTile;
   for (size_t left = 0; left < width; left += kTile)
-    for (size_t top = 0; top < height; top += kTile)
+    for (size_t top = 0; top < height; top += tall)
       moveBlocks<pixelBytes>(src, dst, pixels, {left, std::min(left + kTile, width)},
-                             {top, std::min(top + kTile, height)});
+                             {top, std::min(top + tall, height)});
 }
 
 namespace {

@@ -90,10 +90,21 @@ constexpr Control narrowControl(int first) {
 
 // Four times twelve bytes in a row. Those of a begin at its start, of b at byte 12, of c at byte 8, of d at
 // byte 4; each goes on at its own start.
+struct FourTwelves {
+  Bytes16 first, second, third;
+
+  FourTwelves(Bytes16 a, Bytes16 b, Bytes16 c, Bytes16 d)
+      : first(blendDwords<0b1000>(a, b)),
+        second(blendDwords<0b1100>(b, c)),
+        third(blendDwords<0b1110>(c, d)) {}
+  void store(Byte* dst) const {
+    store16(dst, first);
+    store16(dst + 16, second);
+    store16(dst + 32, third);
+  }
+};
 inline void storeTurned(Byte* dst, Bytes16 a, Bytes16 b, Bytes16 c, Bytes16 d) {
-  store16(dst, blendDwords<0b1000>(a, b));
-  store16(dst + 16, blendDwords<0b1100>(b, c));
-  store16(dst + 32, blendDwords<0b1110>(c, d));
+  FourTwelves(a, b, c, d).store(dst);
 }
 
 }  // namespace lumi::simd

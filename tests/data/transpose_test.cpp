@@ -110,5 +110,14 @@ TEST(TransposeCalls, OnlySomeShapesAskForTheCache) {
     EXPECT_EQ(queriesOf(memberNamed(never), {1088, 64}, 0, 0), 0) << never;
 }
 
+// Wide pixels in images of more than a mebibyte go down more rows at a time: past the end of that many, too.
+TEST(TransposeCalls, LargeImagesEqualTheModel) {
+  const CoreGuard guard;
+  for (const char* name : {"lumiTranspose_8u_C4R", "lumiTranspose_16u_C3R", "lumiTranspose_16u_C4R",
+                           "lumiTranspose_32s_C3R", "lumiTranspose_32s_C4R"})
+    for (const LumiSize roi : {LumiSize{331, 601}, LumiSize{70, 2500}})
+      EXPECT_EQ(queriesOf(memberNamed(name), roi, 0, 0), 0) << name;
+}
+
 }  // namespace
 }  // namespace test
