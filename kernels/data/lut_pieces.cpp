@@ -33,7 +33,7 @@ struct ConstantPiece {
   V value;
   ConstantPiece(const ConstantStep<T>& s, size_t lane) : value(fromLane(s.value, lane)) {}
   void replace(V held, const ConstantStep<T>& s, size_t lane) {
-    value = where(held, fromLane(s.value, lane), value);
+    value = ifThenElse(held, fromLane(s.value, lane), value);
   }
   V operator()(V) const { return value; }
 };
@@ -43,9 +43,9 @@ struct LinearPiece {
   LinearPiece(const LinearStep& s, size_t lane)
       : level(fromLane(s.level, lane)), value(fromLane(s.value, lane)), slope(fromLane(s.slope, lane)) {}
   void replace(Floats8 held, const LinearStep& s, size_t lane) {
-    level = where(held, fromLane(s.level, lane), level);
-    value = where(held, fromLane(s.value, lane), value);
-    slope = where(held, fromLane(s.slope, lane), slope);
+    level = ifThenElse(held, fromLane(s.level, lane), level);
+    value = ifThenElse(held, fromLane(s.value, lane), value);
+    slope = ifThenElse(held, fromLane(s.slope, lane), slope);
   }
   Floats8 operator()(Floats8 x) const {
     return narrowed(widened(x - level) * widened(slope) + widened(value));
@@ -62,12 +62,12 @@ struct CubicPiece {
         b(fromLane(s.b, lane)),
         c(fromLane(s.c, lane)) {}
   void replace(Floats8 held, const CubicStep& s, size_t lane) {
-    value = where(held, fromLane(s.value, lane), value);
-    origin = where(held, fromLane(s.origin, lane), origin);
+    value = ifThenElse(held, fromLane(s.value, lane), value);
+    origin = ifThenElse(held, fromLane(s.origin, lane), origin);
     const Doubles8 both = widenedMask(held);
-    a = where(both, fromLane(s.a, lane), a);
-    b = where(both, fromLane(s.b, lane), b);
-    c = where(both, fromLane(s.c, lane), c);
+    a = ifThenElse(both, fromLane(s.a, lane), a);
+    b = ifThenElse(both, fromLane(s.b, lane), b);
+    c = ifThenElse(both, fromLane(s.c, lane), c);
   }
   Floats8 operator()(Floats8 x) const {
     const Doubles8 t = widened(x - origin), square = t * t;
@@ -101,7 +101,7 @@ struct Piecewise {
     for (int k = 1; k < pieces.count; ++k)
       piece.replace(isAtLeast(x, fromLane(steps[k].level, lane)), steps[k], lane);
     const V inside = insideOf(x, fromLane(steps[0].level, lane), fromLane(pieces.last, lane));
-    return bytesOf(where(inside, piece(x), x));
+    return bytesOf(ifThenElse(inside, piece(x), x));
   }
   [[gnu::always_inline]] auto block(size_t at, Phase lane) const {
     if constexpr (sizeof(V) == kBlock)

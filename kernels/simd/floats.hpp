@@ -64,11 +64,22 @@ inline Floats8 isEqual(Floats8 a, Floats8 b) { return {_mm256_cmp_ps(a.v, b.v, _
 inline Floats4 andNot(Floats4 a, Floats4 b) { return {_mm_andnot_ps(a.v, b.v)}; }
 inline Floats8 andNot(Floats8 a, Floats8 b) { return {_mm256_andnot_ps(a.v, b.v)}; }
 
-// By lanes: yes where the mask is all ones, no where it is zero. Not by the instruction that looks at signs
-// alone: compilers take that apart into integers, which the level has no 32 bytes of.
-template <typename V>
-auto ifThenElse(V mask, V yes, V no) -> decltype(andNot(mask, no)) {
-  return (mask & yes) | andNot(mask, no);
+// By lanes: yes where the mask is all ones, no where it is zero. The instruction is written out: compilers
+// take the function for it apart into integers, which the level has no 32 bytes of.
+inline Floats4 ifThenElse(Floats4 mask, Floats4 yes, Floats4 no) {
+  __m128 v;
+  asm("vblendvps %3, %2, %1, %0" : "=x"(v) : "x"(no.v), "x"(yes.v), "x"(mask.v));
+  return {v};
+}
+inline Floats8 ifThenElse(Floats8 mask, Floats8 yes, Floats8 no) {
+  __m256 v;
+  asm("vblendvps %3, %2, %1, %0" : "=x"(v) : "x"(no.v), "x"(yes.v), "x"(mask.v));
+  return {v};
+}
+inline Doubles4 ifThenElse(Doubles4 mask, Doubles4 yes, Doubles4 no) {
+  __m256d v;
+  asm("vblendvpd %3, %2, %1, %0" : "=x"(v) : "x"(no.v), "x"(yes.v), "x"(mask.v));
+  return {v};
 }
 // The same by a comparison, which does not hold where either is not a number.
 template <typename V>

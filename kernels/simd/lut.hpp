@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Vector pieces of look-ups: choices by masks of comparisons, and functions of doubles as entries of tables.
+// Vector pieces of look-ups: choices by bits, and functions of doubles as entries of tables.
 #pragma once
 
 #include "kernels/simd/elementary.hpp"
@@ -19,23 +19,6 @@ Samples32<T> shiftLeft(Samples32<T> a) {
   return {_mm256_slli_epi16(a.v, bits)};
 }
 #endif
-
-// By lanes: yes where a comparison of floats or doubles held, else no. The instruction is written out, since
-// compilers take the function for it apart into integers, which the level has no 32 bytes of.
-inline Floats8 where(Floats8 held, Floats8 yes, Floats8 no) {
-  __m256 v;
-  asm("vblendvps %3, %2, %1, %0" : "=x"(v) : "x"(no.v), "x"(yes.v), "x"(held.v));
-  return {v};
-}
-inline Doubles4 where(Doubles4 held, Doubles4 yes, Doubles4 no) {
-  __m256d v;
-  asm("vblendvpd %3, %2, %1, %0" : "=x"(v) : "x"(no.v), "x"(yes.v), "x"(held.v));
-  return {v};
-}
-template <typename T>
-Samples16<T> where(Samples16<T> held, Samples16<T> yes, Samples16<T> no) {
-  return ifThenElse(held, yes, no);
-}
 
 // By bytes: yes where the mask's highest bit is set, else no. Of the function for it compilers make masks of
 // whole bytes first.
@@ -63,8 +46,8 @@ inline Doubles8 widenedMask(Floats8 mask) {
   return {{_mm256_castps_pd(_mm256_permute2f128_ps(low, high, 0x20))},
           {_mm256_castps_pd(_mm256_permute2f128_ps(low, high, 0x31))}};
 }
-inline Doubles8 where(Doubles8 held, Doubles8 yes, Doubles8 no) {
-  return {where(held.low, yes.low, no.low), where(held.high, yes.high, no.high)};
+inline Doubles8 ifThenElse(Doubles8 mask, Doubles8 yes, Doubles8 no) {
+  return {ifThenElse(mask.low, yes.low, no.low), ifThenElse(mask.high, yes.high, no.high)};
 }
 inline Doubles8 widened(Floats8 x) {
   return {{_mm256_cvtps_pd(_mm256_castps256_ps128(x.v))}, {_mm256_cvtps_pd(_mm256_extractf128_ps(x.v, 1))}};
@@ -75,7 +58,5 @@ inline Floats8 narrowed(Doubles8 x) {
 }
 inline Doubles8 operator+(Doubles8 a, Doubles8 b) { return {a.low + b.low, a.high + b.high}; }
 inline Doubles8 operator*(Doubles8 a, Doubles8 b) { return {a.low * b.low, a.high * b.high}; }
-
-inline Doubles4 max(Doubles4 a, Doubles4 b) { return {_mm256_max_pd(a.v, b.v)}; }
 
 }  // namespace lumi::simd

@@ -11,10 +11,8 @@ namespace lumi::simd {
 inline Floats4 approximateReciprocal(Floats4 x) { return {_mm_rcp_ps(x.v)}; }
 inline Floats8 approximateReciprocal(Floats8 x) { return {_mm256_rcp_ps(x.v)}; }
 
-inline Doubles4 max(Doubles4 a, Doubles4 b) { return {_mm256_max_pd(a.v, b.v)}; }
 inline Doubles4 operator&(Doubles4 a, Doubles4 b) { return {_mm256_and_pd(a.v, b.v)}; }
 inline Doubles4 operator|(Doubles4 a, Doubles4 b) { return {_mm256_or_pd(a.v, b.v)}; }
-inline Doubles4 andNot(Doubles4 a, Doubles4 b) { return {_mm256_andnot_pd(a.v, b.v)}; }
 inline Floats4 operator^(Floats4 a, Floats4 b) { return {_mm_xor_ps(a.v, b.v)}; }
 
 // A mask of what is a number.
