@@ -73,7 +73,7 @@ std::vector<Slot> slotsOf(const ExportRow& row, const Call& call) {
   const auto image = [&](const std::string& role, Slot& slot) {
     const auto take = [&](Byte* first, int itsStep) { slot.setPointer(first), step = itsStep; };
     if (role == "src2") return take(call.src2, call.src2Step);
-    if (role == "dst" || role == "srcDst") return take(call.dst[0], call.dstStep);
+    if (role == "dst" || role == "srcDst" || role == "dstMask") return take(call.dst[0], call.dstStep);
     if (role == "mask") return take(call.mask, call.maskStep);
     take(call.src[0], call.srcStep);
   };
@@ -229,6 +229,8 @@ Member memberOf(const ExportRow& row) {
         m.masked = true;
       else if (name == "dst" || name == "srcDst")
         m.dst = operandOf(row.types.back(), row.layouts.back());
+      else if (name == "dstMask")
+        m.dst = operandOf("8u", "C1");
       else
         (name == "src2" ? m.src2 : m.src) = operandOf(row.types.front(), row.layouts.front());
       m.inPlace |= name == "srcDst";

@@ -14,7 +14,7 @@ SAMPLE_TYPES = {
 CHANNELS = {"C1": 1, "C2": 2, "C3": 3, "C4": 4, "AC4": 3, "AC1": 1, "C3C": 1, "C4C": 1, "A0C4": 4}
 PLANES = {"P2": 2, "P3": 3, "P4": 4, "AP4": 4}
 
-ROLES = ("src", "src1", "src2", "dst", "srcDst", "roi", "mask", "value", "bounds", "sfs")
+ROLES = ("src", "src1", "src2", "dst", "srcDst", "dstMask", "roi", "mask", "value", "bounds", "sfs")
 
 _TYPE = r"\d+(?:uc|sc|fc|u|s|f)"
 _TYPES = re.compile(rf"({_TYPE})({_TYPE})?$")
@@ -214,6 +214,8 @@ def _grammar_args(role, types, descriptor):
         return _image(role, types[0], source_layout, False)
     if role in ("dst", "srcDst"):
         return _image(role, types[-1], dest_layout, True)
+    if role == "dstMask":
+        return _image(role, "8u", "C1", True)
     if role == "roi":
         return [Arg("size", "roi", "LumiSize roi")] if descriptor.roi else []
     if role == "mask":

@@ -86,6 +86,11 @@ class Prototypes(unittest.TestCase):
                          "LumiSize roi, const Lum8u* mask, int maskStep)")
         self.assertIn("(Lum8u value, ", self.prototype("value dst roi mask", "8u C4CR", "8u_C4CR"))
 
+    def test_masks_as_results(self):
+        self.assertEqual(self.prototype("src dstMask roi", "32f C3R", "32f_C3R"),
+                         "LumStatus lumiProbe_32f_C3R(const Lum32f* src, int srcStep, Lum8u* dstMask, "
+                         "int dstMaskStep, LumiSize roi)")
+
 
 class Rows(unittest.TestCase):
     def test_sharing(self):
