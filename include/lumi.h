@@ -14,6 +14,7 @@
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"
 #include "lumi/div.h"
+#include "lumi/extremes.h"
 #include "lumi/filter_border.h"
 #include "lumi/image_memory.h"
 #include "lumi/logic.h"

@@ -193,6 +193,10 @@ Peer zeroAbove(View src, View dst, double threshold) {
               [=, s = mat(src), d = mat(dst)] { cv::threshold(s, d, threshold, 0, cv::THRESH_TOZERO_INV); });
 }
 
+Peer extreme(View src, View dst, bool larger) {
+  return peer("opencv", [=, s = mat(src), d = mat(dst)] { larger ? cv::max(s, d, d) : cv::min(s, d, d); });
+}
+
 Peer bestThreshold(View src) {
   const cv::Mat above(src.roi.height, src.roi.width, CV_8UC1);
   return peer("opencv", [s = mat(src), above] {

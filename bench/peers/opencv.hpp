@@ -48,6 +48,8 @@ enum class Logic { conjunction, disjunction, exclusive };
 // Samples above the thresholds become those, or 0.
 [[gnu::weak]] Peer limitAbove(View src, View dst, Value thresholds);
 [[gnu::weak]] Peer zeroAbove(View src, View dst, double threshold);
+// The larger or the smaller samples of both, in dst.
+[[gnu::weak]] Peer extreme(View src, View dst, bool larger);
 // The best threshold of bytes; stores which of them are above it.
 [[gnu::weak]] Peer bestThreshold(View src);
 // To the destination's type.
