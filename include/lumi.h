@@ -10,6 +10,7 @@
 #include "lumi/best_threshold.h"
 #include "lumi/bits.h"
 #include "lumi/border.h"
+#include "lumi/compare.h"
 #include "lumi/convert.h"
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"

@@ -197,6 +197,22 @@ Peer extreme(View src, View dst, bool larger) {
   return peer("opencv", [=, s = mat(src), d = mat(dst)] { larger ? cv::max(s, d, d) : cv::min(s, d, d); });
 }
 
+namespace {
+
+constexpr int kCompareOps[] = {cv::CMP_LT, cv::CMP_LE, cv::CMP_EQ, cv::CMP_GE, cv::CMP_GT};
+
+}  // namespace
+
+Peer compare(View a, View b, View dst, int cmpOp) {
+  return peer("opencv",
+              [x = mat(a), y = mat(b), d = mat(dst), op = kCompareOps[cmpOp]] { cv::compare(x, y, d, op); });
+}
+
+Peer compareConstant(View src, View dst, double value, int cmpOp) {
+  return peer("opencv",
+              [s = mat(src), d = mat(dst), value, op = kCompareOps[cmpOp]] { cv::compare(s, value, d, op); });
+}
+
 Peer bestThreshold(View src) {
   const cv::Mat above(src.roi.height, src.roi.width, CV_8UC1);
   return peer("opencv", [s = mat(src), above] {

@@ -50,6 +50,9 @@ enum class Logic { conjunction, disjunction, exclusive };
 [[gnu::weak]] Peer zeroAbove(View src, View dst, double threshold);
 // The larger or the smaller samples of both, in dst.
 [[gnu::weak]] Peer extreme(View src, View dst, bool larger);
+// 255 where samples compare as a LumCmpOp says, else 0.
+[[gnu::weak]] Peer compare(View a, View b, View dst, int cmpOp);
+[[gnu::weak]] Peer compareConstant(View src, View dst, double value, int cmpOp);
 // The best threshold of bytes; stores which of them are above it.
 [[gnu::weak]] Peer bestThreshold(View src);
 // To the destination's type.

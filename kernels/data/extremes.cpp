@@ -30,9 +30,9 @@ template <typename Op, typename T, bool alpha>
   runPixels<pixel, used>(srcDst, samples, Binary<T, Op, Image, Image>{Image(src), Image(old), Op()});
 }
 
-#define LUMI_EXTREMES(T)                                                    \
-  template void extremeRows<Larger, T, false>(SourceRows, TargetRows, Extent); \
-  template void extremeRows<Larger, T, true>(SourceRows, TargetRows, Extent);  \
+#define LUMI_EXTREMES(T)                                                        \
+  template void extremeRows<Larger, T, false>(SourceRows, TargetRows, Extent);  \
+  template void extremeRows<Larger, T, true>(SourceRows, TargetRows, Extent);   \
   template void extremeRows<Smaller, T, false>(SourceRows, TargetRows, Extent); \
   template void extremeRows<Smaller, T, true>(SourceRows, TargetRows, Extent);
 LUMI_EXTREMES(uint8_t)

@@ -41,7 +41,7 @@ float withBits(uint32_t bits) {
 // Long rows and short ones have code of their own.
 TEST(Extremes, DestinationsStayBesideNaNsAndZeros) {
   const float nan = withBits(0x7FC00123), other = withBits(0xFFC04567);
-  const std::pair<float, float> pairs[] = {{nan, 1.0F},   {nan, other},   {1.0F, other},
+  const std::pair<float, float> pairs[] = {{nan, 1.0F},   {nan, other},  {1.0F, other},
                                            {0.0F, -0.0F}, {-0.0F, 0.0F}, {nan, -INFINITY}};
   for (auto* keepExtreme : {lumiMaxEvery_32f_C1IR, lumiMinEvery_32f_C1IR})
     for (const auto& [src, dst] : pairs)
@@ -58,7 +58,8 @@ TEST(Extremes, AlphaOfTheDestinationStays) {
   Lum8u larger[] = {5, 5, 5, 5, 5, 5, 5, 5}, smaller[] = {5, 5, 5, 5, 5, 5, 5, 5};
   ASSERT_EQ(lumiMaxEvery_8u_AC4IR(src, 8, larger, 8, {2, 1}), lumStatusOk);
   ASSERT_EQ(lumiMinEvery_8u_AC4IR(src, 8, smaller, 8, {2, 1}), lumStatusOk);
-  EXPECT_EQ(std::vector<int>(std::begin(larger), std::end(larger)), (std::vector<int>{9, 5, 9, 5, 5, 9, 5, 5}));
+  EXPECT_EQ(std::vector<int>(std::begin(larger), std::end(larger)),
+            (std::vector<int>{9, 5, 9, 5, 5, 9, 5, 5}));
   EXPECT_EQ(std::vector<int>(std::begin(smaller), std::end(smaller)),
             (std::vector<int>{5, 1, 5, 5, 1, 5, 1, 5}));
 }
