@@ -194,7 +194,8 @@ Peer zeroAbove(View src, View dst, double threshold) {
 }
 
 Peer extreme(View src, View dst, bool larger) {
-  return peer("opencv", [=, s = mat(src), d = mat(dst)] { larger ? cv::max(s, d, d) : cv::min(s, d, d); });
+  return peer("opencv",
+              [=, s = mat(src), d = mat(dst)]() mutable { larger ? cv::max(s, d, d) : cv::min(s, d, d); });
 }
 
 namespace {
