@@ -58,7 +58,7 @@ void runConstant(const T* src, int srcStep, Value value, Lum8u* mask, int maskSt
 template <typename T, typename Layout>
 auto comparing(LumCmpOp cmpOp) {
   const bool swapped = cmpOp == lumCmpOpGreater || cmpOp == lumCmpOpGreaterEqual;
-  const Relation relation = cmpOp == lumCmpOpEqual                                ? Relation::Equal
+  const Relation relation = cmpOp == lumCmpOpEqual                              ? Relation::Equal
                             : cmpOp == lumCmpOpLess || cmpOp == lumCmpOpGreater ? Relation::Below
                                                                                 : Relation::NotAbove;
   return [=](Comparand a, Comparand b, TargetRows mask, Extent pixels) {
@@ -117,8 +117,8 @@ LumStatus compareWithin(const T* src1, int src1Step, const T* src2, int src2Step
 template <typename T, typename Layout, typename Value>
 LumStatus compareConstantWithin(const T* src, int srcStep, Value value, Lum8u* mask, int maskStep,
                                 LumiSize roi, Lum32f tolerance) {
-  if (LumStatus fault = firstFault(pointers(value, src, mask), steps(srcStep, maskStep), size(roi),
-                                   notNegative(tolerance)))
+  if (LumStatus fault =
+          firstFault(pointers(value, src, mask), steps(srcStep, maskStep), size(roi), notNegative(tolerance)))
     return fault;
   runConstant<T, Layout>(src, srcStep, value, mask, maskStep, roi, comparingWithin<Layout>(tolerance));
   return lumStatusOk;

@@ -14,6 +14,7 @@
 #include "lumi/convert.h"
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"
+#include "lumi/count_in_range.h"
 #include "lumi/div.h"
 #include "lumi/extremes.h"
 #include "lumi/filter_border.h"

@@ -85,7 +85,8 @@ Suite::Build constants(WithConstant<T, const T*> lumi) {
 }
 
 template <int C>
-Suite::Build within(LumStatus (*lumi)(const Lum32f*, int, const Lum32f*, int, Lum8u*, int, LumiSize, Lum32f)) {
+Suite::Build within(LumStatus (*lumi)(const Lum32f*, int, const Lum32f*, int, Lum8u*, int, LumiSize,
+                                      Lum32f)) {
   return [=](Scene& s) {
     const auto a = s.input<Lum32f>(C), b = s.input<Lum32f>(C);
     const auto dst = s.output<Lum8u>(1);

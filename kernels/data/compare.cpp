@@ -135,8 +135,8 @@ template <size_t pixelBytes, typename Masks>
 
 // Constants have as many pixels as a step. The last step may lie over the one before it.
 template <typename T, int channels, typename F>
-[[gnu::noinline, gnu::flatten]] void run(Comparand a, Comparand b, TargetRows mask, Extent pixels, const F& test,
-                           const Passing& passing) {
+[[gnu::noinline, gnu::flatten]] void run(Comparand a, Comparand b, TargetRows mask, Extent pixels,
+                                         const F& test, const Passing& passing) {
   constexpr size_t pixelBytes = channels * sizeof(T);
   const auto masks = [f = test, passing](const Byte* p, const Byte* q) {
     return pixelMasks<T, channels>(p, q, f, passing);
@@ -188,8 +188,7 @@ template <typename A, typename B>
 void compareBytes(Comparand a, Comparand b, TargetRows mask, Extent pixels, Relation relation) {
   using Image = ImageRow<uint8_t, uint8_t>;
   using Constant = ConstantRow<false>;
-  if (!a.isConstant && !b.isConstant)
-    return runBytes(Image(a.rows), Image(b.rows), mask, pixels, relation);
+  if (!a.isConstant && !b.isConstant) return runBytes(Image(a.rows), Image(b.rows), mask, pixels, relation);
   const PixelPattern pattern = makePattern<1>((a.isConstant ? a : b).rows.first);
   if (a.isConstant)
     runBytes(Constant{pattern}, Image(b.rows), mask, pixels, relation);
@@ -239,11 +238,11 @@ void compareWithinRows(Comparand first, Comparand second, TargetRows mask, Exten
 
 #define LUMI_COMPARE(T, channels) \
   template void compareRows<T, channels>(Comparand, Comparand, TargetRows, Extent, Relation, bool);
-#define LUMI_CHANNELS(channels)     \
-  LUMI_COMPARE(uint8_t, channels)   \
-  LUMI_COMPARE(uint16_t, channels)  \
-  LUMI_COMPARE(int16_t, channels)   \
-  LUMI_COMPARE(float, channels)     \
+#define LUMI_CHANNELS(channels)    \
+  LUMI_COMPARE(uint8_t, channels)  \
+  LUMI_COMPARE(uint16_t, channels) \
+  LUMI_COMPARE(int16_t, channels)  \
+  LUMI_COMPARE(float, channels)    \
   template void compareWithinRows<channels>(Comparand, Comparand, TargetRows, Extent, float, bool);
 LUMI_CHANNELS(1)
 LUMI_CHANNELS(3)

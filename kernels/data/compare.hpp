@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Row kernels of comparisons: a mask of a byte for each pixel, 255 where all its samples pass and 0 elsewhere.
+// Row kernels of comparisons: a mask of a byte for each pixel, 255 where all its samples pass and 0
+// elsewhere.
 #pragma once
 
 #include <cstddef>

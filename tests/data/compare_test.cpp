@@ -50,7 +50,8 @@ bool addAll() {
     addModelTests(membersOfOneType(
         operation,
         [](Member& m, Lum32f) {
-          m.choose("tolerance", {{{0}}, {{-0.0}}, {{0.25}}, {{3.5}}, {{1000}}, {{1e30}}, {{INFINITY}}, {{NAN}}});
+          m.choose("tolerance",
+                   {{{0}}, {{-0.0}}, {{0.25}}, {{3.5}}, {{1000}}, {{1e30}}, {{INFINITY}}, {{NAN}}});
           describe<Lum32f>(m, [](Lum32f, const Call& c) {
             return [most = static_cast<float>(c.number("tolerance"))](float a, float b) {
               const float difference = a - b;

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+// Counts of the samples that lie in a range.
+#include "lumi/count_in_range.h"
+
+#include <cstring>
+
+#include "frame/check.hpp"
+#include "frame/constant.hpp"
+#include "frame/rows.hpp"
+#include "kernels/data/count_in_range.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace check;
+
+template <typename T, typename Layout>
+bool isInOrder(const Ranges<T>& ranges) {
+  for (int c = 0; c < Layout::kUsed; ++c)
+    if (ranges.lower[c] > ranges.upper[c]) return false;
+  return true;
+}
+
+// Alpha has a range too, whose count nobody takes.
+template <typename T, typename Layout, typename Bound>
+Ranges<T> rangesOf(const Bound& lower, const Bound& upper) {
+  Ranges<T> ranges{};
+  std::memcpy(ranges.lower, samplesOf(lower), sizeof(T) * Layout::kUsed);
+  std::memcpy(ranges.upper, samplesOf(upper), sizeof(T) * Layout::kUsed);
+  return ranges;
+}
+
+template <typename T, typename Layout, typename Bound>
+LumStatus countInRange(const T* src, int srcStep, LumiSize roi, Lum32s* count, Bound lower, Bound upper) {
+  if (LumStatus fault = firstFault(pointers(src, count, lower, upper), steps(srcStep), size(roi)))
+    return fault;
+  const Ranges<T> ranges = rangesOf<T, Layout>(lower, upper);
+  if (!isInOrder<T, Layout>(ranges)) return lumStatusBadRange;
+  ChannelCounts counts{};
+  runFused(
+      roi,
+      [&](SourceRows s, Extent pixels) { counts = countInRanges<T, Layout::kStored>(s, pixels, ranges); },
+      pixelRows<Layout>(src, srcStep));
+  std::memcpy(count, counts.of, sizeof *count * Layout::kUsed);
+  return lumStatusOk;
+}
+
+}  // namespace
+}  // namespace lumi
+
+using namespace lumi;
+#include "bind/count_in_range.inc"
