@@ -28,11 +28,15 @@ struct Equal {
     return isEqual(a, b);
   }
 };
-// The one test of order that an integer type has for least: above for signed samples, not below for others.
+// The one test of order that an integer type has for least: above for signed samples, not below for others,
+// by a difference that takes either operand once: loads bound this.
 struct Order {
   template <typename T>
   Samples16<T> operator()(Samples16<T> a, Samples16<T> b) const {
-    return std::is_signed_v<T> ? isAboveSigned(a, b) : isAtLeast(a, b);
+    if constexpr (std::is_signed_v<T>)
+      return isAboveSigned(a, b);
+    else
+      return isEqual(subSaturated(b, a), broadcastLike(a, T{0}));
   }
 };
 struct Within {
