@@ -14,13 +14,6 @@ namespace {
 
 using namespace check;
 
-template <typename T, typename Layout>
-bool isInOrder(const Ranges<T>& ranges) {
-  for (int c = 0; c < Layout::kUsed; ++c)
-    if (ranges.lower[c] > ranges.upper[c]) return false;
-  return true;
-}
-
 // Alpha has a range too, whose count nobody takes.
 template <typename T, typename Layout, typename Bound>
 Ranges<T> rangesOf(const Bound& lower, const Bound& upper) {
@@ -32,10 +25,11 @@ Ranges<T> rangesOf(const Bound& lower, const Bound& upper) {
 
 template <typename T, typename Layout, typename Bound>
 LumStatus countInRange(const T* src, int srcStep, LumiSize roi, Lum32s* count, Bound lower, Bound upper) {
-  if (LumStatus fault = firstFault(pointers(src, count, lower, upper), steps(srcStep), size(roi)))
+  if (LumStatus fault = firstFault(pointers(src, count, lower, upper), steps(srcStep), size(roi), [&] {
+        return areInOrder<T, Layout>(lower, upper) ? lumStatusOk : lumStatusBadRange;
+      }))
     return fault;
   const Ranges<T> ranges = rangesOf<T, Layout>(lower, upper);
-  if (!isInOrder<T, Layout>(ranges)) return lumStatusBadRange;
   ChannelCounts counts{};
   runFused(
       roi,

@@ -2,7 +2,6 @@
 // Thresholds: samples beyond them are limited, or replaced by a value.
 #include "lumi/threshold.h"
 
-#include <cstring>
 #include <type_traits>
 
 #include "frame/check.hpp"
@@ -92,23 +91,15 @@ LumStatus replaceIf(Argument... arguments) {
   return replace<T, Layout>(arguments..., cmpOp);
 }
 
-// A NaN is in order with anything.
-template <typename T, typename Layout, typename Value>
-LumStatus order(const Value& lower, const Value& upper) {
-  T from[Layout::kUsed], to[Layout::kUsed];
-  std::memcpy(from, samplesOf(lower), sizeof from);
-  std::memcpy(to, samplesOf(upper), sizeof to);
-  for (int c = 0; c < Layout::kUsed; ++c)
-    if (from[c] > to[c]) return lumStatusBadThresholdOrder;
-  return lumStatusOk;
-}
-
 template <typename T, typename Layout, typename Value>
 LumStatus replaceBoth(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, Value thresholdLT,
                       Value valueLT, Value thresholdGT, Value valueGT) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi), steps(srcStep, dstStep),
-                                   pointers(thresholdLT, valueLT, thresholdGT, valueGT),
-                                   [&] { return order<T, Layout>(thresholdLT, thresholdGT); }))
+                                   pointers(thresholdLT, valueLT, thresholdGT, valueGT), [&] {
+                                     return areInOrder<T, Layout>(thresholdLT, thresholdGT)
+                                                ? lumStatusOk
+                                                : lumStatusBadThresholdOrder;
+                                   }))
     return fault;
   return run<T, Layout>(src, srcStep, dst, dstStep, roi, true, Beyond::ReplacedBoth, thresholdLT, valueLT,
                         thresholdGT, valueGT);

@@ -33,4 +33,16 @@ PixelPattern patternOf(const Value& value) {
   }
 }
 
+// Whether no sample of the lower constant is above that of the upper one. What is no number is in order with
+// anything.
+template <typename T, typename Layout, typename Value>
+bool areInOrder(const Value& lower, const Value& upper) {
+  T from[Layout::kUsed], to[Layout::kUsed];
+  std::memcpy(from, samplesOf(lower), sizeof from);
+  std::memcpy(to, samplesOf(upper), sizeof to);
+  for (int c = 0; c < Layout::kUsed; ++c)
+    if (from[c] > to[c]) return false;
+  return true;
+}
+
 }  // namespace lumi

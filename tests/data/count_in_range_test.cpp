@@ -8,23 +8,12 @@
 #include <limits>
 #include <vector>
 
+#include "data/ordered_bounds.hpp"
 #include "model/data/count_in_range.hpp"
 #include "support/member.hpp"
 
 namespace test {
 namespace {
-
-// Three pairs of four are put in order.
-template <typename T>
-void arrange(Random& random, Byte* bounds, int channels) {
-  if (random.oneIn(4)) return;
-  for (int c = 0; c < channels; ++c) {
-    const T lower = model::load<T>(bounds, c), upper = model::load<T>(bounds, channels + c);
-    if (!(lower > upper)) continue;
-    model::store<T>(bounds, c, upper);
-    model::store<T>(bounds, channels + c, lower);
-  }
-}
 
 const bool added = addModelTests(membersOfOneType(
     "CountInRange",
@@ -34,7 +23,7 @@ const bool added = addModelTests(membersOfOneType(
       m.contents = kAnyContents;
       m.mayStream = false;
       m.results("count", "32s");
-      m.arrangeValues = [=](Random& random, Byte* bounds) { arrange<T>(random, bounds, used); };
+      m.arrangeValues = [=](Random& random, Byte* bounds) { arrangeBounds<T>(random, bounds, used, used); };
       m.model = [=](const Call& c) {
         return model::countInRange<T>(c.srcImage(), c.roi, stored, used, c.values, c.block("count").data);
       };

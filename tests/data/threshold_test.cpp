@@ -9,6 +9,7 @@
 #include <limits>
 #include <vector>
 
+#include "data/ordered_bounds.hpp"
 #include "model/data/threshold.hpp"
 #include "support/core_guard.hpp"
 #include "support/member.hpp"
@@ -43,18 +44,6 @@ std::vector<Member> oneSided(const std::string& operation, Run run) {
       ThresholdTypes());
 }
 
-// Three pairs of four are put in order.
-template <typename T>
-void arrange(Random& random, Byte* values, int channels) {
-  if (random.oneIn(4)) return;
-  for (int c = 0; c < channels; ++c) {
-    const T lower = model::load<T>(values, c), upper = model::load<T>(values, 2 * channels + c);
-    if (!(lower > upper)) continue;
-    model::store<T>(values, c, upper);
-    model::store<T>(values, 2 * channels + c, lower);
-  }
-}
-
 bool addAll() {
   for (const char* operation : {"Threshold", "Threshold_GT", "Threshold_LT"})
     addModelTests(oneSided(operation, [](auto sample, const Call& c, bool above, model::Channels channels) {
@@ -70,7 +59,9 @@ bool addAll() {
         using T = decltype(sample);
         describe(m);
         const model::Channels channels = m.channels;
-        m.arrangeValues = [=](Random& random, Byte* values) { arrange<T>(random, values, channels.moved); };
+        m.arrangeValues = [=](Random& random, Byte* values) {
+          arrangeBounds<T>(random, values, channels.moved, 2 * channels.moved);
+        };
         m.model = [=](const Call& c) {
           return model::replaceBoth<T>(c.values, c.srcImage(), c.dstImage(), c.roi, channels);
         };
