@@ -27,10 +27,13 @@ T saturated(Lum32s value) {
   return static_cast<T>(std::clamp<Lum32s>(value, kLow<T>, kEnd<T> - 1));
 }
 
-// The values below the first level, and from the last one on.
+// The values below the first level, and those from the last one on.
 template <typename T>
-void fillOutside(const LevelList<Lum32s>& list, T* table) {
+void fillBelow(const LevelList<Lum32s>& list, T* table) {
   fillIdentity(table, kLow<T>, std::min(list.levels[0], kEnd<T>));
+}
+template <typename T>
+void fillAbove(const LevelList<Lum32s>& list, T* table) {
   fillIdentity(table, std::max(list.levels[list.pieces()], kLow<T>), kEnd<T>);
 }
 
@@ -51,16 +54,17 @@ void fillPieces(const LevelList<Lum32s>& list, T* table, const Fill& fill) {
 
 template <typename T>
 void makeTable(Constant, const LevelList<Lum32s>& list, T* table) {
-  fillIdentity(table, kLow<T>, std::min(list.levels[0], kEnd<T>));
+  fillBelow(list, table);
   for (int k = 0; k < list.pieces(); ++k)
     fillConstant(table, std::clamp(list.levels[k], kLow<T>, kEnd<T>),
                  std::clamp(list.levels[k + 1], kLow<T>, kEnd<T>), saturated<T>(list.values[k]));
-  fillIdentity(table, std::max(list.levels[list.pieces()], kLow<T>), kEnd<T>);
+  fillAbove(list, table);
 }
 
 template <typename T>
 void makeTable(Linear, const LevelList<Lum32s>& list, T* table) {
-  fillOutside(list, table);
+  fillBelow(list, table);
+  fillAbove(list, table);
   fillPieces(list, table, [&](int k, int from, int to) {
     const double level = list.levels[k], value = list.values[k];
     const double slope = (list.values[k + 1] - value) / (list.levels[k + 1] - level);  // of exact differences
@@ -70,7 +74,8 @@ void makeTable(Linear, const LevelList<Lum32s>& list, T* table) {
 
 template <typename T>
 void makeTable(Cubic, const LevelList<Lum32s>& list, T* table) {
-  fillOutside(list, table);
+  fillBelow(list, table);
+  fillAbove(list, table);
   fillPieces(list, table, [&](int k, int from, int to) {
     const int origin = originOf(k, list.count);
     const CubicCoefficients curve = cubicOf(list, k);

@@ -175,18 +175,22 @@ class Repeated {
   Byte bytes_[kPixels * pixelBytes];
 };
 
+template <typename Run>
+[[gnu::always_inline]] inline void chooseTest(Relation relation, const Run& run) {
+  switch (relation) {
+    case Relation::Below:
+      return run(Below());
+    case Relation::NotAbove:
+      return run(NotAbove());
+    case Relation::Equal:
+      return run(Equal());
+  }
+}
+
 // Bytes to bytes.
 template <typename A, typename B>
 [[gnu::flatten]] void runBytes(A a, B b, TargetRows mask, Extent pixels, Relation relation) {
-  const auto test = [&](auto f) { runRows(mask, pixels, Binary<uint8_t, decltype(f), A, B>{a, b, f}); };
-  switch (relation) {
-    case Relation::Below:
-      return test(Below());
-    case Relation::NotAbove:
-      return test(NotAbove());
-    case Relation::Equal:
-      return test(Equal());
-  }
+  chooseTest(relation, [&](auto f) { runRows(mask, pixels, Binary<uint8_t, decltype(f), A, B>{a, b, f}); });
 }
 
 void compareBytes(Comparand a, Comparand b, TargetRows mask, Extent pixels, Relation relation) {
@@ -212,14 +216,7 @@ void compareRows(Comparand first, Comparand second, TargetRows mask, Extent pixe
     const Comparand a = constant.of(first), b = constant.of(second);
     const Passing holding(true, alpha);
     if constexpr (std::is_floating_point_v<T>) {
-      switch (relation) {
-        case Relation::Below:
-          return run<T, channels>(a, b, mask, pixels, Below(), holding);
-        case Relation::NotAbove:
-          return run<T, channels>(a, b, mask, pixels, NotAbove(), holding);
-        case Relation::Equal:
-          return run<T, channels>(a, b, mask, pixels, Equal(), holding);
-      }
+      chooseTest(relation, [&](auto test) { run<T, channels>(a, b, mask, pixels, test, holding); });
     } else {
       if (relation == Relation::Equal)
         return run<std::make_unsigned_t<T>, channels>(a, b, mask, pixels, Equal(), holding);

@@ -6,20 +6,6 @@
 
 namespace lumi::simd {
 
-// Zeros come in.
-template <int bits, typename T>
-Samples16<T> shiftLeft(Samples16<T> a) {
-  static_assert(sizeof(T) == 2);
-  return {_mm_slli_epi16(a.v, bits)};
-}
-#ifdef __AVX2__
-template <int bits, typename T>
-Samples32<T> shiftLeft(Samples32<T> a) {
-  static_assert(sizeof(T) == 2);
-  return {_mm256_slli_epi16(a.v, bits)};
-}
-#endif
-
 // By bytes: yes where the mask's highest bit is set, else no. Of the function for it compilers make masks of
 // whole bytes first.
 template <size_t bytes>

@@ -191,6 +191,11 @@ Samples16<T> shiftRight(Samples16<T> a) {
   else
     return {std::is_signed_v<T> ? _mm_srai_epi32(a.v, bits) : _mm_srli_epi32(a.v, bits)};
 }
+template <int bits, typename T>
+Samples16<T> shiftLeft(Samples16<T> a) {
+  static_assert(sizeof(T) == 2);
+  return {_mm_slli_epi16(a.v, bits)};
+}
 
 // (a + b + 1) / 2, without overflow.
 inline U8 averageUp(U8 a, U8 b) { return {_mm_avg_epu8(a.v, b.v)}; }

@@ -147,6 +147,11 @@ Samples32<T> shiftRight(Samples32<T> a) {
   else
     return {std::is_signed_v<T> ? _mm256_srai_epi32(a.v, bits) : _mm256_srli_epi32(a.v, bits)};
 }
+template <int bits, typename T>
+Samples32<T> shiftLeft(Samples32<T> a) {
+  static_assert(sizeof(T) == 2);
+  return {_mm256_slli_epi16(a.v, bits)};
+}
 
 inline Samples32<uint8_t> averageUp(Samples32<uint8_t> a, Samples32<uint8_t> b) {
   return {_mm256_avg_epu8(a.v, b.v)};
