@@ -84,10 +84,7 @@ class Scene {
   // Images that have another size than the row.
   template <typename T>
   Image<T> inputOf(int channels, LumiSize size) {
-    std::swap(roi_, size);
-    const Image<T> image = input<T>(channels);
-    std::swap(roi_, size);
-    return image;
+    return withRoi(size, [&] { return input<T>(channels); });
   }
   template <typename T>
   Image<T> output(int channels) {
@@ -95,10 +92,7 @@ class Scene {
   }
   template <typename T>
   Image<T> outputOf(int channels, LumiSize size) {
-    std::swap(roi_, size);
-    const Image<T> image = output<T>(channels);
-    std::swap(roi_, size);
-    return image;
+    return withRoi(size, [&] { return output<T>(channels); });
   }
   template <typename T>
   Planes<T> inputPlanes(int count) {
@@ -128,6 +122,14 @@ class Scene {
   Result measure(double budgetSeconds);
 
  private:
+  template <typename Make>
+  auto withRoi(LumiSize size, const Make& make) {
+    std::swap(roi_, size);
+    const auto made = make();
+    std::swap(roi_, size);
+    return made;
+  }
+
   struct Block {
     Lum8u* bytes;
     std::size_t size;
