@@ -58,6 +58,7 @@ class Counter {
 
  public:
   explicit Counter(const Ranges<T>& ranges) : ranges_(ranges) {
+    for (auto& lanes : lanes_) lanes = L::none();
     for (size_t i = 0; i < kRound; ++i) {
       lower_[i] = ranges.lower[i % channels];
       upper_[i] = ranges.upper[i % channels];
@@ -68,11 +69,10 @@ class Counter {
   void row(const Byte* p, size_t samples) {
     size_t at = 0;
     while (at + kRound <= samples) {
-      const size_t rounds = std::min((samples - at) / kRound, L::kMost);
-      if constexpr (kVectors == 1)
-        count(p + at * sizeof(T), rounds, range(0));
-      else
-        count(p + at * sizeof(T), rounds, range(0), range(1), range(2));
+      const size_t rounds = std::min((samples - at) / kRound, L::kMost - counted_);
+      count(p + at * sizeof(T), rounds, std::make_index_sequence<kVectors>());
+      counted_ += rounds;
+      if (counted_ == L::kMost) flush();
       at += rounds * kRound;
     }
     for (; at < samples; ++at) {
@@ -82,30 +82,39 @@ class Counter {
       counts_.of[c] += x >= ranges_.lower[c] && !(x > ranges_.upper[c]);
     }
   }
-  const ChannelCounts& counts() const { return counts_; }
+  const ChannelCounts& counts() {
+    flush();
+    return counts_;
+  }
 
  private:
   typename L::Range range(size_t i) const {
     const auto from = [=](const T* bounds) { return reinterpret_cast<const Byte*>(bounds + i * L::kLanes); };
     return {from(lower_), from(upper_)};
   }
-  template <typename... Range>
-  [[gnu::always_inline]] void count(const Byte* p, size_t rounds, const Range&... ranges) {
-    add(p, rounds, std::index_sequence_for<Range...>(), ranges...);
-  }
-  template <size_t... i, typename... Range>
-  [[gnu::always_inline]] void add(const Byte* p, size_t rounds, std::index_sequence<i...>,
-                                  const Range&... ranges) {
-    typename L::V lanes[] = {(static_cast<void>(i), L::none())...};
+  template <size_t... i>
+  [[gnu::always_inline]] void count(const Byte* p, size_t rounds, std::index_sequence<i...>) {
+    const typename L::Range ranges[] = {range(i)...};
+    typename L::V lanes[] = {lanes_[i]...};
     for (; rounds > 0; --rounds, p += kRound * sizeof(T))
-      ((lanes[i] = ranges.counted(lanes[i], p + i * L::kLanes * sizeof(T))), ...);
+      ((lanes[i] = ranges[i].counted(lanes[i], p + i * L::kLanes * sizeof(T))), ...);
+    ((lanes_[i] = lanes[i]), ...);
+  }
+  // What the lanes have counted since they were empty goes to the channels.
+  void flush() {
     T sums[kRound];
-    (L::store(reinterpret_cast<Byte*>(sums + i * L::kLanes), lanes[i]), ...);
+    for (size_t i = 0; i < kVectors; ++i) {
+      L::store(reinterpret_cast<Byte*>(sums + i * L::kLanes), lanes_[i]);
+      lanes_[i] = L::none();
+    }
     for (size_t k = 0; k < kRound; ++k) counts_.of[k % channels] += static_cast<uint32_t>(sums[k]);
+    counted_ = 0;
   }
 
   const Ranges<T>& ranges_;
   ChannelCounts counts_{};
+  typename L::V lanes_[kVectors];
+  size_t counted_ = 0;  // rounds that the lanes hold
   T lower_[kRound], upper_[kRound];
 };
 
