@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "kernels/data/count_in_range.hpp"
 
-#include <algorithm>
 #include <cstring>
-#include <utility>
 
+#include "kernels/reduce.hpp"
 #include "kernels/simd/floats.hpp"
 
 namespace lumi {
@@ -14,10 +13,10 @@ using namespace simd;
 
 // Vectors of samples with a count in each lane, and how many samples a lane counts exactly.
 template <typename T>
-struct Lanes;
+struct SampleCounts;
 
 template <>
-struct Lanes<uint8_t> {
+struct SampleCounts<uint8_t> {
   using V = U8;
   static constexpr size_t kLanes = 16, kMost = 255;
 
@@ -35,7 +34,7 @@ struct Lanes<uint8_t> {
 };
 
 template <>
-struct Lanes<float> {
+struct SampleCounts<float> {
   using V = Floats8;
   static constexpr size_t kLanes = 8, kMost = size_t{1} << 24;
 
@@ -52,80 +51,67 @@ struct Lanes<float> {
 };
 
 template <typename T, int channels>
-class Counter {
-  using L = Lanes<T>;
-  static constexpr size_t kVectors = channels == 3 ? 3 : 1, kRound = kVectors * L::kLanes;
+class Counts {
+  using L = SampleCounts<T>;
+  static constexpr size_t kVectors = channels == 3 ? 3 : 1;
 
  public:
-  explicit Counter(const Ranges<T>& ranges) : ranges_(ranges) {
-    for (auto& lanes : lanes_) lanes = L::none();
-    for (size_t i = 0; i < kRound; ++i) {
+  using Sample = T;
+  static constexpr size_t kBlock = kVectors * L::kLanes, kSets = 1, kMost = L::kMost;
+  struct Lanes {
+    typename L::V of[kVectors];
+  };
+
+  explicit Counts(const Ranges<T>& ranges) : ranges_(ranges) {
+    for (size_t i = 0; i < kBlock; ++i) {
       lower_[i] = ranges.lower[i % channels];
       upper_[i] = ranges.upper[i % channels];
     }
   }
-
-  // Rounds of whole vectors, then what is left of the row one by one.
-  void row(const Byte* p, size_t samples) {
-    size_t at = 0;
-    while (at + kRound <= samples) {
-      const size_t rounds = std::min((samples - at) / kRound, L::kMost - counted_);
-      count(p + at * sizeof(T), rounds, std::make_index_sequence<kVectors>());
-      counted_ += rounds;
-      if (counted_ == L::kMost) flush();
-      at += rounds * kRound;
+  Lanes none() const {
+    Lanes lanes;
+    for (auto& vector : lanes.of) vector = L::none();
+    return lanes;
+  }
+  void add(Lanes& lanes, const Byte* p) const {
+    for (size_t i = 0; i < kVectors; ++i) {
+      const auto from = [=](const T* bounds) {
+        return reinterpret_cast<const Byte*>(bounds + i * L::kLanes);
+      };
+      const typename L::Range range(from(lower_), from(upper_));
+      lanes.of[i] = range.counted(lanes.of[i], p + i * L::kLanes * sizeof(T));
     }
-    for (; at < samples; ++at) {
+  }
+  // No sample is outside every range and could fill a block up.
+  void addTail(Lanes&, size_t samples, const Byte* p) {
+    for (size_t i = 0; i < samples; ++i) {
       T x;
-      std::memcpy(&x, p + at * sizeof(T), sizeof x);
-      const size_t c = at % channels;
+      std::memcpy(&x, p + i * sizeof(T), sizeof x);
+      const size_t c = i % channels;
       counts_.of[c] += x >= ranges_.lower[c] && !(x > ranges_.upper[c]);
     }
   }
-  const ChannelCounts& counts() {
-    flush();
-    return counts_;
+  void empty(const Lanes& lanes) {
+    T counts[kBlock];
+    for (size_t i = 0; i < kVectors; ++i)
+      L::store(reinterpret_cast<Byte*>(counts + i * L::kLanes), lanes.of[i]);
+    addToChannels<channels>(counts_, counts, kBlock);
   }
+  const ChannelCounts& counts() const { return counts_; }
 
  private:
-  typename L::Range range(size_t i) const {
-    const auto from = [=](const T* bounds) { return reinterpret_cast<const Byte*>(bounds + i * L::kLanes); };
-    return {from(lower_), from(upper_)};
-  }
-  template <size_t... i>
-  [[gnu::always_inline]] void count(const Byte* p, size_t rounds, std::index_sequence<i...>) {
-    const typename L::Range ranges[] = {range(i)...};
-    typename L::V lanes[] = {lanes_[i]...};
-    for (; rounds > 0; --rounds, p += kRound * sizeof(T))
-      ((lanes[i] = ranges[i].counted(lanes[i], p + i * L::kLanes * sizeof(T))), ...);
-    ((lanes_[i] = lanes[i]), ...);
-  }
-  // What the lanes have counted since they were empty goes to the channels.
-  void flush() {
-    T sums[kRound];
-    for (size_t i = 0; i < kVectors; ++i) {
-      L::store(reinterpret_cast<Byte*>(sums + i * L::kLanes), lanes_[i]);
-      lanes_[i] = L::none();
-    }
-    for (size_t k = 0; k < kRound; ++k) counts_.of[k % channels] += static_cast<uint32_t>(sums[k]);
-    counted_ = 0;
-  }
-
   const Ranges<T>& ranges_;
   ChannelCounts counts_{};
-  typename L::V lanes_[kVectors];
-  size_t counted_ = 0;  // rounds that the lanes hold
-  T lower_[kRound], upper_[kRound];
+  T lower_[kBlock], upper_[kBlock];
 };
 
 }  // namespace
 
 template <typename T, int channels>
 ChannelCounts countInRanges(SourceRows src, Extent pixels, const Ranges<T>& ranges) {
-  Counter<T, channels> counter(ranges);
-  walkRows(
-      pixels.rows, [&](const Byte* row) { counter.row(row, pixels.length * channels); }, src);
-  return counter.counts();
+  Counts<T, channels> counts(ranges);
+  reduceRows(counts, pixels.times(channels), src);
+  return counts.counts();
 }
 
 #define LUMI_COUNTS(T)                                                              \

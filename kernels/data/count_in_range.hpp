@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "kernels/channel_totals.hpp"
 #include "kernels/rows.hpp"
 
 namespace lumi {
@@ -13,9 +14,7 @@ template <typename T>
 struct Ranges {
   T lower[4], upper[4];
 };
-struct ChannelCounts {
-  uint32_t of[4];
-};
+using ChannelCounts = ChannelTotals<uint32_t>;
 
 // Of bytes or floats, of 1, 3 or 4 channels, all of which have a range.
 template <typename T, int channels>

@@ -33,6 +33,7 @@ enum class Wrong {
   Height,
   Unequal,
   Step,
+  ShortStep,
   Offset,
   Range,
   Refused,
@@ -50,6 +51,7 @@ struct BadArgument {
 };
 
 LumStatus statusOf(const CheckStep& step) {
+  if (step.status != lumStatusOk) return step.status;
   switch (step.check) {
     case Check::Null:
     case Check::Value:
@@ -69,7 +71,6 @@ LumStatus statusOf(const CheckStep& step) {
     case Check::Range:
       return lumStatusBadDataRange;
     case Check::Status:
-      return step.status;
     case Check::Own:
       break;
   }
@@ -102,8 +103,9 @@ bool finds(const CheckStep& step, const ExportRow& row, const BadArgument& fault
       return wrong == Wrong::Width;
     case Check::Square:
       return wrong == Wrong::Unequal;
-    case Check::Step:
     case Check::Row:
+      return wrong == Wrong::Step || wrong == Wrong::ShortStep;
+    case Check::Step:
     case Check::Zerostep:
       return wrong == Wrong::Step;
     case Check::Offset:
@@ -211,6 +213,7 @@ class Faults {
                zeroRefused = refused || has(row_, Check::Zerostep);
     addNumbers(zeroRefused ? Wrong::Step : Wrong::Harmless, {0});
     addNumbers(refused ? Wrong::Step : Wrong::Harmless, {-1, INT32_MIN});
+    if (has(row_, Check::Row)) addNumbers(Wrong::ShortStep, {1});  // below seven samples, or three of a mask
   }
   void addPlanes() {
     addNull(Wrong::Null);

@@ -2,6 +2,8 @@
 // The driver of members on operations of this test's own: it passes what is right and finds each mistake.
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "common/member_checks.hpp"
 #include "lumcore.h"
 #include "selftest/invented.hpp"
@@ -23,6 +25,8 @@ enum class Mistake {
   IgnoresPoint,
   IgnoresRect,
   RoundsFactor,
+  LastBit,
+  BeyondTolerance,
   KeepsBlock,
   WritesBeforeAllocating,
   OtherStatus
@@ -77,6 +81,8 @@ extern "C" [[gnu::force_align_arg_pointer]] LumStatus inventedSums(const Lum16u*
   LumStatus status = sums.into(count - (mistake == Mistake::LevelTooFew), level, result);
   if (status < 0 && mistake != Mistake::WritesWhenRefused) return status;
   if (mistake == Mistake::OtherChannel) std::swap(result[0], result[1]);
+  if (mistake == Mistake::LastBit) result[2] = std::nextafter(result[2], HUGE_VAL);
+  if (mistake == Mistake::BeyondTolerance) result[2] += 1e-3;
   std::memcpy(static_cast<void*>(sum), result, sizeof result);
   if (mistake == Mistake::WritesBehindResults) reinterpret_cast<Byte*>(sum)[sizeof result] ^= 1;
   return mistake == Mistake::NoWarning ? lumStatusOk : status;
@@ -128,6 +134,26 @@ std::string failureOf(const Member& m, Mistake made) {
   if (failure.empty()) failure = stage.compareEverything().value_or("");
   mistake = Mistake::None;
   return failure;
+}
+
+// The third sum need not be right to the last bit.
+Member nearSums() {
+  Member m = sums();
+  m.model = [exact = m.model](const Call& c) {
+    const LumStatus status = exact(c);
+    const Call::Block& sum = c.block("sum");
+    if (status >= 0) sum.storeWithin<Lum64f>(2, model::load<Lum64f>(sum.data, 2), 1e-9);
+    return status;
+  };
+  return m;
+}
+
+TEST(Driver, ResultsWithinATolerance) {
+  EXPECT_EQ(failureOf(nearSums(), Mistake::None), "");
+  EXPECT_EQ(failureOf(nearSums(), Mistake::LastBit), "");
+  EXPECT_NE(failureOf(sums(), Mistake::LastBit), "");
+  for (const Mistake each : {Mistake::BeyondTolerance, Mistake::OtherChannel, Mistake::RoundsFactor})
+    EXPECT_NE(failureOf(nearSums(), each), "") << static_cast<int>(each);
 }
 
 TEST(Driver, ResultsArraysAndChosenValues) {

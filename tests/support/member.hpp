@@ -6,6 +6,7 @@
 #include <deque>
 #include <functional>
 #include <iterator>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -31,6 +32,15 @@ struct Call {
     const char* name;
     Byte* data;
     int count;
+    std::shared_ptr<std::vector<double>> tolerances;  // of each result; 0 asks for equal bits
+
+    // For models of float results whose last bits are not told: what is right, and how far the result may lie
+    // from it.
+    template <typename T>
+    void storeWithin(int i, T right, double tolerance) const {
+      model::store<T>(data, i, right);
+      tolerances->at(static_cast<size_t>(i)) = tolerance;
+    }
   };
   // A number, a size, a point or a rectangle that the member chose by its name.
   struct Chosen {

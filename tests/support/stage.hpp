@@ -46,6 +46,9 @@ class Stage {
   template <typename T>
   void equateNaNsOf(const Placed& placed) const;
   void equateNaNs(const Member& member, const Placed& placed) const;
+  template <typename T>
+  void acceptWithin(const Call::Block& block) const;
+  void acceptWithinTolerances(const Member& member, const Call& call) const;
   std::string where(const void* fault) const;
   void makeEqual() const;
 

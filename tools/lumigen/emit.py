@@ -60,9 +60,12 @@ def _check_text(word, export):
         abouts = dict.fromkeys(r.about for r in found if r.by == status and r.about)
         code = f"lumStatus{status} ({reader.statuses()[status]})"
         return f"{code:<26} {'; '.join(abouts) or name + ' is refused'}"
-    if word not in CHECK_TEXT:
+    if name not in CHECK_TEXT:
         return f"lumStatusNullPointer (-8)  {word} is null"
-    text = CHECK_TEXT[word]
+    text = CHECK_TEXT[name]
+    if status:
+        code = f"lumStatus{status} ({reader.statuses()[status]})"
+        return f"{code:<26} {re.sub('^.*?[)] +', '', text)}"
     if word == "value":
         names = [a.name for a in export.args if a.kind == "values"] or ["value"]
         text = text.replace("value", " or ".join(names))

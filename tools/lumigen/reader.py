@@ -242,7 +242,8 @@ class _Reader:
                 self._add(member, check, bind, owner.name)
 
     def _check_word(self, op, word):
-        """A general check, or a param that refuses values by a status of its own: `mask`, `mask:BadSize`."""
+        """A general check, with another status than it has by itself (`row:StepTooSmall`), or a param that refuses values
+        by a status of its own: `mask`, `mask:BadSize`."""
         name, _, status = word.partition(":")
         own = {r.by for p in op.params if p.name == name for r in p.refused} - set(CHECKS)
         if name in own_statuses(op):
@@ -250,6 +251,8 @@ class _Reader:
                 self._fail(f"no value of '{name}' is refused by '{status}'")
             if not status and len(own) > 1:
                 self._fail(f"'{name}' is refused by {' '.join(sorted(own))}: say {name}:status")
+        elif name in CHECKS and status in statuses() and name != "own":
+            return
         elif word not in CHECKS and word not in own_pointers(op):
             self._fail(f"check takes words of: {' '.join(CHECKS)}, params that refuse values by a status, and pointers "
                        "tested apart from the others")

@@ -54,8 +54,8 @@ def _argument(arg, export, refused):
 
 def _check(word, export):
     name, _, status = word.partition(":")
-    if word in reader.CHECKS:
-        return f"{{Check::{word.capitalize()}, nullptr, lumStatusOk}}"
+    if name in reader.CHECKS:
+        return f"{{Check::{name.capitalize()}, nullptr, lumStatus{status or 'Ok'}}}"
     arg = next(a for a in export.args if a.name == name)
     if arg.passing == "pointer":
         return f'{{Check::Pointer, "{name}", lumStatusOk}}'

@@ -201,6 +201,14 @@ class Rows(unittest.TestCase):
         self.assertIn('{Check::Zerostep, nullptr, lumStatusOk},\n    {Check::Pointer, "order", lumStatusOk}',
                       test_rows.export_table([family]))
 
+    def test_general_checks_with_another_status(self):
+        family = read(HEAD + "  args src roi\n  8u C1R check null zerostep:BadSize row:StepTooSmall bind probe\n")
+        header = emit.family_header(family)
+        self.assertIn("lumStatusBadSize (-6)      a step is 0", header)
+        self.assertIn("lumStatusStepTooSmall (-37) a step is below the bytes of a row", header)
+        self.assertIn("{Check::Zerostep, nullptr, lumStatusBadSize},\n    {Check::Row, nullptr, lumStatusStepTooSmall}",
+                      test_rows.export_table([family]))
+
     def test_no_types(self):
         self.assertIn("lumiProbe", exports(HEAD + "  returns void\n  - bind probe\n"))
 
