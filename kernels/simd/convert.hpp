@@ -6,6 +6,10 @@
 
 namespace lumi::simd {
 
+template <typename T>
+using TwiceAsWide =
+    std::conditional_t<sizeof(T) == 1, uint16_t, std::conditional_t<sizeof(T) == 2, uint32_t, uint64_t>>;
+
 // The first samples of a vector in a wider type W, one that holds them all: sixteen bytes of them.
 template <typename W, typename T>
 Samples16<W> widen(Samples16<T> x) {
@@ -23,14 +27,16 @@ Samples16<W> widen(Samples16<T> x) {
   }
 }
 
-// The first or the last eight of each sixteen bytes as words.
-template <size_t bytes>
-SamplesOf<uint16_t, bytes> widenLow(SamplesOf<uint8_t, bytes> x) {
-  return as<uint16_t>(interleaveLow(x, broadcastLike(x, uint8_t{0})));
+// The first or the last half of each sixteen bytes, as unsigned samples of twice the size.
+template <typename T, size_t bytes>
+auto widenLow(SamplesOf<T, bytes> x) {
+  static_assert(std::is_unsigned_v<T>);
+  return as<TwiceAsWide<T>>(interleaveLow(x, broadcastLike(x, T{0})));
 }
-template <size_t bytes>
-SamplesOf<uint16_t, bytes> widenHigh(SamplesOf<uint8_t, bytes> x) {
-  return as<uint16_t>(interleaveHigh(x, broadcastLike(x, uint8_t{0})));
+template <typename T, size_t bytes>
+auto widenHigh(SamplesOf<T, bytes> x) {
+  static_assert(std::is_unsigned_v<T>);
+  return as<TwiceAsWide<T>>(interleaveHigh(x, broadcastLike(x, T{0})));
 }
 
 // Limited to a type D of half the size. The instructions take their operands as signed.

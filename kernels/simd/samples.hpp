@@ -42,8 +42,10 @@ Samples16<T> broadcast16(T x) {
     return {_mm_set1_epi8(static_cast<char>(x))};
   else if constexpr (sizeof(T) == 2)
     return {_mm_set1_epi16(static_cast<short>(x))};
-  else
+  else if constexpr (sizeof(T) == 4)
     return {_mm_set1_epi32(static_cast<int>(x))};
+  else
+    return {_mm_set1_epi64x(static_cast<int64_t>(x))};
 }
 // As wide as the vector, which only tells that.
 template <typename T, size_t bytes>
@@ -105,12 +107,14 @@ Samples16<T> operator+(Samples16<T> a, Samples16<T> b) {
   if constexpr (sizeof(T) == 1) return {_mm_add_epi8(a.v, b.v)};
   if constexpr (sizeof(T) == 2) return {_mm_add_epi16(a.v, b.v)};
   if constexpr (sizeof(T) == 4) return {_mm_add_epi32(a.v, b.v)};
+  if constexpr (sizeof(T) == 8) return {_mm_add_epi64(a.v, b.v)};
 }
 template <typename T>
 Samples16<T> operator-(Samples16<T> a, Samples16<T> b) {
   if constexpr (sizeof(T) == 1) return {_mm_sub_epi8(a.v, b.v)};
   if constexpr (sizeof(T) == 2) return {_mm_sub_epi16(a.v, b.v)};
   if constexpr (sizeof(T) == 4) return {_mm_sub_epi32(a.v, b.v)};
+  if constexpr (sizeof(T) == 8) return {_mm_sub_epi64(a.v, b.v)};
 }
 
 // Products modulo the type.
@@ -149,6 +153,9 @@ inline S16 multiplyHighRounded(S16 a, S16 b) { return {_mm_mulhrs_epi16(a.v, b.v
 
 // Products of unsigned and signed bytes, added up in pairs of neighbours, limited to words.
 inline S16 multiplyAddPairs(U8 a, S8 b) { return {_mm_maddubs_epi16(a.v, b.v)}; }
+
+// The sums of eight |a - b| each, as 64-bit numbers.
+inline Samples16<uint64_t> sumsOfDifferences(U8 a, U8 b) { return {_mm_sad_epu8(a.v, b.v)}; }
 
 // The first, or the last, halves of two vectors, sample by sample in turn.
 template <typename T>

@@ -26,12 +26,14 @@ Samples32<T> operator+(Samples32<T> a, Samples32<T> b) {
   if constexpr (sizeof(T) == 1) return {_mm256_add_epi8(a.v, b.v)};
   if constexpr (sizeof(T) == 2) return {_mm256_add_epi16(a.v, b.v)};
   if constexpr (sizeof(T) == 4) return {_mm256_add_epi32(a.v, b.v)};
+  if constexpr (sizeof(T) == 8) return {_mm256_add_epi64(a.v, b.v)};
 }
 template <typename T>
 Samples32<T> operator-(Samples32<T> a, Samples32<T> b) {
   if constexpr (sizeof(T) == 1) return {_mm256_sub_epi8(a.v, b.v)};
   if constexpr (sizeof(T) == 2) return {_mm256_sub_epi16(a.v, b.v)};
   if constexpr (sizeof(T) == 4) return {_mm256_sub_epi32(a.v, b.v)};
+  if constexpr (sizeof(T) == 8) return {_mm256_sub_epi64(a.v, b.v)};
 }
 
 inline Samples32<int16_t> operator*(Samples32<int16_t> a, Samples32<int16_t> b) {
@@ -100,6 +102,10 @@ inline Samples32<int16_t> multiplyHighRounded(Samples32<int16_t> a, Samples32<in
 
 inline Samples32<int16_t> multiplyAddPairs(Samples32<uint8_t> a, Samples32<int8_t> b) {
   return {_mm256_maddubs_epi16(a.v, b.v)};
+}
+
+inline Samples32<uint64_t> sumsOfDifferences(Samples32<uint8_t> a, Samples32<uint8_t> b) {
+  return {_mm256_sad_epu8(a.v, b.v)};
 }
 
 template <typename T>
