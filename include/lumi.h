@@ -26,6 +26,7 @@
 #include "lumi/mul.h"
 #include "lumi/mul_scale.h"
 #include "lumi/resize.h"
+#include "lumi/sad.h"
 #include "lumi/scale.h"
 #include "lumi/set.h"
 #include "lumi/shift.h"

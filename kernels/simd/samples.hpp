@@ -157,6 +157,10 @@ inline S16 multiplyAddPairs(U8 a, S8 b) { return {_mm_maddubs_epi16(a.v, b.v)}; 
 // The sums of eight |a - b| each, as 64-bit numbers.
 inline Samples16<uint64_t> sumsOfDifferences(U8 a, U8 b) { return {_mm_sad_epu8(a.v, b.v)}; }
 
+// At each of the first eight bytes of a: the sum of |a - b| of the four that begin there and the first four
+// of b.
+inline U16 sumsAtEightPlaces(U8 a, U8 b) { return {_mm_mpsadbw_epu8(a.v, b.v, 0)}; }
+
 // The first, or the last, halves of two vectors, sample by sample in turn.
 template <typename T>
 Samples16<T> interleaveLow(Samples16<T> a, Samples16<T> b) {
