@@ -30,6 +30,7 @@
 #include "lumi/scale.h"
 #include "lumi/set.h"
 #include "lumi/shift.h"
+#include "lumi/ssim.h"
 #include "lumi/swap_channels.h"
 #include "lumi/threshold.h"
 #include "lumi/transpose.h"

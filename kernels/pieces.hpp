@@ -27,8 +27,8 @@ struct Pieces {
   void (*make)(void* work, const uint8_t* const* pieces, size_t at, size_t bytes, uint8_t* results);
 };
 
-// The most that a rule has: two operands, and what the destination holds.
-inline constexpr int kMostPieceSources = 3;
+// The most that a rule has.
+inline constexpr int kMostPieceSources = 5;
 // Of a wide vector's samples of a byte, each made from one of eight.
 inline constexpr size_t kPieceRoom = simd::kVectorBytes * 8;
 

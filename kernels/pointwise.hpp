@@ -20,6 +20,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "kernels/marks.hpp"
@@ -225,6 +226,45 @@ auto samplesOf(const SeveralBytes<n, bytes>& v) {
   for (size_t i = 0; i < n; ++i) samples.each[i] = samplesOf<T>(v.each[i]);
   return samples;
 }
+
+// Images of T samples side by side: functions take them as Several.
+template <typename T, size_t n>
+struct ImageRows {
+  using Row = ImageRow<T, T>;
+  std::array<Row, n> rows;
+
+  static constexpr size_t kBlocks = 1;
+  static constexpr int kSources = static_cast<int>(n);
+  struct Phase {};
+
+  Phase phase(size_t) const { return {}; }
+  SeveralBytes<n, kBlock> block(size_t at, Phase) const {
+    SeveralBytes<n, kBlock> blocks;
+    for (size_t i = 0; i < n; ++i) blocks.each[i] = rows[i].block(at, {});
+    return blocks;
+  }
+  SeveralBytes<n, kVectorBytes> vector(size_t at) const {
+    SeveralBytes<n, kVectorBytes> vectors;
+    for (size_t i = 0; i < n; ++i) vectors.each[i] = rows[i].vector(at);
+    return vectors;
+  }
+  void advance(int by) {
+    for (Row& row : rows) row.advance(by);
+  }
+  bool isApart(TargetRows dst, size_t bytes, int height) const {
+    bool apart = true;
+    for (const Row& row : rows) apart = apart && row.isApart(dst, bytes, height);
+    return apart;
+  }
+  void describe(PieceSource* sources) const {
+    for (size_t i = 0; i < n; ++i) rows[i].describe(sources + i);
+  }
+  ImageRows onPieces(const Byte* const* pieces, size_t at) const {
+    ImageRows result = *this;
+    for (size_t i = 0; i < n; ++i) result.rows[i] = rows[i].onPieces(pieces + i, at);
+    return result;
+  }
+};
 
 // Constant pixels of T samples, each over and over: functions take them as Several. Pixels of three samples,
 // or of up to sixteen bytes.

@@ -64,7 +64,8 @@ struct Images {
                bottom = reinterpret_cast<uintptr_t>(rows(dst, dstStep).row(windows.height - 1)),
                right = static_cast<uintptr_t>(windows.width - 1) * sizeof(D);
     const uintptr_t corners[] = {top, top + right, bottom, bottom + right};
-    const bool overlap = holdsCorner(src, srcStep, srcSize, corners) || holdsCorner(tpl, tplStep, tplSize, corners);
+    const bool overlap =
+        holdsCorner(src, srcStep, srcSize, corners) || holdsCorner(tpl, tplStep, tplSize, corners);
     return overlap ? lumStatusUnsupportedMode : lumStatusOk;
   }
   void sum(int scale) const {
@@ -77,8 +78,8 @@ struct Images {
 };
 
 template <typename T, typename D, typename Layout>
-LumStatus sadOfIntegers(const T* src, int srcStep, LumiSize srcSize, const T* tpl, int tplStep, LumiSize tplSize,
-                        D* dst, int dstStep, int mode, int scaleFactor, Lum8u*) {
+LumStatus sadOfIntegers(const T* src, int srcStep, LumiSize srcSize, const T* tpl, int tplStep,
+                        LumiSize tplSize, D* dst, int dstStep, int mode, int scaleFactor, Lum8u*) {
   const Images<T, D> images{src, srcStep, srcSize, tpl, tplStep, tplSize, dst, dstStep};
   if (LumStatus fault = firstFault(
           pointers(src, tpl, dst), steps(srcStep, tplStep, dstStep), ofDwords(dstStep), images.sizes(),
@@ -86,18 +87,19 @@ LumStatus sadOfIntegers(const T* src, int srcStep, LumiSize srcSize, const T* tp
           scaleFactor < 0 ? lumStatusBadArgument : lumStatusOk))
     return fault;
   const LumiSize windows = windowsOf(srcSize, tplSize);
-  if (scaleFactor >= kLeastScaleOfZero && !isEmpty(windows)) return fillZero<D, Layout>(dst, dstStep, windows);
+  if (scaleFactor >= kLeastScaleOfZero && !isEmpty(windows))
+    return fillZero<D, Layout>(dst, dstStep, windows);
   images.sum(scaleFactor);
   return lumStatusOk;
 }
 
 template <typename T, typename Layout>
-LumStatus sadOfFloats(const T* src, int srcStep, LumiSize srcSize, const T* tpl, int tplStep, LumiSize tplSize,
-                      T* dst, int dstStep, int mode, Lum8u*) {
+LumStatus sadOfFloats(const T* src, int srcStep, LumiSize srcSize, const T* tpl, int tplStep,
+                      LumiSize tplSize, T* dst, int dstStep, int mode, Lum8u*) {
   const Images<T, T> images{src, srcStep, srcSize, tpl, tplStep, tplSize, dst, dstStep};
-  if (LumStatus fault = firstFault(
-          pointers(src, tpl, dst), steps(srcStep, tplStep, dstStep), ofDwords(srcStep, tplStep, dstStep),
-          images.sizes(), modeIsKnown(mode), [&] { return images.areApart(); }))
+  if (LumStatus fault = firstFault(pointers(src, tpl, dst), steps(srcStep, tplStep, dstStep),
+                                   ofDwords(srcStep, tplStep, dstStep), images.sizes(), modeIsKnown(mode),
+                                   [&] { return images.areApart(); }))
     return fault;
   images.sum(0);
   return lumStatusOk;
@@ -105,8 +107,8 @@ LumStatus sadOfFloats(const T* src, int srcStep, LumiSize srcSize, const T* tpl,
 
 LumStatus sadBufferSize(LumiSize srcSize, LumiSize tplSize, LumiDataType dataType, int channels, int mode,
                         Lum32s* bufferSize) {
-  const bool isKnown = dataType == lumiData8u || dataType == lumiData16u || dataType == lumiData16s ||
-                       dataType == lumiData32f;
+  const bool isKnown =
+      dataType == lumiData8u || dataType == lumiData16u || dataType == lumiData16s || dataType == lumiData32f;
   if (LumStatus fault = firstFault(pointers(bufferSize), size(srcSize), size(tplSize),
                                    isKnown ? lumStatusOk : lumStatusBadDataType,
                                    channels == 1 ? lumStatusOk : lumStatusUnsupportedMode, modeIsKnown(mode)))

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "lumi/sad.h"
-
 #include <cmath>
 
 #include "bench/harness.hpp"
 #include "bench/peers/loop.hpp"
+#include "lumi/sad.h"
 
 namespace bench {
 namespace {
@@ -42,18 +41,19 @@ Suite::Build sad(Call call) {
 
 // The size is that of the destination.
 template <typename T, int side>
-Suite::Build integers(LumStatus (*lumi)(const T*, int, LumiSize, const T*, int, LumiSize, Lum32s*, int, int, int,
-                                        Lum8u*)) {
+Suite::Build integers(LumStatus (*lumi)(const T*, int, LumiSize, const T*, int, LumiSize, Lum32s*, int, int,
+                                        int, Lum8u*)) {
   return sad<T, Lum32s, side>([=](const auto& src, const auto& tpl, const auto& dst) {
-    lumi(src.data(), src.step, src.roi, tpl.data(), tpl.step, tpl.roi, dst.data(), dst.step, 0x10000, 0, nullptr);
+    lumi(src.data(), src.step, src.roi, tpl.data(), tpl.step, tpl.roi, dst.data(), dst.step, 0x10000, 0,
+         nullptr);
   });
 }
 
 template <int side>
 Suite::Build floats() {
   return sad<Lum32f, Lum32f, side>([=](const auto& src, const auto& tpl, const auto& dst) {
-    lumiSAD_32f_C1R(src.data(), src.step, src.roi, tpl.data(), tpl.step, tpl.roi, dst.data(), dst.step, 0x10000,
-                    nullptr);
+    lumiSAD_32f_C1R(src.data(), src.step, src.roi, tpl.data(), tpl.step, tpl.roi, dst.data(), dst.step,
+                    0x10000, nullptr);
   });
 }
 

@@ -27,7 +27,6 @@ extern "C" {
  *   lumStatusBadSize (-6)      a width or a height is below 1
  *   lumStatusBadDataType (-12) dataType is none of those named
  *   lumStatusUnsupportedMode (-9999) channels is not 1, or mode is not 0x10000
- *   lumStatusUnsupportedMode (-9999) channels is not 1, or mode is not 0x10000
  */
 LumStatus lumiSADGetBufferSize(LumiSize srcSize, LumiSize tplSize, LumiDataType dataType, int channels,
                                int mode, Lum32s* bufferSize);

@@ -53,7 +53,6 @@ V broadcastBits(uint32_t bits) {
     return {_mm_castsi128_ps(_mm_set1_epi32(word))};
 }
 
-inline Floats4 highHalf(Floats8 a) { return {_mm256_extractf128_ps(a.v, 1)}; }
 inline Doubles4 broadcastDouble(double x) { return {_mm256_set1_pd(x)}; }
 inline Doubles4 loadDoubles4(const double* p) { return {_mm256_loadu_pd(p)}; }
 inline Doubles4 doublesOf(S32 x) { return {_mm256_cvtepi32_pd(x.v)}; }

@@ -103,6 +103,12 @@ V broadcastFloat(float x) {
     return {_mm_set1_ps(x)};
 }
 
+inline Floats4 lowHalf(Floats8 x) { return {_mm256_castps256_ps128(x.v)}; }
+inline Floats4 highHalf(Floats8 x) { return {_mm256_extractf128_ps(x.v, 1)}; }
+inline Floats8 joined(Floats4 low, Floats4 high) {
+  return {_mm256_insertf128_ps(_mm256_castps128_ps256(low.v), high.v, 1)};
+}
+
 inline Floats8 loadFloats8(const Byte* p) { return {asFloats(load32(p))}; }
 inline Floats4 loadFloats4(const Byte* p) { return {_mm_castsi128_ps(load16(p))}; }
 

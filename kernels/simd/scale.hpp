@@ -23,6 +23,4 @@ SamplesOf<int32_t, bytes> nearest256th(SamplesOf<int32_t, bytes> a) {
   return shiftRight<1>(shiftRight<7>(a) + broadcastLike(a, 1));
 }
 
-inline Floats4 lowHalf(Floats8 a) { return {_mm256_castps256_ps128(a.v)}; }
-
 }  // namespace lumi::simd

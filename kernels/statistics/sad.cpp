@@ -19,8 +19,8 @@ auto difference(Samples16<T> a, Samples16<T> b) {
 }
 
 // Sums over 2^scale, to the nearest, ties to even. With q of n the quotient and r the remainder, that is
-// q + (r + 2^(scale - 1) - 1 + (q & 1) >> scale); the sum in parentheses is below 2^scale * 1.5, which 32 bits
-// hold up to a scale of 31. A scale of 32 is a halving that keeps a set last bit, and 31.
+// q + (r + 2^(scale - 1) - 1 + (q & 1) >> scale); the sum in parentheses is below 2^scale * 1.5, which 32
+// bits hold up to a scale of 31. A scale of 32 is a halving that keeps a set last bit, and 31.
 class Scale {
  public:
   explicit Scale(int scale)
@@ -115,7 +115,8 @@ class Sums {
   [[gnu::always_inline]] void addRow(const Byte* p, const Byte* t, size_t taps) {
     for (size_t i = 0; i < taps; ++i, p += sizeof(T)) {
       const Samples16<T> tap = broadcast16(loaded(t + i * sizeof(T)));
-      const U16 a = difference(Samples16<T>{load16(p)}, tap), b = difference(Samples16<T>{load16(p + 16)}, tap);
+      const U16 a = difference(Samples16<T>{load16(p)}, tap),
+                b = difference(Samples16<T>{load16(p + 16)}, tap);
       sums_[0] = sums_[0] + widenLow(a);
       sums_[1] = sums_[1] + widenHigh(a);
       sums_[2] = sums_[2] + widenLow(b);
@@ -181,7 +182,8 @@ template <typename Sums>
 void storeSingle(SourceRows window, SourceRows tpl, Extent taps, const Scale& scale, Byte* dst) {
   decltype(Sums::single(nullptr, nullptr, 0, {})) sum = 0;
   walkRows(
-      taps.rows, [&](const Byte* p, const Byte* t) { sum = Sums::single(p, t, taps.length, sum); }, window, tpl);
+      taps.rows, [&](const Byte* p, const Byte* t) { sum = Sums::single(p, t, taps.length, sum); }, window,
+      tpl);
   if constexpr (std::is_integral_v<decltype(sum)>) sum = firstDword(scale(broadcast16(sum)).v);
   std::memcpy(dst, &sum, sizeof sum);
 }
@@ -195,7 +197,8 @@ void storeWindows(SourceRows window, SourceRows tpl, Extent taps, const Scale& s
 }
 
 template <typename Sums>
-void storeAll(SourceRows src, SourceRows tpl, Extent taps, TargetRows dst, Extent windows, const Scale& scale) {
+void storeAll(SourceRows src, SourceRows tpl, Extent taps, TargetRows dst, Extent windows,
+              const Scale& scale) {
   constexpr size_t step = Sums::kWindows, sumBytes = 4;
   for (int y = 0; y < windows.rows; ++y) {
     const auto windowAt = [&](size_t x) { return SourceRows{src.row(y) + x * Sums::kSample, src.step}; };
@@ -222,7 +225,8 @@ void sumDifferences(SourceRows src, SourceRows tpl, Extent tplSamples, TargetRow
   storeAll<Sums<T>>(src, tpl, tplSamples, dst, windows, Scale(scale));
 }
 template <>
-void sumDifferences<float>(SourceRows src, SourceRows tpl, Extent tplSamples, TargetRows dst, Extent windows, int) {
+void sumDifferences<float>(SourceRows src, SourceRows tpl, Extent tplSamples, TargetRows dst, Extent windows,
+                           int) {
   if (windows.length < FloatSums<4>::kWindows)
     storeAll<FloatSums<1>>(src, tpl, tplSamples, dst, windows, Scale(0));
   else

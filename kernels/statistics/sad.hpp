@@ -12,6 +12,7 @@ namespace lumi {
 // image. Of integers they are 32-bit, modulo 2^32, divided by 2^scale (0 to 32) to the nearest, ties to even,
 // and limited to 2^31 - 1. Floats are added row after row of the template, each from left to right.
 template <typename T>
-void sumDifferences(SourceRows src, SourceRows tpl, Extent tplSamples, TargetRows dst, Extent windows, int scale);
+void sumDifferences(SourceRows src, SourceRows tpl, Extent tplSamples, TargetRows dst, Extent windows,
+                    int scale);
 
 }  // namespace lumi

@@ -12,8 +12,7 @@
 #include <vector>
 
 #include "model/statistics/sad.hpp"
-#include "support/arena.hpp"
-#include "support/contents.hpp"
+#include "statistics/placed_image.hpp"
 #include "support/named_call.hpp"
 #include "support/settings.hpp"
 
@@ -25,19 +24,6 @@ const bool covered = addCovered({"lumiSAD_8u32s_C1RSfs", "lumiSAD_16u32s_C1RSfs"
 
 constexpr size_t kArena = 1 << 18;
 
-// An image in an arena, its last or its first byte beside an inaccessible page.
-struct Placed {
-  const Arena& arena;
-  model::Image image;
-
-  Placed(const Arena& memory, LumiSize size, int sampleBytes, int stepUnit, Random& random) : arena(memory) {
-    const int step = size.width * sampleBytes + stepUnit * random.below(5);
-    const int bytes = step * (size.height - 1) + size.width * sampleBytes;
-    image = {random.oneIn(3) ? arena.begin() : arena.end() - bytes, step};
-  }
-  model::Image twin() const { return {arena.twin(image.first), image.step}; }
-};
-
 template <typename T>
 class Windows {
  public:
@@ -48,24 +34,19 @@ class Windows {
     const LumiSize windows{std::max(1, srcSize.width - tplSize.width + 1),
                            std::max(1, srcSize.height - tplSize.height + 1)};
     constexpr int sample = sizeof(T), unit = kFloat ? 4 : 1;
-    const Placed src(src_, srcSize, sample, unit, random_), tpl(tpl_, tplSize, sample, unit, random_),
+    const PlacedImage src(src_, srcSize, sample, unit, random_), tpl(tpl_, tplSize, sample, unit, random_),
         dst(dst_, windows, 4, 4, random_);
-    for (const Placed* each : {&src, &tpl, &dst}) {
-      const size_t bytes = static_cast<size_t>(each->arena.end() - each->arena.begin());
-      fillSamples(kType, each->arena.begin(), static_cast<int>(bytes), contents, random_);
-      each->arena.copyToTwin(each->arena.begin(), each->arena.end());
-    }
+    for (const PlacedImage* each : {&src, &tpl, &dst}) each->fill(kType, contents, random_);
     model::sad<T>(src.twin(), srcSize, tpl.twin(), tplSize, dst.twin(), scale);
     NamedCall call(kFloat ? std::string("lumiSAD_32f_C1R") : "lumiSAD_" + kType + "32s_C1RSfs");
-    call.image("src", src.image.first, src.image.step).size("srcSize", srcSize);
-    call.pointer("tpl", tpl.image.first).number("tplStep", tpl.image.step).size("tplSize", tplSize);
-    call.image("dst", dst.image.first, dst.image.step).number("mode", 0x10000).pointer("buffer", nullptr);
+    call.image("src", src.image().first, src.image().step).size("srcSize", srcSize);
+    call.pointer("tpl", tpl.image().first).number("tplStep", tpl.image().step).size("tplSize", tplSize);
+    call.image("dst", dst.image().first, dst.image().step).number("mode", 0x10000).pointer("buffer", nullptr);
     if (!kFloat) call.number("scaleFactor", scale);
     ASSERT_EQ(call.run(), lumStatusOk);
-    for (const Placed* each : {&src, &tpl, &dst})
-      ASSERT_FALSE(each->arena.firstDifference(each->arena.begin(), each->arena.end()))
-          << srcSize.width << " x " << srcSize.height << ", template " << tplSize.width << " x "
-          << tplSize.height << ", scale " << scale;
+    for (const PlacedImage* each : {&src, &tpl, &dst})
+      ASSERT_TRUE(each->agrees()) << srcSize.width << " x " << srcSize.height << ", template "
+                                  << tplSize.width << " x " << tplSize.height << ", scale " << scale;
   }
   Random& random() { return random_; }
 
@@ -108,8 +89,9 @@ Lum32s sumOf(Lum16u sample, LumiSize size, int scale) {
   Lum32s sum = -1;
   const std::vector<Lum16u> src(static_cast<size_t>(size.width + size.height), sample),
       zero(static_cast<size_t>(size.width + size.height), 0);
-  EXPECT_EQ(lumiSAD_16u32s_C1RSfs(src.data(), 2, size, zero.data(), 2, size, &sum, 4, 0x10000, scale, nullptr),
-            lumStatusOk);
+  EXPECT_EQ(
+      lumiSAD_16u32s_C1RSfs(src.data(), 2, size, zero.data(), 2, size, &sum, 4, 0x10000, scale, nullptr),
+      lumStatusOk);
   return sum;
 }
 
@@ -151,15 +133,16 @@ TEST(SadScale, WholeRowsOfSums) {
 TEST(SadOverlap, CornersDecide) {
   std::vector<Lum8u> memory(4096), tpl(2, 1);
   const auto sad = [&](Lum8u* src, int srcStep, Lum8u* t, Lum8u* dst, int dstStep, int scale = 0) {
-    return lumiSAD_8u32s_C1RSfs(src, srcStep, {4, 3}, t, 8, {2, 2}, reinterpret_cast<Lum32s*>(dst), dstStep, 0x10000,
-                                scale, nullptr);
+    return lumiSAD_8u32s_C1RSfs(src, srcStep, {4, 3}, t, 8, {2, 2}, reinterpret_cast<Lum32s*>(dst), dstStep,
+                                0x10000, scale, nullptr);
   };
   std::vector<Lum8u> two(16, 1);
   Lum8u* const dst = memory.data() + 1024;
   const std::ptrdiff_t corners[] = {0, 8, 64, 72};
   for (const std::ptrdiff_t corner : corners) {
     EXPECT_EQ(sad(dst + corner, 200, two.data(), dst, 64), lumStatusUnsupportedMode);
-    EXPECT_EQ(sad(dst + corner - 3, 200, two.data(), dst, 64, -1), lumStatusUnsupportedMode) << "before the scale";
+    EXPECT_EQ(sad(dst + corner - 3, 200, two.data(), dst, 64, -1), lumStatusUnsupportedMode)
+        << "before the scale";
     EXPECT_EQ(sad(dst + corner - 400, 200, two.data(), dst, 64), lumStatusUnsupportedMode) << "the last row";
     EXPECT_EQ(sad(dst + corner - 4, 200, two.data(), dst, 64, -1), lumStatusBadArgument);
     EXPECT_EQ(sad(dst + corner + 1, 200, two.data(), dst, 64, -1), lumStatusBadArgument);
@@ -174,13 +157,16 @@ TEST(SadSteps, AreOfWholeSums) {
   Lum32s sum[16];
   EXPECT_EQ(lumiSAD_8u32s_C1RSfs(image, 5, {3, 3}, image + 32, 3, {2, 2}, sum, 6, 0x10000, 0, nullptr),
             lumStatusBadStep);
-  EXPECT_EQ(lumiSAD_8u32s_C1RSfs(image, 5, {3, 3}, image + 32, 3, {2, 2}, sum, 6, 0, 0, nullptr), lumStatusBadStep);
-  EXPECT_EQ(lumiSAD_8u32s_C1RSfs(image, 5, {3, 3}, image + 32, 3, {2, 2}, sum, 8, 0x10000, 0, nullptr), lumStatusOk);
+  EXPECT_EQ(lumiSAD_8u32s_C1RSfs(image, 5, {3, 3}, image + 32, 3, {2, 2}, sum, 6, 0, 0, nullptr),
+            lumStatusBadStep);
+  EXPECT_EQ(lumiSAD_8u32s_C1RSfs(image, 5, {3, 3}, image + 32, 3, {2, 2}, sum, 8, 0x10000, 0, nullptr),
+            lumStatusOk);
   Lum32f floats[64] = {}, sums[16];
   for (const int bad : {0, 1, 2}) {
     const int steps[] = {bad == 0 ? 18 : 16, bad == 1 ? 18 : 16, bad == 2 ? 18 : 16};
-    EXPECT_EQ(lumiSAD_32f_C1R(floats, steps[0], {3, 3}, floats + 32, steps[1], {2, 2}, sums, steps[2], 0, nullptr),
-              lumStatusBadStep);
+    EXPECT_EQ(
+        lumiSAD_32f_C1R(floats, steps[0], {3, 3}, floats + 32, steps[1], {2, 2}, sums, steps[2], 0, nullptr),
+        lumStatusBadStep);
   }
 }
 

@@ -91,7 +91,7 @@ def _doc_block(op):
     for check, exports in cohorts.items():
         members = f" ({_members(exports)})" if len(cohorts) > 1 or partly else ""
         lines += ["", f"Returns lumStatusOk (0) or, tested in this order and before anything is written{members}:"]
-        lines += [f"  {_check_text(c, exports[0])}" for c in check]
+        lines += dict.fromkeys(f"  {_check_text(c, exports[0])}" for c in check)
     body = "\n".join((" * " + line).rstrip() for line in lines)
     return f"/**\n{body}\n */"
 
