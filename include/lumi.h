@@ -31,6 +31,7 @@
 #include "lumi/set.h"
 #include "lumi/shift.h"
 #include "lumi/ssim.h"
+#include "lumi/sum.h"
 #include "lumi/swap_channels.h"
 #include "lumi/threshold.h"
 #include "lumi/transpose.h"

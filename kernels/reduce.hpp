@@ -44,6 +44,7 @@ template <typename Reduction, typename... At>
   };
   const auto filled = [=](const uint8_t* from) {
     Block block;
+    if (samples >= Reduction::kBlock) __builtin_unreachable();  // no code for longer copies
     std::fill(std::begin(block.samples), std::end(block.samples), filler);
     simd::copyShort(from, reinterpret_cast<uint8_t*>(block.samples), samples * sizeof(T));
     return block;
