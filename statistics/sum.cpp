@@ -38,7 +38,8 @@ ChannelSums sumsOf(const T* src, int srcStep, LumiSize roi, Hint... hint) {
     if constexpr (std::is_same_v<Layout, AC4>)
       if (adding == Adding::RowsInFloats)
         return sumsOfRowsInFloats(image, {static_cast<size_t>(roi.width), roi.height});
-    const auto sums = adding == Adding::InFloats ? sumsInFloats<Layout::kStored> : sumsInDoubles<Layout::kStored>;
+    const auto sums =
+        adding == Adding::InFloats ? sumsInFloats<Layout::kStored> : sumsInDoubles<Layout::kStored>;
     return sums(image, fusedExtent(roi, image));
   }
 }

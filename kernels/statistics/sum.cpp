@@ -24,7 +24,7 @@ ChannelSums sumsOfRowsInFloats(SourceRows src, Extent pixels) {
   return simd::floatSumsByRow<simd::Floats4, 4>(simd::Itself(), pixels, src);
 }
 
-#define LUMI_SUMS(channels)                                              \
+#define LUMI_SUMS(channels)                                                    \
   template ChannelSums sumsOfIntegers<uint8_t, channels>(SourceRows, Extent);  \
   template ChannelSums sumsOfIntegers<uint16_t, channels>(SourceRows, Extent); \
   template ChannelSums sumsOfIntegers<int16_t, channels>(SourceRows, Extent);  \

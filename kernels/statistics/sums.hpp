@@ -135,17 +135,16 @@ class IntegerSums {
     addFilled(*this, lanes, T{0}, samples, at...);
   }
   void empty(const Lanes& lanes) {
-    constexpr size_t count = sizeof lanes.of / sizeof(typename L::Lane);
+    constexpr size_t count = 16 * L::kLanes / sizeof(typename L::Lane);
     typename L::Lane values[count];
-    for (size_t i = 0; i < L::kLanes; ++i)
-      store16(reinterpret_cast<Byte*>(values) + 16 * i, lanes.of[i].v);
+    for (size_t i = 0; i < L::kLanes; ++i) store16(reinterpret_cast<Byte*>(values) + 16 * i, lanes.of[i].v);
     for (size_t i = 0; i < count; ++i) totals_.of[L::channelOf(i)] += static_cast<uint64_t>(values[i]);
   }
   // Of so many samples.
   ChannelTotals<double> totals(Extent samples) const {
     ChannelTotals<double> result{};
-    const uint64_t lost = (uint64_t{samples.length} * static_cast<uint64_t>(samples.rows) + fillers_) /
-                          channels << 15;
+    const uint64_t lost =
+        (uint64_t{samples.length} * static_cast<uint64_t>(samples.rows) + fillers_) / channels << 15;
     for (size_t c = 0; c < channels; ++c) {
       const uint64_t total = totals_.of[c] + (kLowered ? lost : 0);
       result.of[c] = std::is_signed_v<Value> ? static_cast<double>(static_cast<int64_t>(total))
