@@ -12,6 +12,11 @@ inline Floats4 floatsOf4Bytes(const Byte* p) { return {_mm_cvtepi32_ps(_mm_cvtep
 inline Floats8 floatsOf8Bytes(const Byte* p) {
   return {_mm256_cvtepi32_ps(joined(_mm_cvtepu8_epi32(loadFew<4>(p)), _mm_cvtepu8_epi32(loadFew<4>(p + 4))))};
 }
+// Unsigned words as floats.
+inline Floats8 floatsOf8Words(const Byte* p) {
+  return {
+      _mm256_cvtepi32_ps(joined(_mm_cvtepu16_epi32(loadFew<8>(p)), _mm_cvtepu16_epi32(loadFew<8>(p + 8))))};
+}
 
 // a / 256 to the nearest, halves up.
 template <size_t bytes>

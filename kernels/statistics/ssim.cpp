@@ -52,7 +52,8 @@ struct Similarity<double> {
 template <typename Real>
 void similarityRows(const LocalStatistics& src, TargetRows dst, Extent samples, float c1, float c2) {
   using Row = ImageRow<float, float>;
-  const ImageRows<float, 4> means{{Row(src.mean1), Row(src.mean2), Row(src.meanSquare1), Row(src.meanSquare2)}};
+  const ImageRows<float, 4> means{
+      {Row(src.mean1), Row(src.mean2), Row(src.meanSquare1), Row(src.meanSquare2)}};
   runRows(dst, samples,
           Binary<float, Similarity<Real>, ImageRows<float, 4>, Row>{means, Row(src.meanProduct), {c1, c2}});
 }

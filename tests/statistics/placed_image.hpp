@@ -10,11 +10,12 @@
 
 namespace test {
 
-// An image in an arena of its own, its last or its first byte beside an inaccessible page. Steps are those of tight
-// rows, and up to four units more.
+// An image in an arena of its own, its last or its first byte beside an inaccessible page. Steps are those of
+// tight rows, and up to four units more.
 class PlacedImage {
  public:
-  PlacedImage(const Arena& arena, LumiSize size, int sampleBytes, int stepUnit, Random& random) : arena_(arena) {
+  PlacedImage(const Arena& arena, LumiSize size, int sampleBytes, int stepUnit, Random& random)
+      : arena_(arena) {
     const int step = size.width * sampleBytes + stepUnit * random.below(5);
     const int bytes = step * (size.height - 1) + size.width * sampleBytes;
     image_ = {random.oneIn(3) ? arena.begin() : arena.end() - bytes, step};

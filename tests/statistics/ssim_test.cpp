@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The map of structural similarity: against the model over sizes and placements, in place, and of equal images.
+// The map of structural similarity: against the model over sizes and placements, in place, and of equal
+// images.
 #include "lumi/ssim.h"
 
 #include <gtest/gtest.h>
@@ -53,7 +54,8 @@ class Statistics {
     ASSERT_EQ(call.run(), lumStatusOk);
     equateNaNs(images[5], roi);
     for (const PlacedImage& each : images)
-      ASSERT_TRUE(each.agrees()) << roi.width << " x " << roi.height << ", hint " << hint << ", in place " << inPlace;
+      ASSERT_TRUE(each.agrees()) << roi.width << " x " << roi.height << ", hint " << hint << ", in place "
+                                 << inPlace;
   }
   Random& random() { return random_; }
 
@@ -82,11 +84,12 @@ TEST(Ssim, AgreesWithTheModel) {
 }
 
 TEST(Ssim, EqualImagesAreSimilar) {
-  const std::vector<Lum32f> mean{10, 0, 200, 3, -7, 255, 1, 90, 3}, square{101, 0, 40010, 9, 50, 65030, 1, 9000, 10};
+  const std::vector<Lum32f> mean{10, 0, 200, 3, -7, 255, 1, 90, 3},
+      square{101, 0, 40010, 9, 50, 65030, 1, 9000, 10};
   for (const int hint : {0, 1, 2}) {
     std::vector<Lum32f> map(mean.size(), 0);
-    ASSERT_EQ(lumiSSIM_32f_C1R(mean.data(), 36, mean.data(), 36, square.data(), 36, square.data(), 36, square.data(),
-                               36, map.data(), 36, {9, 1}, 6.5025f, 58.5225f, hint),
+    ASSERT_EQ(lumiSSIM_32f_C1R(mean.data(), 36, mean.data(), 36, square.data(), 36, square.data(), 36,
+                               square.data(), 36, map.data(), 36, {9, 1}, 6.5025f, 58.5225f, hint),
               lumStatusOk);
     for (const Lum32f each : map) EXPECT_NEAR(each, 1, 1e-4);
   }

@@ -177,6 +177,7 @@ Case makeCase(const Member& member, uint64_t seed, int index) {
     for (int* each : {&c.srcStep, &c.src2Step, &c.dstStep, &c.maskStep}) *each = std::max(1, *each);
   if (member.checksRows) {
     c.srcStep = std::max(c.srcStep, srcTight);
+    if (member.src2.planes) c.src2Step = std::max(c.src2Step, member.src2.tightStep(c.roi.width, 0));
     c.dstStep = std::max(c.dstStep, dstTight);
   }
   if (member.refusesZeroSteps)

@@ -138,7 +138,7 @@ struct Member {
   bool inPlace = false;
   Aliasing aliasing = Aliasing::None;
   bool masked = false, checksSteps = false, refusesZeroSteps = false;
-  bool checksRows = false;        // refuses steps that are below a row's bytes
+  bool checksRows = false;        // refuses steps that are below a row's bytes, or is not tried with them
   bool mayStream = true;          // whether large images are tried
   int64_t streamsFrom = 2 << 20;  // bytes moved from which on a path may depend on them, at the most
   int64_t asksFrom = 1 << 20;     // bytes moved up to which nothing asks for the cache's size
