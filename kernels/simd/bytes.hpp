@@ -138,6 +138,9 @@ inline Bytes16 ifThenElse(Bytes16 mask, Bytes16 yes, Bytes16 no) { return _mm_bl
 inline Bytes16 isZero(Bytes16 v) { return _mm_cmpeq_epi8(v, _mm_setzero_si128()); }
 // Whether the top bit of every byte is set.
 inline bool allSet(Bytes16 v) { return _mm_movemask_epi8(v) == 0xFFFF; }
+// Whether the top bit of any byte, or of any dword, is set.
+inline bool anySet(Bytes16 v) { return _mm_movemask_epi8(v) != 0; }
+inline bool anySet(Bytes32 v) { return _mm256_movemask_ps(_mm256_castsi256_ps(v)) != 0; }
 
 // The bytes of pixels over and over: `used` in the first bytes of each, `kept` in the others.
 template <size_t size>
