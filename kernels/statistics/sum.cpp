@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "kernels/statistics/sum.hpp"
 
+#include "kernels/statistics/itself.hpp"
 #include "kernels/statistics/sums.hpp"
 
 namespace lumi {

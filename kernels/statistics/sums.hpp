@@ -15,13 +15,6 @@
 
 namespace lumi::simd {
 
-struct Itself {
-  template <typename V>
-  V operator()(V x) const {
-    return x;
-  }
-};
-
 // How integers join lanes: vectors of a block, sets of lanes and the blocks that a lane takes as in
 // kernels/reduce.hpp. add(lanes, value) has value(i) for the vector i of the block.
 template <typename T, int channels>
