@@ -22,6 +22,7 @@
 #include "lumi/logic.h"
 #include "lumi/lut.h"
 #include "lumi/lut_palette.h"
+#include "lumi/min_max.h"
 #include "lumi/mirror.h"
 #include "lumi/mul.h"
 #include "lumi/mul_scale.h"
