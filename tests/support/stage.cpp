@@ -311,13 +311,15 @@ void Stage::equateNaNs(const Member& member, const Placed& p) const {
   if (isTypeOf<Lum64f>(type)) equateNaNsOf<Lum64f>(p);
 }
 
-// Results as near as the model asks: it gets the bits of ours.
+// Results as near as the model asks: it gets the bits of ours. What is infinitely far is near enough where it
+// asks for nothing.
 template <typename T>
 void Stage::acceptWithin(const Call::Block& block) const {
   for (int i = 0; i < block.count; ++i) {
     const double tolerance = block.tolerances->at(static_cast<size_t>(i));
     const T ours = model::load<T>(block.data, i);
-    if (tolerance > 0 && std::abs(double{ours} - double{model::load<T>(twin(block.data), i)}) <= tolerance)
+    const double distance = std::abs(double{ours} - double{model::load<T>(twin(block.data), i)});
+    if ((tolerance > 0 && distance <= tolerance) || std::isinf(tolerance))
       model::store<T>(twin(block.data), i, ours);
   }
 }
