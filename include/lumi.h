@@ -23,6 +23,7 @@
 #include "lumi/lut.h"
 #include "lumi/lut_palette.h"
 #include "lumi/min_max.h"
+#include "lumi/min_max_index.h"
 #include "lumi/mirror.h"
 #include "lumi/mul.h"
 #include "lumi/mul_scale.h"

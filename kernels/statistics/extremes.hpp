@@ -83,6 +83,7 @@ struct ExtremeVectors {
   using V = Samples16<T>;
   static V load(const Byte* p) { return {load16(p)}; }
   static void store(Byte* p, V x) { store16(p, x.v); }
+  static bool isSet(V mask) { return allSet(mask.v); }
   template <size_t bytes, typename Kind>
   static Bytes16 folded(V x) {
     return foldedTo<bytes, Kind, T>(x.v);
@@ -93,6 +94,7 @@ struct ExtremeVectors<float> {
   using V = Floats8;
   static V load(const Byte* p) { return loadFloats8(p); }
   static void store(Byte* p, V x) { store32(p, bytesOf(x)); }
+  static bool isSet(V mask) { return allSet(mask); }
   template <size_t bytes, typename Kind>
   static Bytes16 folded(V x) {
     const Floats4 low = samplesOf<float>(lowHalf(bytesOf(x))), high = samplesOf<float>(highHalf(bytesOf(x)));
@@ -130,6 +132,11 @@ struct ExtremeLanes {
     bool any = false;
     for (size_t i = 0; i < kVectors; ++i) any = any | anySet(bytesOf(isEqual(of[i], other.of[i])));
     return any;
+  }
+  bool differsFrom(const ExtremeLanes& other) const {
+    bool same = true;
+    for (size_t i = 0; i < kVectors; ++i) same = same & Vectors::isSet(isEqual(of[i], other.of[i]));
+    return !same;
   }
   // Apart from the loops, whose registers it would take.
   template <typename Kind>
