@@ -54,9 +54,10 @@ struct Similarity {
 };
 
 template <typename T, int channels>
-Similarity similarityOf(SourceRows src1, SourceRows src2, LumiSize roi, const Lum64f* means1, const Lum64f* means2,
-                        float* scratch) {
-  const auto width = static_cast<size_t>(roi.width), room = static_cast<size_t>(roundedUp(roi.width, kCentredBlock));
+Similarity similarityOf(SourceRows src1, SourceRows src2, LumiSize roi, const Lum64f* means1,
+                        const Lum64f* means2, float* scratch) {
+  const auto width = static_cast<size_t>(roi.width),
+             room = static_cast<size_t>(roundedUp(roi.width, kCentredBlock));
   float *const row1 = scratch, *const row2 = scratch + room;
   Similarity sums;
   for (int y = 0; y < roi.height; ++y) {
@@ -69,7 +70,8 @@ Similarity similarityOf(SourceRows src1, SourceRows src2, LumiSize roi, const Lu
 
 template <typename T, typename D, typename Layout>
 LumStatus qualityIndex(const T* src1, int src1Step, const T* src2, int src2Step, LumiSize roi, D* quality) {
-  if (LumStatus fault = firstFault(pointers(src1, src2, quality), size(roi), steps(src1Step, src2Step))) return fault;
+  if (LumStatus fault = firstFault(pointers(src1, src2, quality), size(roi), steps(src1Step, src2Step)))
+    return fault;
   Lum64f means1[Layout::kUsed], means2[Layout::kUsed];
   meansOf<T, Layout>(src1, src1Step, roi, means1);
   meansOf<T, Layout>(src2, src2Step, roi, means2);
@@ -77,9 +79,9 @@ LumStatus qualityIndex(const T* src1, int src1Step, const T* src2, int src2Step,
   if (!scratch) return lumStatusNoMemory;
   bool all = true;
   for (int c = 0; c < Layout::kUsed; ++c) {
-    const Similarity similarity = similarityOf<T, Layout::kStored>(rows(src1 + c, src1Step), rows(src2 + c, src2Step),
-                                                                   roi, means1 + c, means2 + c,
-                                                                   static_cast<float*>(scratch.data()));
+    const Similarity similarity =
+        similarityOf<T, Layout::kStored>(rows(src1 + c, src1Step), rows(src2 + c, src2Step), roi, means1 + c,
+                                         means2 + c, static_cast<float*>(scratch.data()));
     all &= similarity.index(means1[c], means2[c], quality + c);
   }
   return all ? lumStatusOk : lumStatusZeroQualityDenominator;

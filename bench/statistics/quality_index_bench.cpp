@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "lumi/quality_index.h"
-
 #include "bench/harness.hpp"
 #include "bench/peers/loop.hpp"
+#include "lumi/quality_index.h"
 
 namespace bench {
 namespace {

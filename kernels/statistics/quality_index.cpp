@@ -37,7 +37,8 @@ void centredRow(const uint8_t* src, size_t pixels, float mean, float* row, size_
   std::fill(samples + pixels * sizeof(T), samples + room * sizeof(T), Byte{0});
   const Floats8 less = broadcastFloat<Floats8>(mean);
   for (size_t i = 0; i < room; i += kBlock) {
-    const Floats8 a = eightFloats<T>(samples + i * sizeof(T)), b = eightFloats<T>(samples + (i + 8) * sizeof(T));
+    const Floats8 a = eightFloats<T>(samples + i * sizeof(T)),
+                  b = eightFloats<T>(samples + (i + 8) * sizeof(T));
     store32(floats + i * sizeof(float), bytesOf(a - less));
     store32(floats + (i + 8) * sizeof(float), bytesOf(b - less));
   }

@@ -12,8 +12,8 @@ namespace lumi {
 // Rows of differences have as many floats as a multiple of this; those behind the image's are zero.
 inline constexpr int kCentredBlock = 16;
 
-// One channel of pixels of `channels` T samples, as floats less their mean; src is at the channel's sample. The row
-// has `room` floats, a multiple of kCentredBlock.
+// One channel of pixels of `channels` T samples, as floats less their mean; src is at the channel's sample.
+// The row has `room` floats, a multiple of kCentredBlock.
 template <typename T, int channels>
 void centredRow(const uint8_t* src, size_t pixels, float mean, float* row, size_t room);
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The quality index: against the model within the rounding of its sums, flat channels, scratch that is not to be had.
+// The quality index: against the model within the rounding of its sums, flat channels, scratch that is not to
+// be had.
 #include "lumi/quality_index.h"
 
 #include <gtest/gtest.h>
@@ -34,7 +35,8 @@ const bool added = addModelTests(membersOf(
       m.model = [=](const Call& c) {
         LumStatus status = lumStatusOk;
         for (int i = 0; i < used; ++i) {
-          const model::Quality quality = model::qualityIndex<T>({c.srcImage(), stored, i}, {c.src2Image(), stored, i}, c.roi);
+          const model::Quality quality =
+              model::qualityIndex<T>({c.srcImage(), stored, i}, {c.src2Image(), stored, i}, c.roi);
           if (quality.exists) {
             c.block("quality").storeWithin(i, static_cast<Lum32f>(quality.index), quality.tolerance);
           } else {
@@ -56,7 +58,8 @@ Lum32u bitsOf(Lum32f x) {
 TEST(QualityIndex, FlatImagesHaveNone) {
   const std::vector<Lum8u> flat(64, 9), other(64, 200);
   Lum32f quality = 0;
-  EXPECT_EQ(lumiQualityIndex_8u32f_C1R(flat.data(), 8, other.data(), 8, {8, 8}, &quality), lumStatusZeroQualityDenominator);
+  EXPECT_EQ(lumiQualityIndex_8u32f_C1R(flat.data(), 8, other.data(), 8, {8, 8}, &quality),
+            lumStatusZeroQualityDenominator);
   EXPECT_EQ(bitsOf(quality), kNoIndex);
 }
 
@@ -64,7 +67,8 @@ TEST(QualityIndex, FlatChannelBesideOthers) {
   std::vector<Lum8u> image(3 * 64);
   for (size_t i = 0; i < image.size(); ++i) image[i] = static_cast<Lum8u>(i % 3 == 1 ? 50 : i);
   Lum32f quality[3] = {};
-  EXPECT_EQ(lumiQualityIndex_8u32f_C3R(image.data(), 24, image.data(), 24, {8, 8}, quality), lumStatusZeroQualityDenominator);
+  EXPECT_EQ(lumiQualityIndex_8u32f_C3R(image.data(), 24, image.data(), 24, {8, 8}, quality),
+            lumStatusZeroQualityDenominator);
   EXPECT_NEAR(quality[0], 1, 1e-5);
   EXPECT_EQ(bitsOf(quality[1]), kNoIndex);
   EXPECT_NEAR(quality[2], 1, 1e-5);
@@ -87,7 +91,8 @@ TEST(QualityIndex, LargeSums) {
     b[i] = static_cast<Lum16u>(a[i] - random.below(1000));
   }
   Lum32f quality = 0;
-  ASSERT_EQ(lumiQualityIndex_16u32f_C1R(a.data(), 2 * width, b.data(), 2 * width, {width, height}, &quality), lumStatusOk);
+  ASSERT_EQ(lumiQualityIndex_16u32f_C1R(a.data(), 2 * width, b.data(), 2 * width, {width, height}, &quality),
+            lumStatusOk);
   const auto image = [&](std::vector<Lum16u>& of) {
     return model::Channel<Lum16u>{{reinterpret_cast<model::Byte*>(of.data()), 2 * width}, 1, 0};
   };

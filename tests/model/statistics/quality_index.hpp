@@ -9,10 +9,10 @@
 
 namespace model {
 
-// An index and how far a result may lie from it. Differences of integers from their mean are the same floats in every
-// implementation; their sums are of n terms in single precision and any order, so that each is off by at most
-// (n + 8) * 2^-24 of the sum of magnitudes, roots and squares included. The mean of floats is a sum in single precision
-// itself: it and each difference may be off by `shift`.
+// An index and how far a result may lie from it. Differences of integers from their mean are the same floats
+// in every implementation; their sums are of n terms in single precision and any order, so that each is off
+// by at most (n + 8) * 2^-24 of the sum of magnitudes, roots and squares included. The mean of floats is a
+// sum in single precision itself: it and each difference may be off by `shift`.
 struct Quality {
   bool exists;
   double index, tolerance;
@@ -57,8 +57,10 @@ Quality qualityIndex(const Channel<T>& first, const Channel<T>& second, LumiSize
     }
   const double n = double{1} * roi.width * roi.height, unit = (n + 8) * 0x1p-24;
   const double means = m1 * m1 + m2 * m2, denominator = (v1 + v2) * means;
-  const double ofVariances = unit * (v1 + v2) + 2 * (shift1 * sum1 + shift2 * sum2) + n * (shift1 * shift1 + shift2 * shift2);
-  const double ofDenominator = ofVariances * means + (v1 + v2) * 2 * (shift1 * std::fabs(m1) + shift2 * std::fabs(m2));
+  const double ofVariances =
+      unit * (v1 + v2) + 2 * (shift1 * sum1 + shift2 * sum2) + n * (shift1 * shift1 + shift2 * shift2);
+  const double ofDenominator =
+      ofVariances * means + (v1 + v2) * 2 * (shift1 * std::fabs(m1) + shift2 * std::fabs(m2));
   if (!(denominator >= 0x1p-23)) return {false, 0, 0};
   const double index = 4 * m1 * m2 * covariance / denominator;
   const double ofCovariance = unit * magnitudes + shift1 * sum2 + shift2 * sum1 + n * shift1 * shift2;
