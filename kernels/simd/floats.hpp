@@ -64,9 +64,10 @@ inline Floats8 isEqual(Floats8 a, Floats8 b) { return {_mm256_cmp_ps(a.v, b.v, _
 inline Floats4 andNot(Floats4 a, Floats4 b) { return {_mm_andnot_ps(a.v, b.v)}; }
 inline Floats8 andNot(Floats8 a, Floats8 b) { return {_mm256_andnot_ps(a.v, b.v)}; }
 
-// |x|.
+// |x|, the bits of a NaN kept but for its sign.
 inline Floats4 magnitude(Floats4 x) { return {_mm_andnot_ps(_mm_set1_ps(-0.0f), x.v)}; }
 inline Floats8 magnitude(Floats8 x) { return {_mm256_andnot_ps(_mm256_set1_ps(-0.0f), x.v)}; }
+inline Doubles4 magnitude(Doubles4 x) { return {_mm256_andnot_pd(_mm256_set1_pd(-0.0), x.v)}; }
 
 // By lanes: yes where the mask is all ones, no where it is zero. The instruction is written out: compilers
 // take the function for it apart into integers, which the level has no 32 bytes of.

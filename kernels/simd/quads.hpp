@@ -19,6 +19,8 @@ inline Quads operator&(Quads a, Quads b) { return {_mm_and_si128(a.v, b.v)}; }
 inline Quads operator^(Quads a, Quads b) { return {_mm_xor_si128(a.v, b.v)}; }
 // As unsigned numbers: zeros come in.
 inline Quads operator>>(Quads a, Shift s) { return {_mm_srl_epi64(a.v, s.count)}; }
+// The high halves by themselves.
+inline Quads highHalves(Quads a) { return {_mm_srli_epi64(a.v, 32)}; }
 inline Quads isAbove(Quads a, Quads b) { return {_mm_cmpgt_epi64(a.v, b.v)}; }
 inline Quads isEqual(Quads a, Quads b) { return {_mm_cmpeq_epi64(a.v, b.v)}; }
 
