@@ -28,6 +28,7 @@
 #include "lumi/mirror.h"
 #include "lumi/mul.h"
 #include "lumi/mul_scale.h"
+#include "lumi/norm.h"
 #include "lumi/quality_index.h"
 #include "lumi/resize.h"
 #include "lumi/sad.h"
