@@ -179,6 +179,10 @@ def _each(param, ctype, decl, descriptor):
     count = _channels(descriptor.layouts[0] if descriptor and descriptor.layouts else "")
     if ctype in SAMPLE_TYPES.values():
         return _values(param.name, ctype, count, tuple(param.refused))
+    if ctype.endswith("* const*"):  # arrays that receive results
+        array = ctype.removesuffix(" const*")
+        return Arg("arrays", param.name, f"{array} const {param.name}[{count}]", count) if count > 1 else \
+            Arg("pointer", param.name, f"{array} {param.name}")
     is_result = "*" in ctype and not ctype.startswith("const ")
     if count == 1:
         return Arg("results", param.name, decl, count) if is_result else None

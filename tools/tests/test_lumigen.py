@@ -172,6 +172,12 @@ class Rows(unittest.TestCase):
         self.assertIn("const Lum8u* const levels[3], const int count[3])", emit.prototype(of_three))
         self.assertEqual([a.kind for a in of_three.args[2:]], ["arrays", "pointer"])
 
+    def test_arrays_of_results_for_each_channel(self):
+        text = HEAD + "  param bins Lum32s* const* each : bins\n  args src bins\n  8u {C1 AC4}R check null each size bind probe\n"
+        one, three = (exports(text)[f"lumiProbe_8u_{layout}R"].args[-1] for layout in ("C1", "AC4"))
+        self.assertEqual((one.decl, one.kind), ("Lum32s* bins", "pointer"))
+        self.assertEqual((three.decl, three.kind, three.count), ("Lum32s* const bins[3]", "arrays", 3))
+
     def test_names_of_all_homes(self):
         text = HEAD.replace("op Probe", "op Probe_L1") + ("  args src dst\n  16uc16u 8u24u C1R bind a\n  64s P2C1R bind b\n"
                                                           "  8u C1AP4R bind c\n")
