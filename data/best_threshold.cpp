@@ -7,6 +7,7 @@
 
 #include "frame/check.hpp"
 #include "frame/rows.hpp"
+#include "kernels/byte_counts.hpp"
 #include "kernels/data/best_threshold.hpp"
 
 namespace lumi {
@@ -14,7 +15,7 @@ namespace {
 
 using namespace check;
 
-// Images of any size: they are counted in parts of fewer than 2^31 pixels.
+// Images of any size: they are counted in parts of fewer than 2^31 pixels, whose counts do not go around.
 Histogram histogramOf(const Lum8u* src, int step, LumiSize roi) {
   Histogram histogram{};
   const int most = INT_MAX / roi.width;
@@ -23,7 +24,8 @@ Histogram histogramOf(const Lum8u* src, int step, LumiSize roi) {
     runFused(
         {roi.width, height},
         [&](SourceRows part, Extent pixels) {
-          const ByteCounts counts = countBytes(part, pixels);
+          ByteCounts counts;
+          countBytes<1, 1>(part, pixels, &counts);
           for (size_t i = 0; i < 256; ++i) histogram.of[i] += counts.of[i];
         },
         pixelRows<C1>(src + static_cast<ptrdiff_t>(y) * step, step));

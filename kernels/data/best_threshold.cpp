@@ -3,44 +3,10 @@
 
 #include <algorithm>
 
-#include "kernels/simd/bytes.hpp"
-
 namespace lumi {
 namespace {
 
-using namespace simd;
-
 constexpr int kLevels = 256;
-
-// A table for each byte of a word, so that equal neighbours do not wait for one another's count to be stored.
-struct Tables {
-  int32_t of[sizeof(size_t)][kLevels] = {};
-};
-
-size_t wordAt(const Byte* p) {
-  size_t word = 0;
-  std::memcpy(&word, p, sizeof word);
-  return word;
-}
-
-// Each word is loaded before the one in front of it is counted: compilers must suppose that counting changes
-// what is loaded after it.
-void countRow(const Byte* p, size_t bytes, Tables& tables) {
-  constexpr size_t word = sizeof(size_t);
-  size_t at = 0;
-  if (bytes >= word) {
-    size_t next = wordAt(p);
-    for (; at + 2 * word <= bytes; at += word) {
-      size_t samples = next;
-      next = wordAt(p + at + word);
-      for (auto& table : tables.of) {
-        ++table[samples & 0xFF];
-        samples >>= 8;
-      }
-    }
-  }
-  for (; at < bytes; ++at) ++tables.of[at % word][p[at]];
-}
 
 // The mean of all samples, and what to multiply counts by for shares of them. Sums of counts and halves are
 // exact in any order as long as there are fewer than 2^44 samples, more than memory holds.
@@ -61,16 +27,6 @@ struct Whole {
 };
 
 }  // namespace
-
-ByteCounts countBytes(SourceRows src, Extent bytes) {
-  Tables tables;
-  walkRows(
-      bytes.rows, [&](const Byte* row) { countRow(row, bytes.length, tables); }, src);
-  ByteCounts sums{};
-  for (const auto& table : tables.of)
-    for (size_t i = 0; i < kLevels; ++i) sums.of[i] += table[i];
-  return sums;
-}
 
 // The steps and their order are part of the result.
 uint8_t bestThreshold(const Histogram& histogram) {

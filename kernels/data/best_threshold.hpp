@@ -1,17 +1,10 @@
 // SPDX-License-Identifier: MIT
-// How often each sample stands in an image of bytes, and the level that parts such counts best.
+// The level that parts the counts of an image's samples best.
 #pragma once
 
-#include "kernels/rows.hpp"
+#include <cstdint>
 
 namespace lumi {
-
-struct ByteCounts {
-  int32_t of[256];
-};
-
-// Of fewer than 2^31 bytes.
-ByteCounts countBytes(SourceRows src, Extent bytes);
 
 struct Histogram {
   double of[256];
