@@ -19,6 +19,7 @@
 #include "lumi/dot_prod.h"
 #include "lumi/extremes.h"
 #include "lumi/filter_border.h"
+#include "lumi/histogram.h"
 #include "lumi/image_memory.h"
 #include "lumi/logic.h"
 #include "lumi/lut.h"

@@ -221,6 +221,17 @@ Peer bestThreshold(View src) {
   });
 }
 
+Peer histogram(View src, int bins, double lower, double upper) {
+  const cv::Mat counts(bins, 1, CV_32FC1);
+  const auto low = static_cast<float>(lower), high = static_cast<float>(upper);
+  return peer("opencv", [s = mat(src), counts, bins, low, high]() mutable {
+    const float range[] = {low, high};
+    const float* ranges[] = {range};
+    const int channel = 0;
+    cv::calcHist(&s, 1, &channel, cv::Mat(), counts, 1, &bins, ranges);
+  });
+}
+
 Peer border(View src, View dst, int top, int left, Border kind, Value value) {
   constexpr int kKinds[] = {cv::BORDER_CONSTANT, cv::BORDER_REPLICATE, cv::BORDER_WRAP};
   const int bottom = dst.roi.height - src.roi.height - top, right = dst.roi.width - src.roi.width - left;

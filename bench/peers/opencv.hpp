@@ -55,6 +55,8 @@ enum class Logic { conjunction, disjunction, exclusive };
 [[gnu::weak]] Peer compareConstant(View src, View dst, double value, int cmpOp);
 // The best threshold of bytes; stores which of them are above it.
 [[gnu::weak]] Peer bestThreshold(View src);
+// The counts of one channel in bins of one width, as floats.
+[[gnu::weak]] Peer histogram(View src, int bins, double lower, double upper);
 // To the destination's type.
 [[gnu::weak]] Peer convert(View src, View dst);
 enum class Border { constant, replicate, wrap };

@@ -121,6 +121,9 @@ typedef struct {
 typedef struct LumiResizeSpec LumiResizeSpec;
 typedef struct LumiResizeSpec64f LumiResizeSpec64f;
 
+/** Levels between which lumiHistogram counts, in memory of the caller's. */
+typedef struct LumiHistogramSpec LumiHistogramSpec;
+
 /** What lumiGetLibVersion returns: a constant record. */
 typedef struct {
   int major;               /**< release number */
