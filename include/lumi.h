@@ -9,6 +9,7 @@
 #include "lumi/add_sub.h"
 #include "lumi/best_threshold.h"
 #include "lumi/bits.h"
+#include "lumi/block_min_max.h"
 #include "lumi/border.h"
 #include "lumi/compare.h"
 #include "lumi/convert.h"
