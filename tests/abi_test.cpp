@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <link.h>
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -24,6 +25,7 @@ const std::array<Lum8u, 64> constants = [] {
 }();
 
 std::array<Lum32s, 4> firstChannels{};
+std::array<void*, 1> firstRow = {memory[0].data()};
 
 // Arguments of a call that runs, on memory of its own for each pointer.
 std::vector<Slot> runningArguments(const ExportRow& row, int width) {
@@ -39,6 +41,8 @@ std::vector<Slot> runningArguments(const ExportRow& row, int width) {
       slots[i].setPointer(constants.data());
     } else if (std::string(argument.name) == "order") {
       slots[i].setPointer(firstChannels.data());
+    } else if (std::string(argument.name) == "rows") {
+      slots[i].setPointer(firstRow.data());
     } else if (argument.passing == Passing::Pointer) {
       slots[i].setPointer(image());
     } else if (argument.kind == Kind::Step) {
@@ -51,10 +55,19 @@ std::vector<Slot> runningArguments(const ExportRow& row, int width) {
   return slots;
 }
 
+// Images may be flat, and there is no object.
+bool isRefusedHere(const ExportRow& row, LumStatus status) {
+  const bool takesObject =
+      std::any_of(row.arguments.begin(), row.arguments.end(),
+                  [](const Argument& argument) { return std::string(argument.name) == "spec"; });
+  return status == (takesObject ? lumStatusBadArgument : lumStatusZeroQualityDenominator);
+}
+
 void callAll(int width, int misalignment) {
   for (const ExportRow* row : regularRows()) {
     const Outcome outcome = invoke(*row, runningArguments(*row, width).data(), misalignment);
-    ASSERT_GE(outcome.status, lumStatusOk) << row->name;
+    ASSERT_TRUE(outcome.status >= lumStatusOk || isRefusedHere(*row, outcome.status))
+        << row->name << ": " << outcome.status;
     EXPECT_EQ(outcome.broken, "") << row->name << " at misalignment " << misalignment;
   }
 }

@@ -11,8 +11,8 @@
 namespace lumi {
 
 // Of 8-bit, 16-bit or 32-bit integers or floats, of 1, 3 or 4 channels; alpha has a sum too, which nobody
-// takes. Products and sums are made in Total, float for floats or double. Those of 8-bit and 16-bit integers are
-// exact as long as no sum reaches 2^53. The total of one channel is in the first.
+// takes. Products and sums are made in Total, float for floats or double. Those of 8-bit and 16-bit integers
+// are exact as long as no sum reaches 2^53. The total of one channel is in the first.
 template <typename T, typename Total, int channels>
 ChannelTotals<double> dotProducts(SourceRows a, SourceRows b, Extent pixels);
 

@@ -17,10 +17,10 @@ struct RelativeTotals {
   NormTotals differences, ofSecond;
 };
 
-// Of uint8_t, uint16_t, int16_t or float, of 1, 3 or 4 channels; alpha has a norm too, which nobody takes. The
-// largest magnitude is also of int32_t of one channel; magnitudes of unsigned samples are added up as sums.
-// Sums of floats are made in Total, float or double, differences too; sums of integers are of 64 bits, and go
-// around. The total of one channel is in the first.
+// Of uint8_t, uint16_t, int16_t or float, of 1, 3 or 4 channels; alpha has a norm too, which nobody takes.
+// The largest magnitude is also of int32_t of one channel; magnitudes of unsigned samples are added up as
+// sums. Sums of floats are made in Total, float or double, differences too; sums of integers are of 64 bits,
+// and go around. The total of one channel is in the first.
 template <Norm norm, typename T, typename Total, int channels>
 NormTotals normOfImage(SourceRows src, Extent pixels);
 template <Norm norm, typename T, typename Total, int channels>

@@ -66,9 +66,9 @@ RelativeTotals relativeNorm(SourceRows a, SourceRows b, Extent pixels) {
   return {inDoubles(differences), inDoubles(ofSecond)};
 }
 
-#define LUMI_NORMS(T, Total, channels)                                                                   \
-  template NormTotals normOfImage<Norm::Inf, T, Total, channels>(SourceRows, Extent);                    \
-  template NormTotals normOfDifferences<Norm::Inf, T, Total, channels>(SourceRows, SourceRows, Extent);  \
+#define LUMI_NORMS(T, Total, channels)                                                                  \
+  template NormTotals normOfImage<Norm::Inf, T, Total, channels>(SourceRows, Extent);                   \
+  template NormTotals normOfDifferences<Norm::Inf, T, Total, channels>(SourceRows, SourceRows, Extent); \
   template RelativeTotals relativeNorm<Norm::Inf, T, Total, channels>(SourceRows, SourceRows, Extent);
 #define LUMI_NORMS_OF(T, Total) LUMI_NORMS(T, Total, 1) LUMI_NORMS(T, Total, 3) LUMI_NORMS(T, Total, 4)
 LUMI_NORMS_OF(uint8_t, uint64_t)

@@ -79,9 +79,10 @@ template <Norm norm, typename T, typename Total, int channels>
 RelativeTotals relativeNorm(SourceRows a, SourceRows b, Extent pixels) {
   using OfSecond = Sums<T, Total, channels, Magnitude>;
   Relative<decltype(distances<T, Total, channels>()), OfSecond> sums{distances<T, Total, channels>(),
-                                                                    OfSecond(Magnitude())};
+                                                                     OfSecond(Magnitude())};
   reduceRows(sums, pixels.times(channels), a, b);
-  return {totalsOf(sums.differences, pixels.times(channels)), totalsOf(sums.ofSecond, pixels.times(channels))};
+  return {totalsOf(sums.differences, pixels.times(channels)),
+          totalsOf(sums.ofSecond, pixels.times(channels))};
 }
 
 #define LUMI_IMAGE(T, Total, channels) \

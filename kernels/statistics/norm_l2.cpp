@@ -21,9 +21,12 @@ NormTotals normOfDifferences(SourceRows a, SourceRows b, Extent pixels) {
 
 template <Norm norm, typename T, typename Total, int channels>
 RelativeTotals relativeNorm(SourceRows a, SourceRows b, Extent pixels) {
-  Relative<simd::ProductSums<simd::DifferenceSquares, T, channels, Total>, simd::ProductSums<simd::Squares, T, channels, Total>> sums;
+  Relative<simd::ProductSums<simd::DifferenceSquares, T, channels, Total>,
+           simd::ProductSums<simd::Squares, T, channels, Total>>
+      sums;
   reduceRows(sums, pixels.times(channels), a, b);
-  return {simd::inDoubles<channels>(sums.differences.totals()), simd::inDoubles<channels>(sums.ofSecond.totals())};
+  return {simd::inDoubles<channels>(sums.differences.totals()),
+          simd::inDoubles<channels>(sums.ofSecond.totals())};
 }
 
 NormTotals squareRoots(const NormTotals& totals) {
@@ -33,7 +36,7 @@ NormTotals squareRoots(const NormTotals& totals) {
   return roots;
 }
 
-#define LUMI_NORMS(T, Total, channels)                                                              \
+#define LUMI_NORMS(T, Total, channels)                                                                 \
   template NormTotals normOfImage<Norm::L2, T, Total, channels>(SourceRows, Extent);                   \
   template NormTotals normOfDifferences<Norm::L2, T, Total, channels>(SourceRows, SourceRows, Extent); \
   template RelativeTotals relativeNorm<Norm::L2, T, Total, channels>(SourceRows, SourceRows, Extent);

@@ -119,9 +119,9 @@ class ByteSums {
   Samples16<Lane> sums_[kPhases];
 };
 
-// Sums of products of words, in pairs of lanes of 64 bits: one has the sum of all dwords, odd ones 2^32 times,
-// the other that of the odd ones. Unsigned words lose 2^15 before they are multiplied, and get back what that
-// takes from their product:
+// Sums of products of words, in pairs of lanes of 64 bits: one has the sum of all dwords, odd ones 2^32
+// times, the other that of the odd ones. Unsigned words lose 2^15 before they are multiplied, and get back
+// what that takes from their product:
 //
 //   x y = (x - 2^15) (y - 2^15) + 2^15 ((x - 2^15) + (y - 2^15)) + 2^30
 template <typename T, int channels, bool squares>
@@ -147,7 +147,8 @@ class WordSums {
   }
   void add(const V (&a)[kVectors], const V (&b)[kVectors]) {
     const Pairs x(a), y(b);
-    for (size_t i = 0; i < kVectors; ++i) addPairs(phases_[i % kPhases], signedOf(x.of[i]), signedOf(y.of[i]));
+    for (size_t i = 0; i < kVectors; ++i)
+      addPairs(phases_[i % kPhases], signedOf(x.of[i]), signedOf(y.of[i]));
     ++blocks_;
   }
   void store(Lane* lanes) const {
@@ -173,9 +174,7 @@ class WordSums {
   };
 
   static S32 zeros() { return broadcast16<int32_t>(0); }
-  static S16 signedOf(V x) {
-    return as<int16_t>(kShifted ? x ^ broadcast16(static_cast<T>(0x8000)) : x);
-  }
+  static S16 signedOf(V x) { return as<int16_t>(kShifted ? x ^ broadcast16(static_cast<T>(0x8000)) : x); }
   static void addPairs(Phase& phase, S16 x, S16 y) {
     S32 sums = multiplyAddPairs(x, y);
     if (!squares) sums = sums + broadcast16(static_cast<int32_t>(kBias));
@@ -195,8 +194,8 @@ class WordSums {
 template <typename F, typename T, int channels, typename Total>
 class IntegerProducts {
   using Factor = typename F::template Factor<T>;
-  using Sums = std::conditional_t<sizeof(T) == 1, ByteSums<Factor, channels>,
-                                  WordSums<Factor, channels, F::kSquares>>;
+  using Sums =
+      std::conditional_t<sizeof(T) == 1, ByteSums<Factor, channels>, WordSums<Factor, channels, F::kSquares>>;
   static constexpr size_t kVectors = Sums::kVectors;
 
  public:
@@ -307,8 +306,7 @@ ChannelTotals<double> inDoubles(const ChannelTotals<Total>& totals) {
   ChannelTotals<double> result{};
   for (size_t c = 0; c < channels; ++c) result.of[c] = static_cast<double>(totals.of[c]);
   if (channels == 1)
-    result.of[0] =
-        static_cast<double>((totals.of[0] + totals.of[1]) + (totals.of[2] + totals.of[3]));
+    result.of[0] = static_cast<double>((totals.of[0] + totals.of[1]) + (totals.of[2] + totals.of[3]));
   return result;
 }
 

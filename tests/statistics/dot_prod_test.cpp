@@ -17,7 +17,8 @@
 namespace test {
 namespace {
 
-constexpr double kInf = std::numeric_limits<double>::infinity(), kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInf = std::numeric_limits<double>::infinity(),
+                 kNaN = std::numeric_limits<double>::quiet_NaN();
 
 template <typename T>
 void describe(Member& m) {
@@ -131,7 +132,8 @@ TEST(DotProd, SinglePrecisionIsNearEnough) {
   };
   constexpr int step = 4 * kWidth;
   Lum64f sums[3];
-  ASSERT_EQ(lumiDotProd_32f64f_C1R(a.data(), step, b.data(), step, {kWidth - 1, kHeight}, sums, 0), lumStatusOk);
+  ASSERT_EQ(lumiDotProd_32f64f_C1R(a.data(), step, b.data(), step, {kWidth - 1, kHeight}, sums, 0),
+            lumStatusOk);
   expectNear(sums[0], kWidth - 1, 1, 0);
   ASSERT_EQ(lumiDotProd_32f64f_C3R(a.data(), step, b.data(), step, {333, kHeight}, sums, 0), lumStatusOk);
   for (int c = 0; c < 3; ++c) expectNear(sums[c], 333, 3, c);
@@ -196,7 +198,8 @@ void expectWeightedRows(const char* name, int count, int width, Random& random) 
   for (int x = 0; x < width; ++x) {
     T sum = model::load<T>(rows[0].at(), x) * model::load<T>(weights.at(), 0);
     for (int k = 1; k < count; ++k) {
-      const T product = model::load<T>(rows[static_cast<size_t>(k)].at(), x) * model::load<T>(weights.at(), k);
+      const T product =
+          model::load<T>(rows[static_cast<size_t>(k)].at(), x) * model::load<T>(weights.at(), k);
       sum = sum + product;
     }
     ASSERT_EQ(model::load<T>(dst.at(), x), sum) << name << " " << count << " rows of " << width << ", " << x;

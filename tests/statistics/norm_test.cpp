@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Norms: against the model; more samples of extreme values than lanes hold, strips of wide images, hints, zero
-// denominators, alpha and the statuses' orders by hand.
+// Norms: against the model; more samples of extreme values than lanes hold, strips of wide images, hints,
+// zero denominators, alpha and the statuses' orders by hand.
 #include "lumi/norm.h"
 
 #include <gtest/gtest.h>
@@ -20,8 +20,8 @@ using model::Norm;
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
-// Results of integers, and of floats that are compared, follow from totals by operations that are rounded once
-// each.
+// Results of integers, and of floats that are compared, follow from totals by operations that are rounded
+// once each.
 double normOf(Norm norm, double total) { return norm == Norm::L2 ? std::sqrt(total) : total; }
 
 template <typename T, typename Of>
@@ -85,9 +85,7 @@ LumStatus inPrecisionOf(int hint, Run run) {
 
 template <typename T>
 model::Norm describe(Member& m, const std::string& operation) {
-  const Norm norm = operation.back() == 'f'   ? Norm::Inf
-                    : operation.back() == '1' ? Norm::L1
-                                              : Norm::L2;
+  const Norm norm = operation.back() == 'f' ? Norm::Inf : operation.back() == '1' ? Norm::L1 : Norm::L2;
   m.contents = kAnyContents;
   m.floatResults = std::is_same_v<T, Lum32f>;
   m.mayStream = false;
@@ -129,9 +127,8 @@ void describeRelative(Member& m, const std::string& operation) {
   m.model = [=, stored = m.channels.src, used = m.channels.moved](const Call& c) {
     if constexpr (std::is_same_v<T, Lum32f>)
       if (norm != Norm::Inf)
-        return inPrecisionOf(c.numbers[0], [&](auto v) {
-          return storeRelativeSums<decltype(v)>(norm, c, stored, used);
-        });
+        return inPrecisionOf(c.numbers[0],
+                             [&](auto v) { return storeRelativeSums<decltype(v)>(norm, c, stored, used); });
     return storeRelative<T>(norm, c, stored, used);
   };
 }
@@ -245,10 +242,10 @@ TEST(Norm, SquaresOfWordsFillUnsignedTotals) {
 // Two strips whose roots are no integers: the sum of their squares differs from that of all squares.
 TEST(Norm, WideBytesAreDoneInStrips) {
   std::vector<Lum8u> image(3 * 32768, 0);
-  image[0] = 3, image[1] = 1;              // 10
-  image[32768] = 1, image[40000] = 1;      // 2
-  image[65535] = 1;                        // 1
-  image[65536] = 2, image[65540] = 1;      // 5
+  image[0] = 3, image[1] = 1;          // 10
+  image[32768] = 1, image[40000] = 1;  // 2
+  image[65535] = 1;                    // 1
+  image[65536] = 2, image[65540] = 1;  // 5
   const auto squared = [](double x) { return std::sqrt(x) * std::sqrt(x); };
   Lum64f norm = 0;
   const auto normOfWidth = [&](int width) {
@@ -282,8 +279,7 @@ TEST(Norm, HintTwoAsksForDoubles) {
     EXPECT_EQ(norm, exact ? 16777218 : 16777216);
     ASSERT_EQ(lumiNormDiff_L1_32f_C1R(large, 4, below, 4, {1, 1}, &norm, hint), lumStatusOk);
     EXPECT_EQ(norm, exact ? 16777217 : 16777216);
-    ASSERT_EQ(lumiNormRel_L2_32f_C1R(large, 4, zeros, 4, {1, 1}, &norm, hint),
-              lumStatusDivideByZeroWarning);
+    ASSERT_EQ(lumiNormRel_L2_32f_C1R(large, 4, zeros, 4, {1, 1}, &norm, hint), lumStatusDivideByZeroWarning);
     EXPECT_EQ(norm, 16777216);
   }
 }

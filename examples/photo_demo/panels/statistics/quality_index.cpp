@@ -9,11 +9,12 @@ namespace {
 
 // Blocks of n x n pixels have one value.
 Colour coarsened(const Colour& photo, int n, Calls& calls) {
-  return resized(resized(photo, scaled(photo.size(), 1, n), lumInterpNearest, calls), photo.size(), lumInterpNearest,
-                 calls);
+  return resized(resized(photo, scaled(photo.size(), 1, n), lumInterpNearest, calls), photo.size(),
+                 lumInterpNearest, calls);
 }
 
-// Flat channels have no index, and no bar. The lower part is the coarse copy; bars as long as each channel's index, of the photo's width, lie on it.
+// Flat channels have no index, and no bar. The lower part is the coarse copy; bars as long as each channel's
+// index, of the photo's width, lie on it.
 template <int block>
 AnyImage alike(const Colour& photo, Calls& calls) {
   const Colour copy = coarsened(photo, block, calls);
@@ -30,7 +31,8 @@ AnyImage alike(const Colour& photo, Calls& calls) {
   for (int c = 0; c < 3; ++c) {
     Rgb colour{};
     colour[static_cast<size_t>(c)] = 255;
-    const auto length = static_cast<int>(static_cast<float>(size.width) * std::max(0.0f, quality[static_cast<size_t>(c)]));
+    const auto length =
+        static_cast<int>(static_cast<float>(size.width) * std::max(0.0f, quality[static_cast<size_t>(c)]));
     const int top = half + 2 * c * bar;
     if (length > 0 && top + bar <= size.height) fillRect(result, {0, top, length, bar}, colour);
   }

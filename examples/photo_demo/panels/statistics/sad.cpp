@@ -24,8 +24,8 @@ struct Search {
   Image<1, Lum32s> sums(Calls& calls) const {
     Image<1, Lum32s> result(windows);
     calls.time("lumiSAD_8u32s_C1RSfs", windows, [&] {
-      return lumiSAD_8u32s_C1RSfs(green.data(), green.step(), green.size(), green.at(place.x, place.y), green.step(),
-                                  part, result.data(), result.step(), 0x10000, 0, nullptr);
+      return lumiSAD_8u32s_C1RSfs(green.data(), green.step(), green.size(), green.at(place.x, place.y),
+                                  green.step(), part, result.data(), result.step(), 0x10000, 0, nullptr);
     });
     return result;
   }

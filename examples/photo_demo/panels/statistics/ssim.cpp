@@ -12,7 +12,8 @@ using Floats = Image<1, Lum32f>;
 Floats greenOf(const Colour& photo) {
   const Planes planes = split(photo);
   Floats result(photo.size());
-  check(lumiConvert_8u32f_C1R(planes.green.data(), planes.green.step(), result.data(), result.step(), photo.size()),
+  check(lumiConvert_8u32f_C1R(planes.green.data(), planes.green.step(), result.data(), result.step(),
+                              photo.size()),
         "lumiConvert_8u32f_C1R");
   return result;
 }
@@ -63,8 +64,8 @@ AnyImage similarity(const Floats& a, const Floats& b, Calls& calls) {
   Floats map(size);
   constexpr float c1 = 6.5025f, c2 = 58.5225f;  // (0.01 * 255)^2 and (0.03 * 255)^2
   calls.time("lumiSSIM_32f_C1R", size, [&] {
-    return lumiSSIM_32f_C1R(m1.data(), m1.step(), m2.data(), m2.step(), s1.data(), s1.step(), s2.data(), s2.step(),
-                            p.data(), p.step(), map.data(), map.step(), size, c1, c2, 1);
+    return lumiSSIM_32f_C1R(m1.data(), m1.step(), m2.data(), m2.step(), s1.data(), s1.step(), s2.data(),
+                            s2.step(), p.data(), p.step(), map.data(), map.step(), size, c1, c2, 1);
   });
   check(lumiMulC_32f_C1IR(255, map.data(), map.step(), size), "lumiMulC_32f_C1IR");
   Grey grey(size);
