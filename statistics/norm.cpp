@@ -55,8 +55,8 @@ constexpr int kStripWidth = 32768;
 
 Lum64f normOfStrips(const Lum8u* src, int srcStep, LumiSize roi) {
   NormTotals squares{};
-  for (int x = 0; x < roi.width; x += kStripWidth) {
-    const LumiSize strip{std::min(kStripWidth, roi.width - x), roi.height};
+  for (int64_t x = 0; x < roi.width; x += kStripWidth) {
+    const LumiSize strip{std::min(kStripWidth, static_cast<int>(roi.width - x)), roi.height};
     const Lum64f norm = squareRoots(totalsOf<Norm::L2, Lum8u, C1>(src + x, srcStep, strip)).of[0];
     squares.of[0] += norm * norm;
   }
