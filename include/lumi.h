@@ -28,6 +28,7 @@
 #include "lumi/min_max.h"
 #include "lumi/min_max_index.h"
 #include "lumi/mirror.h"
+#include "lumi/moments.h"
 #include "lumi/mul.h"
 #include "lumi/mul_scale.h"
 #include "lumi/norm.h"

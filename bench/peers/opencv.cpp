@@ -232,6 +232,12 @@ Peer histogram(View src, int bins, double lower, double upper) {
   });
 }
 
+Peer moments(View src, View total) {
+  return peer("opencv", [s = mat(src), t = mat(total)]() mutable {
+    t.at<float>(0) = static_cast<float>(cv::moments(s).m00);
+  });
+}
+
 Peer border(View src, View dst, int top, int left, Border kind, Value value) {
   constexpr int kKinds[] = {cv::BORDER_CONSTANT, cv::BORDER_REPLICATE, cv::BORDER_WRAP};
   const int bottom = dst.roi.height - src.roi.height - top, right = dst.roi.width - src.roi.width - left;

@@ -57,6 +57,8 @@ enum class Logic { conjunction, disjunction, exclusive };
 [[gnu::weak]] Peer bestThreshold(View src);
 // The counts of one channel in bins of one width, as floats.
 [[gnu::weak]] Peer histogram(View src, int bins, double lower, double upper);
+// All moments of one channel up to the third order; stores the first of them, its total.
+[[gnu::weak]] Peer moments(View src, View total);
 // To the destination's type.
 [[gnu::weak]] Peer convert(View src, View dst);
 enum class Border { constant, replicate, wrap };

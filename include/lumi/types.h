@@ -124,6 +124,9 @@ typedef struct LumiResizeSpec64f LumiResizeSpec64f;
 /** Levels between which lumiHistogram counts, in memory of the caller's. */
 typedef struct LumiHistogramSpec LumiHistogramSpec;
 
+/** Moments of an image, as floats or as integers: 400 bytes. */
+typedef struct LumiMomentState LumiMomentState;
+
 /** What lumiGetLibVersion returns: a constant record. */
 typedef struct {
   int major;               /**< release number */
