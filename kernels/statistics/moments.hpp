@@ -15,10 +15,10 @@ struct ChannelMoments {
 };
 
 // Of the first `used` channels of pixels of `stored` samples, which are uint8_t, uint16_t or float. As N:
-// - uint64_t, of integers: modulo 2^64.
-// - double: the sums of integers are exact up to 2^53. Beyond, and of floats, there are at most 5 * (columns
-// + rows) +
-//   200 roundings of nothing but sums of products x^p * y^q * sample, whichever their order.
+//
+//   uint64_t  of integers: modulo 2^64
+//   double    sums of integers are exact up to 2^53. Beyond, and of floats, there are at most
+//             5 * (columns + rows) + 200 roundings of nothing but sums of products x^p * y^q * sample
 template <typename T, typename N>
 void momentsOf(SourceRows src, Extent pixels, int stored, int used, ChannelMoments<N>* moments);
 
