@@ -27,17 +27,12 @@ auto inTotals(TotalOf totalOf, [[maybe_unused]] Hint... hint) {
     return ((hint == 2) || ...) ? totalOf(double()) : totalOf(float());
 }
 
-template <Norm norm>
-NormTotals normsOf(const NormTotals& totals) {
-  if constexpr (norm == Norm::L2)
-    return squareRoots(totals);
-  else
-    return totals;
-}
-
-template <typename Layout>
-void storeNorms(const NormTotals& norms, Lum64f* at) {
-  std::memcpy(at, norms.of, sizeof *at * Layout::kUsed);
+template <Norm norm, typename Layout>
+void storeNorms(const NormTotals& totals, Lum64f* at) {
+  Lum64f norms[Layout::kUsed];
+  for (int c = 0; c < Layout::kUsed; ++c)
+    norms[c] = norm == Norm::L2 ? squareRootOf(totals.of[c]) : totals.of[c];
+  std::memcpy(at, norms, sizeof norms);
 }
 
 template <Norm norm, typename T, typename Layout, typename... Hint>
@@ -54,13 +49,13 @@ NormTotals totalsOf(const T* src, int srcStep, LumiSize roi, Hint... hint) {
 constexpr int kStripWidth = 32768;
 
 Lum64f normOfStrips(const Lum8u* src, int srcStep, LumiSize roi) {
-  NormTotals squares{};
+  Lum64f squares = 0;
   for (int64_t x = 0; x < roi.width; x += kStripWidth) {
     const LumiSize strip{std::min(kStripWidth, static_cast<int>(roi.width - x)), roi.height};
-    const Lum64f norm = squareRoots(totalsOf<Norm::L2, Lum8u, C1>(src + x, srcStep, strip)).of[0];
-    squares.of[0] += norm * norm;
+    const Lum64f norm = squareRootOf(totalsOf<Norm::L2, Lum8u, C1>(src + x, srcStep, strip).of[0]);
+    squares += norm * norm;
   }
-  return squareRoots(squares).of[0];
+  return squareRootOf(squares);
 }
 
 template <Norm norm, typename T>
@@ -85,7 +80,7 @@ LumStatus normOf(const T* src, int srcStep, LumiSize roi, Lum64f* result, Hint..
         std::memcpy(result, &wide, sizeof wide);
         return lumStatusOk;
       }
-    storeNorms<Layout>(normsOf<norm>(totalsOf<norm, T, Layout>(src, srcStep, roi, hint...)), result);
+    storeNorms<norm, Layout>(totalsOf<norm, T, Layout>(src, srcStep, roi, hint...), result);
     return lumStatusOk;
   }
 }
@@ -106,7 +101,7 @@ LumStatus normOfDifference(const T* src1, int src1Step, const T* src2, int src2S
         return normOfDifferences<norm, T, decltype(total), Layout::kStored>(a, b, fusedExtent(roi, a, b));
       },
       hint...);
-  storeNorms<Layout>(normsOf<norm>(totals), result);
+  storeNorms<norm, Layout>(totals, result);
   return lumStatusOk;
 }
 
@@ -131,7 +126,7 @@ LumStatus relativeNormOf(const T* src1, int src1Step, const T* src2, int src2Ste
       },
       hint...);
   const LumStatus status = divide<Layout::kUsed>(totals.differences, totals.ofSecond);
-  storeNorms<Layout>(normsOf<norm>(totals.differences), result);
+  storeNorms<norm, Layout>(totals.differences, result);
   return status;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/peers/opencv.hpp"
 
+#include <cstring>
 #include <opencv2/core.hpp>
 #include <opencv2/core/utility.hpp>
 #include <opencv2/imgproc.hpp>
@@ -289,6 +290,47 @@ Peer resizeNearest(View src, View dst) {
 Peer resizeLinear(View src, View dst) {
   return peer("opencv",
               [s = mat(src), d = mat(dst)]() mutable { cv::resize(s, d, d.size(), 0, 0, cv::INTER_LINEAR); });
+}
+
+namespace {
+
+constexpr int kNorms[] = {cv::NORM_INF, cv::NORM_L1, cv::NORM_L2};
+
+template <typename Find>
+Peer storing(View result, Find find) {
+  return peer("opencv", [=] {
+    const double value = find();
+    std::memcpy(result.bytes, &value, sizeof value);
+  });
+}
+
+}  // namespace
+
+Peer norm(View src, View result, Norm kind) {
+  return storing(result, [s = mat(src), type = kNorms[static_cast<int>(kind)]] { return cv::norm(s, type); });
+}
+
+Peer normOfDifference(View a, View b, View result, Norm kind) {
+  return storing(result, [x = mat(a), y = mat(b), type = kNorms[static_cast<int>(kind)]] {
+    return cv::norm(x, y, type);
+  });
+}
+
+Peer relativeNorm(View a, View b, View result, Norm kind) {
+  return storing(result, [x = mat(a), y = mat(b), type = kNorms[static_cast<int>(kind)]] {
+    return cv::norm(x, y, type | cv::NORM_RELATIVE);
+  });
+}
+
+Peer dotProduct(View a, View b, View result) {
+  return storing(result, [x = mat(a), y = mat(b)] { return x.dot(y); });
+}
+
+Peer meanAndDeviation(View src) {
+  return peer("opencv", [s = mat(src)] {
+    cv::Scalar mean, deviation;
+    cv::meanStdDev(s, mean, deviation);
+  });
 }
 
 }  // namespace bench::opencv

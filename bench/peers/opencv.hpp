@@ -77,4 +77,13 @@ enum class Flip { horizontal, vertical, both };
 [[gnu::weak]] Peer resizeNearest(View src, View dst);
 [[gnu::weak]] Peer resizeLinear(View src, View dst);
 
+// Stores a double. Of one image, of the differences of two, or of those beside the second's.
+enum class Norm { infinity, sum, squares };
+[[gnu::weak]] Peer norm(View src, View result, Norm kind);
+[[gnu::weak]] Peer normOfDifference(View a, View b, View result, Norm kind);
+[[gnu::weak]] Peer relativeNorm(View a, View b, View result, Norm kind);
+[[gnu::weak]] Peer dotProduct(View a, View b, View result);
+// Stores nothing.
+[[gnu::weak]] Peer meanAndDeviation(View src);
+
 }  // namespace bench::opencv

@@ -21,6 +21,7 @@ inline Doubles4 operator/(Doubles4 a, Doubles4 b) { return {_mm256_div_pd(a.v, b
 inline Floats4 squareRoot(Floats4 x) { return {_mm_sqrt_ps(x.v)}; }
 inline Floats8 squareRoot(Floats8 x) { return {_mm256_sqrt_ps(x.v)}; }
 inline Doubles4 squareRoot(Doubles4 x) { return {_mm256_sqrt_pd(x.v)}; }
+inline double squareRoot(double x) { return _mm_cvtsd_f64(_mm_sqrt_sd(_mm_setzero_pd(), _mm_set_sd(x))); }
 
 // The nearest integer, as a float, ties to even.
 inline Floats4 nearest(Floats4 x) { return {_mm_round_ps(x.v, kTiesToEven)}; }

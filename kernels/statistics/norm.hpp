@@ -30,6 +30,6 @@ template <Norm norm, typename T, typename Total, int channels>
 RelativeTotals relativeNorm(SourceRows a, SourceRows b, Extent pixels);
 
 // To the nearest double.
-NormTotals squareRoots(const NormTotals& totals);
+double squareRootOf(double x);
 
 }  // namespace lumi

@@ -23,10 +23,10 @@ class ByteDistances {
   using Lanes = Samples16<uint64_t>;
 
   Lanes none() const { return broadcast16<uint64_t>(0); }
-  void add(Lanes& lanes, const Byte* a, const Byte* b) const {
+  [[gnu::always_inline]] void add(Lanes& lanes, const Byte* a, const Byte* b) const {
     lanes = lanes + sumsOfDifferences(U8{load16(a)}, U8{load16(b)});
   }
-  void addTail(Lanes& lanes, size_t samples, const Byte* a, const Byte* b) const {
+  [[gnu::always_inline]] void addTail(Lanes& lanes, size_t samples, const Byte* a, const Byte* b) const {
     addFilled(*this, lanes, uint8_t{0}, samples, a, b);
   }
   void empty(const Lanes& lanes) {

@@ -52,7 +52,7 @@ struct DifferenceSquares {
 
 // Instructions that multiply words add the products of neighbours, so neighbours have to be of one channel:
 // samples are paired with others of the block that are whole pixels away. Of one channel all are as they
-// stand. Lane j of pairs i belongs to the channel of sample i * kPairs + j.
+// stand. Vector i has the pairs of the samples from i times half a vector on.
 template <typename T, int channels>
 struct Paired {
   using V = Samples16<T>;
@@ -90,7 +90,7 @@ class ByteSums {
   static constexpr size_t kMost = std::numeric_limits<Lane>::max() / (kInLane * kLargest);
 
   void clear() { std::fill(std::begin(sums_), std::end(sums_), broadcast16<Lane>(0)); }
-  void add(const V (&a)[kVectors], const V (&b)[kVectors]) {
+  [[gnu::always_inline]] void add(const V (&a)[kVectors], const V (&b)[kVectors]) {
     const Pairs x(a), y(b);
     for (size_t i = 0; i < kVectors; ++i) {
       addTo(2 * i % kPhases, multiplyAddPairs(low(x.of[i]), low(y.of[i])));
@@ -103,14 +103,21 @@ class ByteSums {
 
  private:
   void addTo(size_t phase, S32 sums) { sums_[phase] = sums_[phase] + as<Lane>(sums); }
+  // Of one channel it does not matter which half of the bytes is which; even and odd ones take fewer
+  // instructions than the first and the last eight.
+  static constexpr bool kInTurn = channels == 1 && std::is_unsigned_v<T>;
   static Words low(V x) {
-    if constexpr (std::is_signed_v<T>)
+    if constexpr (kInTurn)
+      return as<int16_t>(x) & broadcast16<int16_t>(UINT8_MAX);
+    else if constexpr (std::is_signed_v<T>)
       return widen<int16_t>(x);
     else
       return as<int16_t>(widenLow(x));
   }
   static Words high(V x) {
-    if constexpr (std::is_signed_v<T>)
+    if constexpr (kInTurn)
+      return as<int16_t>(shiftRight<8>(as<uint16_t>(x)));
+    else if constexpr (std::is_signed_v<T>)
       return widen<int16_t>(V{bytesFrom<8>(x.v)});
     else
       return as<int16_t>(widenHigh(x));
@@ -145,7 +152,7 @@ class WordSums {
     for (Phase& phase : phases_) phase = {broadcastQuad(0), broadcastQuad(0), zeros()};
     blocks_ = 0;
   }
-  void add(const V (&a)[kVectors], const V (&b)[kVectors]) {
+  [[gnu::always_inline]] void add(const V (&a)[kVectors], const V (&b)[kVectors]) {
     const Pairs x(a), y(b);
     for (size_t i = 0; i < kVectors; ++i)
       addPairs(phases_[i % kPhases], signedOf(x.of[i]), signedOf(y.of[i]));
@@ -161,8 +168,9 @@ class WordSums {
       store16(reinterpret_cast<Byte*>(shifted), phases_[k].shifted.v);
       for (size_t j = 0; j < 4; ++j) {
         const uint64_t sum = j % 2 == 1 ? odd[j / 2] : all[j / 2] - (odd[j / 2] << 32);
-        lanes[4 * k + j] = static_cast<int64_t>(sum) - pairs * kBias +
-                           (kShifted ? shifted[j] * (int64_t{1} << 15) + pairs * (int64_t{1} << 31) : 0);
+        lanes[4 * k + j] =
+            static_cast<int64_t>(sum) - pairs * kBias +
+            (kShifted ? shifted[j] * (int64_t{1} << (squares ? 16 : 15)) + pairs * (int64_t{1} << 31) : 0);
       }
     }
   }
@@ -175,14 +183,15 @@ class WordSums {
 
   static S32 zeros() { return broadcast16<int32_t>(0); }
   static S16 signedOf(V x) { return as<int16_t>(kShifted ? x ^ broadcast16(static_cast<T>(0x8000)) : x); }
-  static void addPairs(Phase& phase, S16 x, S16 y) {
+  [[gnu::always_inline]] static void addPairs(Phase& phase, S16 x, S16 y) {
     S32 sums = multiplyAddPairs(x, y);
     if (!squares) sums = sums + broadcast16(static_cast<int32_t>(kBias));
     phase.all = phase.all + Quads{sums.v};
     phase.odd = phase.odd + highHalves(Quads{sums.v});
     if (kShifted) {
       const S16 ones = broadcast16<int16_t>(1);
-      phase.shifted = phase.shifted + (multiplyAddPairs(x, ones) + multiplyAddPairs(y, ones));
+      const S32 sum = multiplyAddPairs(x, ones);
+      phase.shifted = phase.shifted + (squares ? sum : sum + multiplyAddPairs(y, ones));
     }
   }
 
@@ -190,6 +199,8 @@ class WordSums {
   size_t blocks_;
 };
 
+// What adds is inlined everywhere: lanes that a function takes by their address would stay in memory.
+//
 // Totals are of 64 bits and go around, or doubles, which add up lanes that have been emptied.
 template <typename F, typename T, int channels, typename Total>
 class IntegerProducts {
@@ -201,8 +212,8 @@ class IntegerProducts {
  public:
   using Sample = T;
   using Lanes = Sums;
-  static constexpr size_t kBlock = kVectors * (16 / sizeof(T)), kSets = kVectors == 1 ? 2 : 1,
-                          kMost = Sums::kMost;
+  static constexpr size_t kBlock = kVectors * (16 / sizeof(T)),
+                          kSets = sizeof(T) == 1 && kVectors == 1 ? 2 : 1, kMost = Sums::kMost;
 
   Lanes none() const {
     Lanes lanes;
@@ -210,7 +221,7 @@ class IntegerProducts {
     return lanes;
   }
   template <typename... At>
-  void add(Lanes& lanes, At... at) const {
+  [[gnu::always_inline]] void add(Lanes& lanes, At... at) const {
     Samples16<Factor> first[kVectors], second[kVectors];
     for (size_t i = 0; i < kVectors; ++i) {
       const auto factors = F::of(Samples16<T>{load16(at + 16 * i)}...);
@@ -220,7 +231,7 @@ class IntegerProducts {
     lanes.add(first, second);
   }
   template <typename... At>
-  void addTail(Lanes& lanes, size_t samples, At... at) const {
+  [[gnu::always_inline]] void addTail(Lanes& lanes, size_t samples, At... at) const {
     addFilled(*this, lanes, T{0}, samples, at...);
   }
   void empty(const Lanes& lanes) {
@@ -269,14 +280,14 @@ class FloatingProducts {
     return lanes;
   }
   template <typename... At>
-  void add(Lanes& lanes, At... at) const {
+  [[gnu::always_inline]] void add(Lanes& lanes, At... at) const {
     for (size_t i = 0; i < kVectors; ++i) {
       const auto factors = F::of(loadFloating<V, T>(at + i * kLanes * sizeof(T))...);
       lanes.of[i] = lanes.of[i] + factors.first * factors.second;
     }
   }
   template <typename... At>
-  void addTail(Lanes& lanes, size_t samples, At... at) const {
+  [[gnu::always_inline]] void addTail(Lanes& lanes, size_t samples, At... at) const {
     addFilled(*this, lanes, T{0}, samples, at...);
   }
   void empty(const Lanes& lanes) {

@@ -23,11 +23,11 @@ class Relative {
   };
 
   Lanes none() const { return {differences.none(), ofSecond.none()}; }
-  void add(Lanes& lanes, const uint8_t* a, const uint8_t* b) const {
+  [[gnu::always_inline]] void add(Lanes& lanes, const uint8_t* a, const uint8_t* b) const {
     differences.add(lanes.differences, a, b);
     ofSecond.add(lanes.ofSecond, b);
   }
-  void addTail(Lanes& lanes, size_t samples, const uint8_t* a, const uint8_t* b) {
+  [[gnu::always_inline]] void addTail(Lanes& lanes, size_t samples, const uint8_t* a, const uint8_t* b) {
     differences.addTail(lanes.differences, samples, a, b);
     ofSecond.addTail(lanes.ofSecond, samples, b);
   }

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+
 #include "kernels/simd/elementary.hpp"
 #include "kernels/simd/short_copy.hpp"
 #include "kernels/statistics/dot_prod.hpp"
@@ -24,53 +26,84 @@ VectorOf<T> weightOf(const T* weights, size_t row) {
     return broadcastDouble(weight);
 }
 
-// So many vectors of the result; load(row, i) gives the vector i of a row.
-template <size_t vectors, typename T, typename Load, typename Store>
-[[gnu::always_inline]] inline void addVectors(const T* const* rows, const T* weights, size_t count, Load load,
-                                              Store store) {
-  VectorOf<T> sums[vectors];
-  for (size_t i = 0; i < vectors; ++i) sums[i] = load(rows[0], i) * weightOf(weights, 0);
-  for (size_t k = 1; k < count; ++k) {
-    const VectorOf<T> weight = weightOf(weights, k);
-    for (size_t i = 0; i < vectors; ++i) sums[i] = sums[i] + load(rows[k], i) * weight;
-  }
-  for (size_t i = 0; i < vectors; ++i) store(i, bytesOf(sums[i]));
-}
-
 inline const Byte* bytesAt(const void* p) { return static_cast<const Byte*>(p); }
 inline Byte* bytesAt(void* p) { return static_cast<Byte*>(p); }
 
+// So many rows and their weights.
+template <typename T>
+struct Weighted {
+  const T* const* rows;
+  const T* weights;
+  size_t count;
+
+  Weighted part(size_t from, size_t most) const {
+    return {rows + from, weights + from, std::min(most, count - from)};
+  }
+};
+
+// Adds them to sums that there are, in their order.
 template <size_t vectors, typename T>
-[[gnu::always_inline]] inline void addBlock(const T* const* rows, const T* weights, size_t count, T* dst,
-                                            size_t from) {
-  const size_t at = from * sizeof(T);
-  addVectors<vectors>(
-      rows, weights, count,
-      [=](const T* row, size_t i) { return samplesOf<T>(load32(bytesAt(row) + at + 32 * i)); },
-      [=](size_t i, Bytes32 sums) { store32(bytesAt(dst) + at + 32 * i, sums); });
+[[gnu::always_inline]] inline void addTo(VectorOf<T>* sums, const Weighted<T>& w, size_t first, size_t at) {
+  for (size_t k = first; k < w.count; ++k) {
+    const VectorOf<T> weight = weightOf(w.weights, k);
+    const Byte* row = bytesAt(w.rows[k]) + at;
+    for (size_t i = 0; i < vectors; ++i) sums[i] = sums[i] + samplesOf<T>(load32(row + 32 * i)) * weight;
+  }
 }
+
+// So many vectors of the result, of all rows or of what the destination has and the rows.
+template <size_t vectors, bool isFirst, typename T>
+[[gnu::always_inline]] inline void addBlock(const Weighted<T>& w, T* dst, size_t from) {
+  const size_t at = from * sizeof(T);
+  VectorOf<T> sums[vectors];
+  for (size_t i = 0; i < vectors; ++i) {
+    if (isFirst)
+      sums[i] = samplesOf<T>(load32(bytesAt(w.rows[0]) + at + 32 * i)) * weightOf(w.weights, 0);
+    else
+      sums[i] = samplesOf<T>(load32(bytesAt(dst) + at + 32 * i));
+  }
+  addTo<vectors>(sums, w, isFirst ? 1 : 0, at);
+  for (size_t i = 0; i < vectors; ++i) store32(bytesAt(dst) + at + 32 * i, bytesOf(sums[i]));
+}
+
+template <bool isFirst, typename T>
+void addVectors(const Weighted<T>& w, T* dst, size_t width) {
+  constexpr size_t kVectors = 4, kBlock = kVectors * kLanes<T>;
+  size_t done = 0;
+  for (; done + kBlock <= width; done += kBlock) addBlock<kVectors, isFirst>(w, dst, done);
+  for (; done + kLanes<T> <= width; done += kLanes<T>) addBlock<1, isFirst>(w, dst, done);
+}
+
+// Of rows that are shorter than a vector.
+template <typename T>
+void addShortRows(const Weighted<T>& w, T* dst, size_t width) {
+  const size_t bytes = width * sizeof(T);
+  if (width >= kLanes<T>) __builtin_unreachable();
+  const auto weighted = [=](size_t k) {
+    T samples[kLanes<T>] = {};
+    copyShort(bytesAt(w.rows[k]), bytesAt(samples), bytes);
+    return samplesOf<T>(load32(bytesAt(samples))) * weightOf(w.weights, k);
+  };
+  VectorOf<T> sum = weighted(0);
+  for (size_t k = 1; k < w.count; ++k) sum = sum + weighted(k);
+  T sums[kLanes<T>];
+  store32(bytesAt(sums), bytesOf(sum));
+  copyShort(bytesAt(sums), bytesAt(dst), bytes);
+}
+
+// As many rows are read side by side; the destination keeps their sums meanwhile.
+constexpr size_t kRowsAtOnce = 8;
 
 }  // namespace
 
 template <typename T>
 void addWeightedRows(const T* const* rows, const T* weights, size_t count, T* dst, size_t width) {
-  constexpr size_t kVectors = 4, kBlock = kVectors * kLanes<T>;
-  size_t done = 0;
-  for (; done + kBlock <= width; done += kBlock) addBlock<kVectors>(rows, weights, count, dst, done);
-  for (; done + kLanes<T> <= width; done += kLanes<T>) addBlock<1>(rows, weights, count, dst, done);
-  if (done == width) return;
-  if (width >= kLanes<T>) return addBlock<1>(rows, weights, count, dst, width - kLanes<T>);
-  const size_t bytes = width * sizeof(T);
-  T sums[kLanes<T>];
-  addVectors<1>(
-      rows, weights, count,
-      [=](const T* row, size_t) {
-        T samples[kLanes<T>] = {};
-        copyShort(bytesAt(row), bytesAt(samples), bytes);
-        return samplesOf<T>(load32(bytesAt(samples)));
-      },
-      [&](size_t, Bytes32 made) { store32(bytesAt(sums), made); });
-  copyShort(bytesAt(sums), bytesAt(dst), bytes);
+  const Weighted<T> all{rows, weights, count};
+  if (width < kLanes<T>) return addShortRows(all, dst, width);
+  addVectors<true>(all.part(0, kRowsAtOnce), dst, width);
+  for (size_t k = kRowsAtOnce; k < count; k += kRowsAtOnce)
+    addVectors<false>(all.part(k, kRowsAtOnce), dst, width);
+  if (width % kLanes<T> != 0) addBlock<1, true>(all, dst, width - kLanes<T>);
 }
 
 template void addWeightedRows(const float* const*, const float*, size_t, float*, size_t);

@@ -1,0 +1,28 @@
+# SPDX-License-Identifier: MIT
+import math
+
+import demo
+
+
+class Norms(demo.PanelTest):
+    family = "statistics/norm"
+    panels = ("inf", "l1", "l2")
+
+    def setUp(self):
+        self.use_noise(53, 31)
+
+    def expect_rows(self, name, norm):
+        def differences(y, c):
+            pairs = zip(self.photo[53 * y:53 * (y + 1)], self.flipped()[53 * y:53 * (y + 1)])
+            return [abs(p[c] - q[c]) for p, q in pairs]
+        rows = [bytes(int(norm(differences(y, c))) for c in range(3)) for y in range(31)]
+        self.expect(name, 3, (row for row in rows for _ in range(53)))
+
+    def test_largest(self):
+        self.expect_rows("norm-inf", max)
+
+    def test_mean(self):
+        self.expect_rows("norm-l1", lambda d: sum(d) / 53)
+
+    def test_root_of_mean_square(self):
+        self.expect_rows("norm-l2", lambda d: math.sqrt(sum(x * x for x in d)) / math.sqrt(53))
