@@ -236,6 +236,59 @@ Peer histogram(View src, int bins, double lower, double upper) {
 Peer moments(View src, View total) {
   return peer("opencv", [s = mat(src), t = mat(total)]() mutable {
     t.at<float>(0) = static_cast<float>(cv::moments(s).m00);
+namespace {
+
+void storeDoubles(const View& results, const cv::Scalar& values) {
+  std::memcpy(results.bytes, values.val, static_cast<std::size_t>(results.rowBytes()));
+}
+
+// A sample of the view's type.
+void storeSample(const View& result, double value) {
+  const auto store = [&](auto sample) { std::memcpy(result.bytes, &sample, sizeof sample); };
+  switch (result.depth) {
+    case Depth::u8:
+      return store(static_cast<Lum8u>(value));
+    case Depth::u16:
+      return store(static_cast<Lum16u>(value));
+    case Depth::s16:
+      return store(static_cast<Lum16s>(value));
+    case Depth::s32:
+      return store(static_cast<Lum32s>(value));
+    case Depth::f32:
+      return store(static_cast<Lum32f>(value));
+  }
+}
+
+}  // namespace
+
+Peer sum(View src, View sums) {
+  return peer("opencv", [s = mat(src), sums] { storeDoubles(sums, cv::sum(s)); });
+}
+
+Peer mean(View src, View means) {
+  return peer("opencv", [s = mat(src), means] { storeDoubles(means, cv::mean(s)); });
+}
+
+Peer leastAndGreatest(View src, View min, View max) {
+  return peer("opencv", [s = mat(src), min, max] {
+    double least, greatest;
+    cv::minMaxLoc(s, &least, &greatest);
+    storeSample(min, least);
+    storeSample(max, greatest);
+  });
+}
+
+Peer extremePlace(View src, View value, View x, View y, bool greatest) {
+  return peer("opencv", [=, s = mat(src)] {
+    double extreme;
+    cv::Point place;
+    if (greatest)
+      cv::minMaxLoc(s, nullptr, &extreme, nullptr, &place);
+    else
+      cv::minMaxLoc(s, &extreme, nullptr, &place, nullptr);
+    storeSample(value, extreme);
+    storeSample(x, place.x);
+    storeSample(y, place.y);
   });
 }
 

@@ -59,6 +59,12 @@ enum class Logic { conjunction, disjunction, exclusive };
 [[gnu::weak]] Peer histogram(View src, int bins, double lower, double upper);
 // All moments of one channel up to the third order; stores the first of them, its total.
 [[gnu::weak]] Peer moments(View src, View total);
+// Doubles, one for each channel, in results of eight bytes each.
+[[gnu::weak]] Peer sum(View src, View sums);
+[[gnu::weak]] Peer mean(View src, View means);
+// Samples of one channel; x and y are Lum32s.
+[[gnu::weak]] Peer leastAndGreatest(View src, View min, View max);
+[[gnu::weak]] Peer extremePlace(View src, View value, View x, View y, bool greatest);
 // To the destination's type.
 [[gnu::weak]] Peer convert(View src, View dst);
 enum class Border { constant, replicate, wrap };

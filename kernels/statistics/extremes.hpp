@@ -113,7 +113,7 @@ struct ExtremeLanes {
   // Each channel at a value of its own.
   static ExtremeLanes at(const T* values) {
     T block[kBlock];
-    for (size_t i = 0; i < kBlock; ++i) block[i] = values[i % channels];
+    for (size_t i = 0; i < kBlock; i += channels) std::memcpy(block + i, values, channels * sizeof(T));
     ExtremeLanes lanes;
     for (size_t i = 0; i < kVectors; ++i)
       lanes.of[i] = Vectors::load(reinterpret_cast<const Byte*>(block) + i * sizeof(V));
@@ -142,16 +142,18 @@ struct ExtremeLanes {
   template <typename Kind>
   [[gnu::noinline]] ChannelTotals<T> channelsBy() const {
     T block[kBlock];
+    size_t folded = channels;
     if constexpr (kVectors == 1) {
       store16(reinterpret_cast<Byte*>(block), Vectors::template folded<channels * sizeof(T), Kind>(of[0]));
     } else {
       for (size_t i = 0; i < kVectors; ++i)
         Vectors::store(reinterpret_cast<Byte*>(block) + i * sizeof(V), of[i]);
-      for (size_t i = channels; i < kBlock; i += channels)
-        for (size_t c = 0; c < channels; ++c) block[c] = Kind::betterOf(block[i + c], block[c]);
+      folded = kBlock;
     }
     ChannelTotals<T> result{};
     std::copy(block, block + channels, result.of);
+    for (size_t i = channels; i < folded; i += channels)
+      for (size_t c = 0; c < channels; ++c) result.of[c] = Kind::betterOf(block[i + c], result.of[c]);
     return result;
   }
 };

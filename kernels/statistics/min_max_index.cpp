@@ -10,21 +10,26 @@ namespace {
 
 using namespace simd;
 
-// The first pixel of a row whose sample of a channel has a value, and 0 if there is none.
+// The places of one channel in a block: those of channel c from sample channels - c on.
 template <typename T, int channels>
-int firstIn(const Byte* row, size_t pixels, size_t channel, T value) {
+constexpr auto kChannelMarks =
+    pixelMask<channels * sizeof(T), sizeof(T), (ExtremeLanes<T, channels>::kBlock + channels) * sizeof(T)>();
+
+// The first pixel of a row whose sample of a channel is that of `wanted`, and 0 if there is none.
+template <typename T, int channels>
+int firstIn(const Byte* row, size_t pixels, size_t channel, const ExtremeLanes<T, channels>& wanted,
+            T value) {
   using Lanes = ExtremeLanes<T, channels>;
   using Vectors = typename Lanes::Vectors;
   constexpr size_t kBlockPixels = Lanes::kBlock / channels;
-  T marks[4]{};
-  std::memset(marks + channel, 0xFF, sizeof *marks);
-  const Lanes wanted = Lanes::at(value), ofChannel = Lanes::at(marks);
+  const Byte* const marks = kChannelMarks<T, channels>.bytes + (channels - channel) * sizeof(T);
   size_t x = 0;
   for (; x + kBlockPixels <= pixels; x += kBlockPixels) {
     bool found = false;
     for (size_t i = 0; i < Lanes::kVectors; ++i) {
-      const auto block = Vectors::load(row + (x * channels * sizeof(T) + i * sizeof(typename Lanes::V)));
-      found = found | anySet(bytesOf(isEqual(block, wanted.of[i]) & ofChannel.of[i]));
+      const size_t at = i * sizeof(typename Lanes::V);
+      const auto equal = isEqual(Vectors::load(row + (x * channels * sizeof(T) + at)), wanted.of[i]);
+      found = found | anySet(bytesOf(equal & Vectors::load(marks + at)));
     }
     if (found) break;
   }
@@ -79,7 +84,7 @@ class Best {
     PlacedExtremes<T> result{};
     for (size_t c = 0; c < used_; ++c) {
       result.value.of[c] = values_[c];
-      result.x.of[c] = firstIn<T, channels>(src.row(y_[c]), pixels, c, values_[c]);
+      result.x.of[c] = firstIn<T, channels>(src.row(y_[c]), pixels, c, lanes_, values_[c]);
       result.y.of[c] = y_[c];
     }
     return result;

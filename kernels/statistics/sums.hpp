@@ -69,29 +69,27 @@ struct SumLanes<uint8_t, 4> : BytesInWords {
   }
 };
 
-// Words in pairs of one channel, in lanes of dwords. A pair comes to at least -2^16.
+// Words in pairs of one channel, in lanes of dwords: two of them at a time, each at least -2^16.
 template <int channels>
 struct SumLanes<int16_t, channels> {
   using Lane = int32_t;
   // Vectors after which the channels are the same again.
   static constexpr size_t kPeriod = channels == 3 ? 3 : 1;
-  static constexpr size_t kVectors = channels == 1 ? 1 : 2 * kPeriod, kLanes = kPeriod;
-  static constexpr size_t kSets = channels == 1 ? 4 : channels == 3 ? 1 : 2;
-  static constexpr size_t kMost = (channels == 1 ? 1 << 15 : 1 << 14) - 1;
+  static constexpr size_t kVectors = 2 * kPeriod, kLanes = kPeriod, kSets = channels == 3 ? 1 : 2;
+  static constexpr size_t kMost = (1 << 14) - 1;
   static constexpr size_t channelOf(size_t lane) { return lane % channels; }
 
   template <typename Value>
   static void add(S32* lanes, Value value) {
-    const auto addPairs = [&](S32& lane, S16 pairs) {
-      lane = lane + multiplyAddPairs(pairs, broadcast16<int16_t>(1));
-    };
+    const auto pairs = [](S16 x) { return multiplyAddPairs(x, broadcast16<int16_t>(1)); };
     if constexpr (channels == 1) {
-      addPairs(lanes[0], value(0));
+      lanes[0] = lanes[0] + (pairs(value(0)) + pairs(value(1)));
     } else {
       for (size_t i = 0; i < kPeriod; ++i) {
         const S16 a = value(i), b = value(i + kPeriod);
-        addPairs(lanes[2 * i % kLanes], interleaveLow(a, b));
-        addPairs(lanes[(2 * i + 1) % kLanes], interleaveHigh(a, b));
+        S32 &first = lanes[2 * i % kLanes], &second = lanes[(2 * i + 1) % kLanes];
+        first = first + pairs(interleaveLow(a, b));
+        second = second + pairs(interleaveHigh(a, b));
       }
     }
   }
