@@ -122,7 +122,7 @@ class IntegerSums {
   }
   template <typename... At>
   void addTail(Lanes& lanes, size_t samples, At... at) {
-    fillers_ += kBlock - samples;
+    fillers_ += (kBlock - samples) / channels;
     addFilled(*this, lanes, T{0}, samples, at...);
   }
   void empty(const Lanes& lanes) {
@@ -131,13 +131,12 @@ class IntegerSums {
     for (size_t i = 0; i < L::kLanes; ++i) store16(reinterpret_cast<Byte*>(values) + 16 * i, lanes.of[i].v);
     for (size_t i = 0; i < count; ++i) totals_.of[L::channelOf(i)] += static_cast<uint64_t>(values[i]);
   }
-  // Of so many samples.
-  ChannelTotals<double> totals(Extent samples) const {
+  // Of so many pixels.
+  ChannelTotals<double> totals(Extent pixels) const {
     ChannelTotals<double> result{};
-    const uint64_t lost =
-        (uint64_t{samples.length} * static_cast<uint64_t>(samples.rows) + fillers_) / channels << 15;
+    const uint64_t taken = uint64_t{pixels.length} * static_cast<uint64_t>(pixels.rows) + fillers_;
     for (size_t c = 0; c < channels; ++c) {
-      const uint64_t total = totals_.of[c] + (kLowered ? lost : 0);
+      const uint64_t total = totals_.of[c] + (kLowered ? taken << 15 : 0);
       result.of[c] = std::is_signed_v<Value> ? static_cast<double>(static_cast<int64_t>(total))
                                              : static_cast<double>(total);
     }
@@ -154,7 +153,7 @@ class IntegerSums {
 
   F f_;
   ChannelTotals<uint64_t> totals_{};
-  uint64_t fillers_ = 0;
+  uint64_t fillers_ = 0;  // pixels
 };
 
 // How floats join lanes of V: vectors of lanes, and how many vectors of a block are added up before they join
@@ -231,7 +230,7 @@ template <typename T, typename Value, int channels, typename F, typename... Imag
 ChannelTotals<double> integerSums(const F& f, Extent pixels, Image... images) {
   IntegerSums<T, Value, channels, F> sums(f);
   reduceRows(sums, pixels.times(channels), images...);
-  return sums.totals(pixels.times(channels));
+  return sums.totals(pixels);
 }
 
 // Sums of floats by lanes of V that are kept over all rows.
