@@ -20,10 +20,13 @@
 #include "lumi/div.h"
 #include "lumi/lut.h"
 #include "lumi/lut_palette.h"
+#include "lumi/min_max.h"
+#include "lumi/min_max_index.h"
 #include "lumi/mirror.h"
 #include "lumi/mul.h"
 #include "lumi/set.h"
 #include "lumi/shift.h"
+#include "lumi/sum.h"
 #include "lumi/threshold.h"
 #include "lumi/transpose.h"
 #include "support/core_guard.hpp"
@@ -164,6 +167,24 @@ TEST(Paths, RowsThatTouchRunAsOne) {
   EXPECT_EQ(adds(39, 40, 3), 0);
   EXPECT_EQ(adds(40, 39, 3), 0);
   EXPECT_EQ(adds(39, 39, 1), 0);
+}
+
+// Not where rows behind a stop must not be read, nor where each row has a sum of its own.
+TEST(Paths, ReductionsRunAsOneRowWhereNoRowMayStop) {
+  const std::vector<Lum8u> bytes(39 * 3, 7);
+  const std::vector<Lum32f> floats(4 * 20 * 3, 1);
+  Lum64f sums[4];
+  Lum8u least[4], greatest[4];
+  Lum32s x[4], y[4];
+  const auto fused = [](const auto& call) { return taken(Path::FusedRows, call); };
+  EXPECT_EQ(fused([&] { return lumiSum_8u_C1R(bytes.data(), 39, {39, 3}, sums); }), 1);
+  EXPECT_EQ(fused([&] { return lumiSum_8u_C1R(bytes.data(), 39, {38, 3}, sums); }), 0);
+  EXPECT_EQ(fused([&] { return lumiSum_32f_C4R(floats.data(), 320, {20, 3}, sums, 1); }), 1);
+  EXPECT_EQ(fused([&] { return lumiSum_32f_AC4R(floats.data(), 320, {20, 3}, sums, 2); }), 1);
+  EXPECT_EQ(fused([&] { return lumiSum_32f_AC4R(floats.data(), 320, {20, 3}, sums, 0); }), 0);
+  EXPECT_EQ(fused([&] { return lumiMinMax_8u_C3R(bytes.data(), 39, {13, 3}, least, greatest); }), 1);
+  EXPECT_EQ(fused([&] { return lumiMin_8u_C1R(bytes.data(), 39, {39, 3}, least); }), 0);
+  EXPECT_EQ(fused([&] { return lumiMaxIndx_8u_C3R(bytes.data(), 39, {13, 3}, greatest, x, y); }), 0);
 }
 
 TEST(Paths, LargeConversionsBypassTheCache) {

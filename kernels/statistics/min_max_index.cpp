@@ -61,7 +61,7 @@ class Best {
     extremes.addRow(samples, row);
     const Lanes lanes = extremes.template lanes<Kind>();
     const bool beaten = lanes.differsFrom(lanes_);
-    lanes_ = lanes;
+    if (beaten) lanes_ = lanes;  // else rows would wait for one another
     return beaten;
   }
   // After a row that was better.
