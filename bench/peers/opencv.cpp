@@ -236,6 +236,9 @@ Peer histogram(View src, int bins, double lower, double upper) {
 Peer moments(View src, View total) {
   return peer("opencv", [s = mat(src), t = mat(total)]() mutable {
     t.at<float>(0) = static_cast<float>(cv::moments(s).m00);
+  });
+}
+
 namespace {
 
 void storeDoubles(const View& results, const cv::Scalar& values) {
