@@ -49,13 +49,13 @@ auto distances() {
 }
 
 template <typename Reduction>
-NormTotals totalsOf(const Reduction& sums, Extent samples) {
+NormTotals totalsOf(const Reduction& sums, Extent pixels) {
   if constexpr (std::is_same_v<typename Reduction::Sample, float>) {
     NormTotals result{};
     std::copy(std::begin(sums.totals().of), std::end(sums.totals().of), result.of);
     return result;
   } else {
-    return sums.totals(samples);
+    return sums.totals(pixels);
   }
 }
 
@@ -65,14 +65,14 @@ template <Norm norm, typename T, typename Total, int channels>
 NormTotals normOfImage(SourceRows src, Extent pixels) {
   Sums<T, Total, channels, Magnitude> sums{Magnitude()};
   reduceRows(sums, pixels.times(channels), src);
-  return totalsOf(sums, pixels.times(channels));
+  return totalsOf(sums, pixels);
 }
 
 template <Norm norm, typename T, typename Total, int channels>
 NormTotals normOfDifferences(SourceRows a, SourceRows b, Extent pixels) {
   auto sums = distances<T, Total, channels>();
   reduceRows(sums, pixels.times(channels), a, b);
-  return totalsOf(sums, pixels.times(channels));
+  return totalsOf(sums, pixels);
 }
 
 template <Norm norm, typename T, typename Total, int channels>
@@ -81,8 +81,7 @@ RelativeTotals relativeNorm(SourceRows a, SourceRows b, Extent pixels) {
   Relative<decltype(distances<T, Total, channels>()), OfSecond> sums{distances<T, Total, channels>(),
                                                                      OfSecond(Magnitude())};
   reduceRows(sums, pixels.times(channels), a, b);
-  return {totalsOf(sums.differences, pixels.times(channels)),
-          totalsOf(sums.ofSecond, pixels.times(channels))};
+  return {totalsOf(sums.differences, pixels), totalsOf(sums.ofSecond, pixels)};
 }
 
 #define LUMI_IMAGE(T, Total, channels) \
