@@ -55,7 +55,13 @@ template <typename Reduction, typename... At>
   add(filled(at)...);
 }
 
-// The sets of lanes of one call, and how much they hold.
+// So many samples of so many rows.
+struct Tile {
+  size_t length;
+  int rows;
+};
+
+// The sets of lanes of a tile.
 template <typename Reduction>
 class LaneSets {
   using Lanes = typename Reduction::Lanes;
@@ -70,23 +76,25 @@ class LaneSets {
   LaneSets& operator=(const LaneSets&) = delete;
   ~LaneSets() { empty(kEach); }
 
+  // What lanes hold. Of a row a set takes, besides its share of the rounds, at most one block and the tail.
+  static Tile tileOf(Extent samples) {
+    if constexpr (kMost == 0) {
+      return {samples.length, samples.rows};
+    } else {
+      static_assert(kMost > 2);
+      const size_t length = std::min(samples.length, (kMost - 2) * kRound),
+                   rows = kMost / (length / kRound + 2);
+      return {length, static_cast<int>(std::min(rows, static_cast<size_t>(samples.rows)))};
+    }
+  }
+
   // A row of each image.
   template <typename... At>
   [[gnu::always_inline]] void addRow(size_t samples, At... at) {
-    if constexpr (kMost == 0) {
-      addPart(samples, at...);
-    } else {
-      // Besides its share of the rounds, a set takes at most one block more and the tail.
-      static_assert(kMost > 2);
-      for (;;) {
-        if (kMost - held_ < 3) emptyAll();
-        const size_t part = std::min(samples, (kMost - held_ - 2) * kRound);
-        held_ += part / kRound + 2;
-        addPart(part, at...);
-        if ((samples -= part) == 0) return;
-        ((at += part * sizeof(Sample)), ...);
-      }
-    }
+    size_t done = 0;
+    for (; done + kRound <= samples; done += kRound) addRound(kEach, (at + done * sizeof(Sample))...);
+    done += addBlocks(kEach, samples - done, (at + done * sizeof(Sample))...);
+    if (done < samples) reduction_.addTail(sets_[0], samples - done, (at + done * sizeof(Sample))...);
   }
 
  private:
@@ -97,19 +105,6 @@ class LaneSets {
   template <size_t... i>
   void empty(std::index_sequence<i...>) {
     (reduction_.empty(sets_[i]), ...);
-  }
-  void emptyAll() {
-    empty(kEach);
-    clear(kEach);
-    held_ = 0;
-  }
-
-  template <typename... At>
-  [[gnu::always_inline]] void addPart(size_t samples, At... at) {
-    size_t done = 0;
-    for (; done + kRound <= samples; done += kRound) addRound(kEach, (at + done * sizeof(Sample))...);
-    done += addBlocks(kEach, samples - done, (at + done * sizeof(Sample))...);
-    if (done < samples) reduction_.addTail(sets_[0], samples - done, (at + done * sizeof(Sample))...);
   }
   template <size_t... set, typename... At>
   [[gnu::always_inline]] void addRound(std::index_sequence<set...>, At... at) {
@@ -129,15 +124,24 @@ class LaneSets {
 
   Reduction& reduction_;
   Lanes sets_[kSets];
-  size_t held_ = 0;
 };
 
-// Reduces all rows; then the reduction has the totals.
+// Reduces all rows, by tiles that lanes hold; then the reduction has the totals.
 template <typename Reduction, typename... Image>
 void reduceRows(Reduction& reduction, Extent samples, Image... images) {
-  LaneSets<Reduction> sets(reduction);
-  walkRows(
-      samples.rows, [&](auto... row) { sets.addRow(samples.length, row...); }, images...);
+  using Sets = LaneSets<Reduction>;
+  const Tile tile = Sets::tileOf(samples);
+  for (int y = 0; y < samples.rows;) {
+    const int rows = std::min(tile.rows, samples.rows - y);
+    for (size_t x = 0; x < samples.length; x += tile.length) {
+      const size_t length = std::min(tile.length, samples.length - x);
+      Sets sets(reduction);
+      walkRows(
+          rows, [&](auto... row) { sets.addRow(length, row...); },
+          SourceRows{images.row(y) + x * sizeof(typename Reduction::Sample), images.step}...);
+    }
+    y += rows;
+  }
 }
 
 }  // namespace lumi
