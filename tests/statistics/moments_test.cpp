@@ -187,11 +187,11 @@ template <>
 struct Api<Lum64s> {
   static constexpr auto init = lumiMomentInit_64s;
   static constexpr auto scan = lumiMoments64s_8u_C1R;
-  static constexpr auto spatial = lumiGetSpatialMoment_64s;
-  static constexpr auto central = lumiGetCentralMoment_64s;
-  static constexpr auto normalSpatial = lumiGetNormalizedSpatialMoment_64s;
-  static constexpr auto normalCentral = lumiGetNormalizedCentralMoment_64s;
-  static constexpr auto hu = lumiGetHuMoments_64s;
+  [[maybe_unused]] static constexpr auto spatial = lumiGetSpatialMoment_64s;
+  [[maybe_unused]] static constexpr auto central = lumiGetCentralMoment_64s;
+  [[maybe_unused]] static constexpr auto normalSpatial = lumiGetNormalizedSpatialMoment_64s;
+  [[maybe_unused]] static constexpr auto normalCentral = lumiGetNormalizedCentralMoment_64s;
+  [[maybe_unused]] static constexpr auto hu = lumiGetHuMoments_64s;
 };
 
 // An image and its state.
