@@ -65,6 +65,8 @@ bool isRefusedHere(const ExportRow& row, LumStatus status) {
 
 void callAll(int width, int misalignment) {
   for (const ExportRow* row : regularRows()) {
+    // What these allocate would stay; the tests of objects call them.
+    if (std::string(row->operation).find("InitAlloc") != std::string::npos) continue;
     const Outcome outcome = invoke(*row, runningArguments(*row, width).data(), misalignment);
     ASSERT_TRUE(outcome.status >= lumStatusOk || isRefusedHere(*row, outcome.status))
         << row->name << ": " << outcome.status;

@@ -93,11 +93,11 @@ model::Norm describe(Member& m, const std::string& operation) {
   return norm;
 }
 
-template <typename T>
-void describeImage(Member& m, const std::string& operation) {
+template <typename T, typename ImagesOf>
+void describeSums(Member& m, const std::string& operation, ImagesOf imagesOf) {
   const Norm norm = describe<T>(m, operation);
   m.model = [=, stored = m.channels.src, used = m.channels.moved](const Call& c) {
-    const model::OfOne of{c.srcImage()};
+    const auto of = imagesOf(c);
     if constexpr (std::is_same_v<T, Lum32f>)
       if (norm != Norm::Inf)
         return inPrecisionOf(c.numbers[0], [&](auto v) {
@@ -108,17 +108,15 @@ void describeImage(Member& m, const std::string& operation) {
 }
 
 template <typename T>
+void describeImage(Member& m, const std::string& operation) {
+  describeSums<T>(m, operation, [](const Call& c) { return model::OfOne{c.srcImage()}; });
+}
+
+template <typename T>
 void describeDifferences(Member& m, const std::string& operation) {
-  const Norm norm = describe<T>(m, operation);
-  m.model = [=, stored = m.channels.src, used = m.channels.moved](const Call& c) {
-    const model::OfDifferences of{c.srcImage(), c.src2Image()};
-    if constexpr (std::is_same_v<T, Lum32f>)
-      if (norm != Norm::Inf)
-        return inPrecisionOf(c.numbers[0], [&](auto v) {
-          return storeSums<decltype(v)>(norm, c, of, stored, used), lumStatusOk;
-        });
-    return storeExact<T>(norm, c, of, stored, used), LumStatus{lumStatusOk};
-  };
+  describeSums<T>(m, operation, [](const Call& c) {
+    return model::OfDifferences{c.srcImage(), c.src2Image()};
+  });
 }
 
 template <typename T>
