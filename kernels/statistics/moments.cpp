@@ -82,6 +82,20 @@ struct GroupSums {
   typename L::W of[L::kWide][kSums];
 };
 
+// Four lanes of a sum, from the first one on, as doubles.
+inline Doubles4 fourLanes(const GroupSums<uint8_t>& sums, int first, size_t k) {
+  return doublesOf(as<int32_t>(sums.of[first / 4][k]) ^ broadcast16(INT32_MIN)) + broadcastDouble(0x1p31);
+}
+inline Doubles4 fourLanes(const GroupSums<uint16_t>& sums, int, size_t k) {
+  uint64_t lanes[4];
+  store16(reinterpret_cast<Byte*>(lanes), sums.of[0][k].v);
+  store16(reinterpret_cast<Byte*>(lanes + 2), sums.of[1][k].v);
+  double doubles[4];
+  for (int i = 0; i < 4; ++i) doubles[i] = static_cast<double>(static_cast<int64_t>(lanes[i]));  // below 2^61
+  return loadDoubles4(doubles);
+}
+inline Doubles4 fourLanes(const GroupSums<float>& sums, int, size_t k) { return sums.of[0][k]; }
+
 // Adds the samples of one vector, in each of the rows. From the last row to the first, each sum takes the one
 // of the order below as it was: a sample is then added C(r, q) times to the sum of order q. Groups do the
 // same.
@@ -108,48 +122,116 @@ template <typename T>
   }
 }
 
+// A number in all lanes, where N has lanes.
+template <typename N>
+N constant(int x) {
+  if constexpr (std::is_same_v<N, Doubles4>)
+    return broadcastDouble(x);
+  else
+    return static_cast<N>(x);
+}
+
 // From sums with C(i, k) for k = 0 to 3 to such with i^k. Nothing is subtracted here or below.
 template <typename N>
-void toPowers(N* e, int count) {
-  if (count > 3) e[3] = N{6} * e[3] + N{6} * e[2] + e[1];
-  if (count > 2) e[2] = N{2} * e[2] + e[1];
+[[gnu::always_inline]] inline void toPowers(N* e, int count) {
+  if (count > 3) e[3] = constant<N>(6) * (e[3] + e[2]) + e[1];
+  if (count > 2) e[2] = constant<N>(2) * e[2] + e[1];
 }
 
 // From sums with i^k to such with (origin + scale * i)^k.
 template <typename N>
-void shift(N* e, int count, N origin, N scale) {
+[[gnu::always_inline]] inline void shift(N* e, int count, const N& origin, const N& scale) {
   if (count > 1) e[1] = scale * e[1];
   if (count > 2) e[2] = scale * scale * e[2];
   if (count > 3) e[3] = scale * scale * scale * e[3];
-  if (count > 3) e[3] = e[3] + N{3} * origin * (e[2] + origin * e[1]) + origin * origin * origin * e[0];
-  if (count > 2) e[2] = e[2] + origin * (N{2} * e[1] + origin * e[0]);
+  if (count > 3)
+    e[3] = e[3] + constant<N>(3) * origin * (e[2] + origin * e[1]) + origin * origin * origin * e[0];
+  if (count > 2) e[2] = e[2] + origin * (constant<N>(2) * e[1] + origin * e[0]);
   if (count > 1) e[1] = e[1] + origin * e[0];
 }
 
-// The sums of a lane, so many bytes apart, join the moments of its channel: its group 0 is column x, its row
-// 0 is y. A function by itself, since inlined GCC makes vectors of it and leaves their upper halves behind.
-template <typename Sum, typename N>
-[[gnu::noinline]] void addLane(const Byte* sums, size_t apart, int x, int y, int groupPixels,
-                               ChannelMoments<N>& moments) {
+// From the sums of a lane to its moments, those of x^p * y^q at 4 * q + p: its group 0 is column x, its row 0
+// is y.
+template <typename N>
+[[gnu::always_inline]] inline void toMoments(const N (&sums)[kSums], const N& x, const N& y, int groupPixels,
+                                             N (&moments)[16]) {
   N down[4][4];  // of p, q: the sums of a column of moments
   for (int q = 0; q < 4; ++q) {
-    N along[4] = {};
+    N along[4];
     const int count = 4 - q;
-    for (int a = 0; a < count; ++a) {
-      Sum sum;
-      std::memcpy(&sum, sums + apart * static_cast<size_t>(kFirst[q] + a), sizeof sum);
-      along[a] = static_cast<N>(sum);
-    }
+    for (int a = 0; a < count; ++a) along[a] = sums[kFirst[q] + a];
     toPowers(along, count);
-    shift(along, count, static_cast<N>(x), static_cast<N>(groupPixels));
+    shift(along, count, x, constant<N>(groupPixels));
     for (int p = 0; p < count; ++p) down[p][q] = along[p];
   }
   for (int p = 0; p < 4; ++p) {
     toPowers(down[p], 4 - p);
-    shift(down[p], 4 - p, static_cast<N>(y), N{1});
-    for (int q = 0; p + q < 4; ++q) moments.of[4 * q + p] += down[p][q];
+    shift(down[p], 4 - p, y, constant<N>(1));
+    for (int q = 0; p + q < 4; ++q) moments[4 * q + p] = down[p][q];
   }
 }
+
+// Collects the moments of lanes, which lie in the order of the samples of a group.
+template <typename T, typename N, int stored>
+class LaneMoments {
+  using Sum = typename MomentLanes<T>::Sum;
+
+ public:
+  // Of this sample of a group, which is that lane of the sums.
+  [[gnu::noinline]] void add(int sample, const GroupSums<T>& sums, int lane, int x, int y) {
+    constexpr int together = MomentLanes<T>::kLanes / MomentLanes<T>::kWide;
+    N of[kSums], moments[16];
+    for (size_t k = 0; k < kSums; ++k) {
+      Sum all[together];
+      std::memcpy(all, &sums.of[lane / together][k], sizeof all);
+      of[k] = static_cast<N>(all[lane % together]);
+    }
+    toMoments(of, static_cast<N>(x + sample / stored), static_cast<N>(y), MomentLanes<T>::kLanes, moments);
+    for (int p = 0; p < 4; ++p)
+      for (int q = 0; p + q < 4; ++q) totals_[sample % stored].of[4 * q + p] += moments[4 * q + p];
+  }
+  void store(int used, ChannelMoments<N>* moments) const { std::copy(totals_, totals_ + used, moments); }
+
+ private:
+  ChannelMoments<N> totals_[stored] = {};
+};
+
+// As doubles, four lanes at once.
+template <typename T, int stored>
+class LaneMoments<T, double, stored> {
+  static constexpr int kPatterns =
+      stored == 3 ? 3 : 1;  // vectors after which the channels are the same again
+
+ public:
+  LaneMoments() { std::fill(&totals_[0][0], &totals_[0][0] + kPatterns * 16, Doubles4{}); }
+
+  // From this sample of a group on, which is that lane of the sums.
+  [[gnu::noinline]] void add(int sample, const GroupSums<T>& sums, int lane, int x, int y) {
+    double columns[4];
+    for (int i = 0; i < 4; ++i) columns[i] = x + (sample + i) / stored;
+    Doubles4 of[kSums], moments[16];
+    for (size_t k = 0; k < kSums; ++k) of[k] = fourLanes(sums, lane, k);
+    toMoments(of, loadDoubles4(columns), broadcastDouble(y), MomentLanes<T>::kLanes, moments);
+    auto& totals = totals_[sample / 4 % kPatterns];
+    for (int p = 0; p < 4; ++p)
+      for (int q = 0; p + q < 4; ++q) totals[4 * q + p] = totals[4 * q + p] + moments[4 * q + p];
+  }
+  void store(int used, ChannelMoments<double>* moments) const {
+    for (int c = 0; c < used; ++c) moments[c] = {};
+    for (int i = 0; i < 4 * kPatterns; ++i) {
+      if (i % stored >= used) continue;
+      for (int p = 0; p < 4; ++p)
+        for (int q = 0; p + q < 4; ++q) {
+          double lanes[4];
+          store32(reinterpret_cast<Byte*>(lanes), bytesOf(totals_[i / 4][4 * q + p]));
+          moments[i % stored].of[4 * q + p] += lanes[i % 4];
+        }
+    }
+  }
+
+ private:
+  Doubles4 totals_[kPatterns][16];
+};
 
 // A part of a strip: so many pixels of each of its rows, from column x and row y on.
 struct Part {
@@ -166,7 +248,7 @@ class Scan {
   static constexpr int kPixelBytes = static_cast<int>(sizeof(T)) * stored;
 
  public:
-  Scan(int used, ChannelMoments<N>* moments) : used_(used), moments_(moments) {}
+  void store(int used, ChannelMoments<N>* moments) const { moments_.store(used, moments); }
 
   void add(const Part& part) {
     for (auto& group : sums_)
@@ -191,18 +273,14 @@ class Scan {
     addGroup(copies, kGroupBytes, part.rows);
   }
   void join(const Part& part) {
-    constexpr int kSumsOfVector = L::kLanes / L::kWide;
-    for (int i = 0; i < stored * L::kLanes; ++i) {
-      if (i % stored >= used_) continue;
-      const auto& wide = sums_[i / L::kLanes].of[i % L::kLanes / kSumsOfVector];
-      const size_t lane = sizeof(typename L::Sum) * static_cast<size_t>(i % kSumsOfVector);
-      addLane<typename L::Sum>(reinterpret_cast<const Byte*>(wide) + lane, sizeof wide[0],
-                               part.x + i / stored, part.y, L::kLanes, moments_[i % stored]);
+    for (int v = 0; v < stored; ++v) {
+      constexpr int together = std::is_same_v<N, double> ? 4 : 1;
+      for (int lane = 0; lane < L::kLanes; lane += together)
+        moments_.add(v * L::kLanes + lane, sums_[v], lane, part.x, part.y);
     }
   }
 
-  int used_;
-  ChannelMoments<N>* moments_;
+  LaneMoments<T, N, stored> moments_;
   GroupSums<T> sums_[stored];
 };
 
@@ -210,7 +288,7 @@ template <typename T, typename N, int stored>
 void scan(SourceRows src, Extent pixels, int used, ChannelMoments<N>* moments) {
   using L = MomentLanes<T>;
   constexpr int kColumns = L::kLanes * L::kGroups;
-  Scan<T, N, stored> scan(used, moments);
+  Scan<T, N, stored> scan;
   const int width = static_cast<int>(pixels.length);
   for (int y = 0; y < pixels.rows; y += L::kRows) {
     const int rows = std::min(L::kRows, pixels.rows - y);
@@ -223,13 +301,13 @@ void scan(SourceRows src, Extent pixels, int used, ChannelMoments<N>* moments) {
     }
     if (rows < L::kRows) break;
   }
+  scan.store(used, moments);
 }
 
 }  // namespace
 
 template <typename T, typename N>
 void momentsOf(SourceRows src, Extent pixels, int stored, int used, ChannelMoments<N>* moments) {
-  for (int c = 0; c < used; ++c) moments[c] = {};
   if (stored == 1) return scan<T, N, 1>(src, pixels, used, moments);
   if (stored == 3) return scan<T, N, 3>(src, pixels, used, moments);
   scan<T, N, 4>(src, pixels, used, moments);
