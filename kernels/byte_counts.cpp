@@ -7,29 +7,35 @@
 namespace lumi {
 namespace {
 
-// A row is counted in rounds of whole pixels: of a word, or of two pixels where words are none. Neighbours
-// have tables of their own, so that equal ones do not wait for one another's count to be stored.
+// A row is counted in rounds of words that are whole pixels. Neighbours have tables of their own, so that
+// equal ones do not wait for one another's count to be stored.
 template <int stored, int used>
 class Counter {
-  static constexpr bool kByWords = stored != 3;
-  static constexpr size_t kRound = kByWords ? sizeof(size_t) : 2 * stored;
-  static constexpr size_t kNeighbours = stored == 1 ? 4 : kRound / stored;
-  using Round = std::make_index_sequence<kRound>;
+  static constexpr size_t kWord = sizeof(size_t), kWords = stored == 3 ? 3 : 1, kRound = kWords * kWord;
+  static constexpr size_t kNeighbours = stored == 1 ? 4 : 2;
+  // Rounds of three words have no registers for another one in 32 bits.
+  static constexpr bool kAhead = kWords == 1 || kWord == 8;
+  using Words = std::make_index_sequence<kWords>;
+  using Bytes = std::make_index_sequence<kWord>;
 
  public:
-  // Compilers must suppose that counting changes what is loaded after it. Each round is therefore loaded at
-  // once, words before the one in front of them is counted.
+  // Compilers must suppose that counting changes what is loaded after it: a round is loaded at once, and
+  // before the one in front of it is counted.
   void row(const uint8_t* p, size_t bytes) {
     size_t at = 0;
-    if constexpr (!kByWords) {
-      for (; at + kRound <= bytes; at += kRound) countBytes(p + at, Round());
-    } else if (bytes >= kRound) {
-      size_t next = wordAt(p);
-      for (; at + 2 * kRound <= bytes; at += kRound) {
-        const size_t word = next;
-        next = wordAt(p + at + kRound);
-        countWord(word, Round());
+    if constexpr (kAhead) {
+      if (bytes >= kRound) {
+        Round next = roundAt(p, Words());
+        for (; at + 2 * kRound <= bytes; at += kRound) {
+          const Round round = next;
+          next = roundAt(p + at + kRound, Words());
+          countRound(round, Words());
+        }
+        countRound(next, Words());
+        at += kRound;
       }
+    } else {
+      for (; at + kRound <= bytes; at += kRound) countRound(roundAt(p + at, Words()), Words());
     }
     for (; at < bytes; ++at)
       if (const size_t i = at % kRound; i % stored < used) count(i, p[at]);
@@ -44,10 +50,17 @@ class Counter {
   }
 
  private:
+  struct Round {
+    size_t words[kWords];
+  };
   static size_t wordAt(const uint8_t* p) {
     size_t word;
     std::memcpy(&word, p, sizeof word);
     return word;
+  }
+  template <size_t... w>
+  [[gnu::always_inline]] static Round roundAt(const uint8_t* p, std::index_sequence<w...>) {
+    return {{wordAt(p + w * kWord)...}};
   }
   // Byte i of a round.
   void count(size_t i, size_t sample) { ++tables_[i / stored % kNeighbours * used + i % stored].of[sample]; }
@@ -56,14 +69,13 @@ class Counter {
     if constexpr (i % stored < used) count(i, word & 0xFF);
     word >>= 8;
   }
-  template <size_t... i>
+  template <size_t w, size_t... i>
   [[gnu::always_inline]] void countWord(size_t word, std::index_sequence<i...>) {
-    (countNext<i>(word), ...);
+    (countNext<w * kWord + i>(word), ...);
   }
-  template <size_t... i>
-  [[gnu::always_inline]] void countBytes(const uint8_t* p, std::index_sequence<i...>) {
-    const size_t samples[] = {p[i]...};
-    (count(i, samples[i]), ...);
+  template <size_t... w>
+  [[gnu::always_inline]] void countRound(const Round& round, std::index_sequence<w...>) {
+    (countWord<w>(round.words[w], Bytes()), ...);
   }
 
   ByteCounts tables_[kNeighbours * used] = {};
