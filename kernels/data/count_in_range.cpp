@@ -73,7 +73,7 @@ class Counts {
     for (auto& vector : lanes.of) vector = L::none();
     return lanes;
   }
-  void add(Lanes& lanes, const Byte* p) const {
+  [[gnu::always_inline]] void add(Lanes& lanes, const Byte* p) const {
     for (size_t i = 0; i < kVectors; ++i) {
       const auto from = [=](const T* bounds) {
         return reinterpret_cast<const Byte*>(bounds + i * L::kLanes);

@@ -28,7 +28,7 @@ struct SumLanes<uint8_t, 1> {
   static constexpr size_t channelOf(size_t) { return 0; }
 
   template <typename Value>
-  static void add(Samples16<Lane>* lanes, Value value) {
+  [[gnu::always_inline]] static void add(Samples16<Lane>* lanes, Value value) {
     lanes[0] = lanes[0] + sumsOfDifferences(value(0), broadcast16<uint8_t>(0));
   }
 };
@@ -48,11 +48,12 @@ struct SumLanes<uint8_t, 3> : BytesInWords {
   static constexpr size_t channelOf(size_t lane) { return 2 * lane % 3; }
 
   template <typename Value>
-  static void add(U16* lanes, Value value) {
-    const U8 first = value(0), second = value(1), third = value(2);
-    lanes[0] = lanes[0] + (even(first) + odd(third));
-    lanes[1] = lanes[1] + (even(second) + odd(first));
-    lanes[2] = lanes[2] + (even(third) + odd(second));
+  [[gnu::always_inline]] static void add(U16* lanes, Value value) {
+    for (size_t i = 0; i < 3; ++i) {  // one after the other: so all lanes have registers in 32 bits
+      const U8 x = value(i);
+      lanes[i] = lanes[i] + even(x);
+      lanes[(i + 1) % 3] = lanes[(i + 1) % 3] + odd(x);
+    }
   }
 };
 
@@ -62,7 +63,7 @@ struct SumLanes<uint8_t, 4> : BytesInWords {
   static constexpr size_t channelOf(size_t lane) { return lane % 2 * 2 + lane / 8; }
 
   template <typename Value>
-  static void add(U16* lanes, Value value) {
+  [[gnu::always_inline]] static void add(U16* lanes, Value value) {
     const U8 x = value(0);
     lanes[0] = lanes[0] + even(x);
     lanes[1] = lanes[1] + odd(x);
@@ -80,7 +81,7 @@ struct SumLanes<int16_t, channels> {
   static constexpr size_t channelOf(size_t lane) { return lane % channels; }
 
   template <typename Value>
-  static void add(S32* lanes, Value value) {
+  [[gnu::always_inline]] static void add(S32* lanes, Value value) {
     const auto pairs = [](S16 x) { return multiplyAddPairs(x, broadcast16<int16_t>(1)); };
     if constexpr (channels == 1) {
       lanes[0] = lanes[0] + (pairs(value(0)) + pairs(value(1)));
@@ -117,7 +118,7 @@ class IntegerSums {
     return lanes;
   }
   template <typename... At>
-  void add(Lanes& lanes, At... at) const {
+  [[gnu::always_inline]] void add(Lanes& lanes, At... at) const {
     L::add(lanes.of, [&](size_t i) { return lowered(f_(Samples16<T>{load16(at + 16 * i)}...)); });
   }
   template <typename... At>
@@ -195,7 +196,7 @@ class FloatSums {
     return lanes;
   }
   template <typename... At>
-  void add(Lanes& lanes, At... at) const {
+  [[gnu::always_inline]] void add(Lanes& lanes, At... at) const {
     const auto values = [&](size_t i) { return f_(loaded(at + 16 * i)...); };
     for (size_t i = 0; i < L::kVectors; ++i) {
       V sum = values(i);
