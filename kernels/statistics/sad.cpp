@@ -6,16 +6,17 @@
 
 #include "kernels/simd/convert.hpp"
 #include "kernels/simd/floats.hpp"
+#include "kernels/statistics/differences.hpp"
+#include "kernels/unaligned.hpp"
 
 namespace lumi {
 namespace {
 
 using namespace simd;
 
-// max - min, as an unsigned number of the same size: of signed words it may be 65535.
 template <typename T>
-auto difference(Samples16<T> a, Samples16<T> b) {
-  return as<std::make_unsigned_t<T>>(max(a, b) - min(a, b));
+Unaligned<T> samplesAt(const Byte* p) {
+  return {reinterpret_cast<const T*>(p)};
 }
 
 // Sums over 2^scale, to the nearest, ties to even. With q of n the quotient and r the remainder, that is
@@ -87,7 +88,7 @@ class Sums<uint8_t> {
       high_ = high_ + sumsAtEightPlaces(U8{bytesFrom<5>(load16(p + i + 3))}, four);
     }
     for (; i < taps; ++i) {
-      const U8 d = difference(U8{load16(p + i)}, broadcast16(t[i]));
+      const U8 d = Distance()(U8{load16(p + i)}, broadcast16(t[i]));
       low_ = low_ + widenLow(d);
       high_ = high_ + widenHigh(d);
     }
@@ -114,9 +115,9 @@ class Sums {
 
   [[gnu::always_inline]] void addRow(const Byte* p, const Byte* t, size_t taps) {
     for (size_t i = 0; i < taps; ++i, p += sizeof(T)) {
-      const Samples16<T> tap = broadcast16(loaded(t + i * sizeof(T)));
-      const U16 a = difference(Samples16<T>{load16(p)}, tap),
-                b = difference(Samples16<T>{load16(p + 16)}, tap);
+      const Samples16<T> tap = broadcast16(samplesAt<T>(t)[i]);
+      const U16 a = Distance()(Samples16<T>{load16(p)}, tap),
+                b = Distance()(Samples16<T>{load16(p + 16)}, tap);
       sums_[0] = sums_[0] + widenLow(a);
       sums_[1] = sums_[1] + widenHigh(a);
       sums_[2] = sums_[2] + widenLow(b);
@@ -128,25 +129,13 @@ class Sums {
   }
   static uint32_t single(const Byte* p, const Byte* t, size_t taps, uint32_t sum) {
     for (size_t i = 0; i < taps; ++i)
-      sum += static_cast<uint32_t>(std::abs(loaded(p + i * sizeof(T)) - loaded(t + i * sizeof(T))));
+      sum += static_cast<uint32_t>(std::abs(samplesAt<T>(p)[i] - samplesAt<T>(t)[i]));
     return sum;
   }
 
  private:
-  static T loaded(const Byte* p) {
-    T x;
-    std::memcpy(&x, p, sizeof x);
-    return x;
-  }
-
   U32 sums_[4] = {broadcast16(0u), broadcast16(0u), broadcast16(0u), broadcast16(0u)};
 };
-
-float floatAt(const Byte* p) {
-  float x;
-  std::memcpy(&x, p, sizeof x);
-  return x;
-}
 
 // Eight windows of floats a vector; with four vectors additions do not wait for one another.
 template <size_t vectors>
@@ -159,17 +148,16 @@ class FloatSums {
   }
   [[gnu::always_inline]] void addRow(const Byte* p, const Byte* t, size_t taps) {
     for (size_t i = 0; i < taps; ++i, p += sizeof(float)) {
-      const Floats8 tap = broadcastFloat<Floats8>(floatAt(t + i * sizeof(float)));
+      const Floats8 tap = broadcastFloat<Floats8>(samplesAt<float>(t)[i]);
       for (size_t k = 0; k < vectors; ++k)
-        sums_[k] = sums_[k] + magnitude(loadFloats8(p + k * sizeof(Floats8)) - tap);
+        sums_[k] = sums_[k] + Distance()(loadFloats8(p + k * sizeof(Floats8)), tap);
     }
   }
   void store(Byte* dst, const Scale&) const {
     for (size_t k = 0; k < vectors; ++k) store32(dst + k * sizeof(Floats8), bytesOf(sums_[k]));
   }
   static float single(const Byte* p, const Byte* t, size_t taps, float sum) {
-    for (size_t i = 0; i < taps; ++i)
-      sum += std::fabs(floatAt(p + i * sizeof(float)) - floatAt(t + i * sizeof(float)));
+    for (size_t i = 0; i < taps; ++i) sum += std::fabs(samplesAt<float>(p)[i] - samplesAt<float>(t)[i]);
     return sum;
   }
 
