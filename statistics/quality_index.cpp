@@ -2,7 +2,6 @@
 // The universal image quality index.
 #include "lumi/quality_index.h"
 
-#include <cmath>
 #include <cstring>
 #include <type_traits>
 
@@ -35,10 +34,9 @@ struct Similarity {
   Lum32f covariance = 0, variance1 = 0, variance2 = 0;
 
   void addRow(const RowProducts& row) {
-    const Lum32f norm1 = std::sqrt(row.square1), norm2 = std::sqrt(row.square2);
     covariance += row.product;
-    variance1 += norm1 * norm1;
-    variance2 += norm2 * norm2;
+    variance1 += row.norm1 * row.norm1;
+    variance2 += row.norm2 * row.norm2;
   }
   // Whether there is an index.
   bool index(Lum64f mean1, Lum64f mean2, Lum32f* result) const {

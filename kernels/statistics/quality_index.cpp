@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "kernels/planes.hpp"
+#include "kernels/simd/elementary.hpp"
 #include "kernels/simd/scale.hpp"
 
 namespace lumi {
@@ -61,7 +62,9 @@ RowProducts rowProducts(const float* a, const float* b, size_t room) {
     store32(reinterpret_cast<Byte*>(lanes), bytesOf(sums[0] + sums[1]));
     return ((lanes[0] + lanes[4]) + (lanes[1] + lanes[5])) + ((lanes[2] + lanes[6]) + (lanes[3] + lanes[7]));
   };
-  return {total(product), total(square1), total(square2)};
+  // The nearest float is that of the nearest double.
+  const auto root = [](float x) { return static_cast<float>(squareRoot(double{x})); };
+  return {total(product), root(total(square1)), root(total(square2))};
 }
 
 #define LUMI_CENTRED(T)                                                          \

@@ -18,10 +18,10 @@ template <typename T, int channels>
 void centredRow(const uint8_t* src, size_t pixels, float mean, float* row, size_t room);
 
 struct RowProducts {
-  float product, square1, square2;
+  float product, norm1, norm2;
 };
 
-// Sums of a * b, a * a and b * b over rows of differences, in single precision.
+// The sum of a * b over rows of differences, and the roots of those of a * a and b * b, in single precision.
 RowProducts rowProducts(const float* a, const float* b, size_t room);
 
 }  // namespace lumi
