@@ -6,6 +6,7 @@
 
 #include "frame/check.hpp"
 #include "frame/constant.hpp"
+#include "frame/results.hpp"
 #include "frame/rows.hpp"
 #include "kernels/data/count_in_range.hpp"
 
@@ -35,7 +36,7 @@ LumStatus countInRange(const T* src, int srcStep, LumiSize roi, Lum32s* count, B
       roi,
       [&](SourceRows s, Extent pixels) { counts = countInRanges<T, Layout::kStored>(s, pixels, ranges); },
       pixelRows<Layout>(src, srcStep));
-  std::memcpy(count, counts.of, sizeof *count * Layout::kUsed);
+  storeChannels<Layout>(count, counts);
   return lumStatusOk;
 }
 

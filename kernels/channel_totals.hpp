@@ -10,4 +10,11 @@ struct ChannelTotals {
   Total of[4];
 };
 
+template <typename Total>
+ChannelTotals<double> inDoubles(const ChannelTotals<Total>& totals) {
+  ChannelTotals<double> result;
+  for (int c = 0; c < 4; ++c) result.of[c] = static_cast<double>(totals.of[c]);
+  return result;
+}
+
 }  // namespace lumi

@@ -42,6 +42,8 @@ struct Extent {
   int rows;
 
   Extent times(size_t n) const { return {length * n, rows}; }
+  // In all rows: below 2^63.
+  int64_t count() const { return static_cast<int64_t>(length) * rows; }
 };
 
 // Calls kernel(row of each image...) for each of the rows, strictly from the first to the last. A kernel's

@@ -2,10 +2,10 @@
 // Dot products of images, for each channel, and of columns of rows.
 #include "lumi/dot_prod.h"
 
-#include <cstring>
 #include <type_traits>
 
 #include "frame/check.hpp"
+#include "frame/results.hpp"
 #include "frame/rows.hpp"
 #include "kernels/statistics/dot_prod.hpp"
 
@@ -29,7 +29,7 @@ LumStatus dotProduct(const T* src1, int src1Step, const T* src2, int src2Step, L
   runFused(
       roi, [&](SourceRows a, SourceRows b, Extent pixels) { products = kernel(a, b, pixels); },
       pixelRows<Layout>(src1, src1Step), pixelRows<Layout>(src2, src2Step));
-  std::memcpy(product, products.of, sizeof *product * Layout::kUsed);
+  storeChannels<Layout>(product, products);
   return lumStatusOk;
 }
 

@@ -22,8 +22,6 @@ using Level = std::conditional_t<std::is_floating_point_v<T>, Lum32f, Lum32s>;
 template <typename L, size_t channels>
 using BinLists = std::array<BinList<L>, channels>;
 
-int64_t area(Extent pixels) { return static_cast<int64_t>(pixels.length) * pixels.rows; }
-
 template <typename L>
 bool ascends(const BinList<L>& list) {
   for (int k = 0; k < list.size(); ++k)
@@ -49,8 +47,8 @@ bool isAbove(const Limit (&limits)[n], int64_t pixels, int levels) {
 }
 
 bool takesTable(Extent pixels, const BinList<Lum32s>& list) {
-  return ascends(list) ? isAbove(kAscending, area(pixels), list.count)
-                       : isAbove(kAny, area(pixels), list.count);
+  return ascends(list) ? isAbove(kAscending, pixels.count(), list.count)
+                       : isAbove(kAny, pixels.count(), list.count);
 }
 
 // So few levels take less time one by one, for a whole vector of samples, than a table of words or a look for
@@ -176,7 +174,7 @@ void storeEvenLevels(Lum32s lower, Lum32s upper, int count, Lum32s* levels) {
 constexpr int64_t kMostDividedPixels = 65535;
 template <typename L>
 bool isDivided(Extent pixels, const BinList<L>& list, int64_t range) {
-  return range % list.size() == 0 && area(pixels) <= kMostDividedPixels;
+  return range % list.size() == 0 && pixels.count() <= kMostDividedPixels;
 }
 
 template <typename T, typename Layout, typename Histograms, typename Levels, typename Counts, typename Bounds>

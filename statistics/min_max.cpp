@@ -2,9 +2,8 @@
 // The least and the greatest sample of each channel.
 #include "lumi/min_max.h"
 
-#include <cstring>
-
 #include "frame/check.hpp"
+#include "frame/results.hpp"
 #include "frame/rows.hpp"
 #include "kernels/statistics/min_max.hpp"
 
@@ -12,11 +11,6 @@ namespace lumi {
 namespace {
 
 using namespace check;
-
-template <typename Layout, typename T>
-void storeChannels(T* results, const ChannelTotals<T>& values) {
-  std::memcpy(results, values.of, sizeof *results * Layout::kUsed);
-}
 
 // One kind of extreme, by its kernel.
 template <typename Layout, typename T, typename Kernel>

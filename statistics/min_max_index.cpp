@@ -2,9 +2,8 @@
 // The least and the greatest sample of each channel, and where they are.
 #include "lumi/min_max_index.h"
 
-#include <cstring>
-
 #include "frame/check.hpp"
+#include "frame/results.hpp"
 #include "frame/rows.hpp"
 #include "kernels/statistics/min_max_index.hpp"
 
@@ -19,12 +18,9 @@ LumStatus placed(const T* src, int srcStep, LumiSize roi, T* value, Lum32s* x, L
   if (LumStatus fault = firstFault(pointers(src, value, x, y), size(roi))) return fault;
   const PlacedExtremes<T> found =
       kernel(rows(src, srcStep), {static_cast<size_t>(roi.width), roi.height}, Layout::kUsed);
-  const auto store = [](auto* results, const auto& channels) {
-    std::memcpy(results, channels.of, sizeof *results * Layout::kUsed);
-  };
-  store(value, found.value);
-  store(x, found.x);
-  store(y, found.y);
+  storeChannels<Layout>(value, found.value);
+  storeChannels<Layout>(x, found.x);
+  storeChannels<Layout>(y, found.y);
   return lumStatusOk;
 }
 

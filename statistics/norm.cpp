@@ -4,11 +4,11 @@
 
 #include <algorithm>
 #include <cfloat>
-#include <cstring>
 #include <type_traits>
 
 #include "dispatch/sum.hpp"
 #include "frame/check.hpp"
+#include "frame/results.hpp"
 #include "frame/rows.hpp"
 #include "kernels/statistics/norm.hpp"
 
@@ -29,10 +29,10 @@ auto inTotals(TotalOf totalOf, [[maybe_unused]] Hint... hint) {
 
 template <Norm norm, typename Layout>
 void storeNorms(const NormTotals& totals, Lum64f* at) {
-  Lum64f norms[Layout::kUsed];
-  for (int c = 0; c < Layout::kUsed; ++c)
-    norms[c] = norm == Norm::L2 ? squareRootOf(totals.of[c]) : totals.of[c];
-  std::memcpy(at, norms, sizeof norms);
+  NormTotals norms = totals;
+  if constexpr (norm == Norm::L2)
+    for (int c = 0; c < Layout::kUsed; ++c) norms.of[c] = squareRootOf(totals.of[c]);
+  storeChannels<Layout>(at, norms);
 }
 
 template <Norm norm, typename T, typename Layout, typename... Hint>
@@ -76,8 +76,7 @@ LumStatus normOf(const T* src, int srcStep, LumiSize roi, Lum64f* result, Hint..
   } else {
     if constexpr (norm == Norm::L2 && std::is_same_v<T, Lum8u> && Layout::kStored == 1)
       if (roi.width > kStripWidth) {
-        const Lum64f wide = normOfStrips(src, srcStep, roi);
-        std::memcpy(result, &wide, sizeof wide);
+        storeChannels<Layout>(result, NormTotals{{normOfStrips(src, srcStep, roi)}});
         return lumStatusOk;
       }
     storeNorms<norm, Layout>(totalsOf<norm, T, Layout>(src, srcStep, roi, hint...), result);

@@ -2,11 +2,11 @@
 // Sums and means of the samples of each channel.
 #include "lumi/sum.h"
 
-#include <cstring>
 #include <type_traits>
 
 #include "dispatch/sum.hpp"
 #include "frame/check.hpp"
+#include "frame/results.hpp"
 #include "frame/rows.hpp"
 #include "kernels/statistics/sum.hpp"
 
@@ -47,25 +47,24 @@ ChannelSums sumsOf(const T* src, int srcStep, LumiSize roi, Hint... hint) {
 template <typename T, typename Layout, typename... Hint>
 LumStatus sumOf(const T* src, int srcStep, LumiSize roi, Lum64f* sum, Hint... hint) {
   if (LumStatus fault = firstFault(pointers(src, sum), size(roi))) return fault;
-  const ChannelSums sums = sumsOf<T, Layout>(src, srcStep, roi, hint...);
-  std::memcpy(sum, sums.of, sizeof *sum * Layout::kUsed);
+  storeChannels<Layout>(sum, sumsOf<T, Layout>(src, srcStep, roi, hint...));
   return lumStatusOk;
 }
 
 template <typename T, typename Layout, typename... Hint>
 LumStatus meanOf(const T* src, int srcStep, LumiSize roi, Lum64f* mean, Hint... hint) {
   if (LumStatus fault = firstFault(pointers(mean))) return fault;
-  Lum64f means[Layout::kUsed];
-  if (LumStatus fault = call::SumR<T, Layout>(src, srcStep, roi, means, hint...)) return fault;
+  ChannelSums means;
+  if (LumStatus fault = call::SumR<T, Layout>(src, srcStep, roi, means.of, hint...)) return fault;
   // The interface's product, which wraps.
   const auto pixels = static_cast<int>(static_cast<unsigned>(roi.width) * static_cast<unsigned>(roi.height));
   if constexpr (Layout::kStored == 1) {
-    means[0] = means[0] / pixels;
+    means.of[0] /= pixels;
   } else {
     const double share = 1.0 / pixels;
-    for (Lum64f& each : means) each *= share;
+    for (int c = 0; c < Layout::kUsed; ++c) means.of[c] *= share;
   }
-  std::memcpy(mean, means, sizeof means);
+  storeChannels<Layout>(mean, means);
   return lumStatusOk;
 }
 

@@ -9,7 +9,7 @@ template <typename T, typename Total, int channels>
 ChannelTotals<double> dotProducts(SourceRows a, SourceRows b, Extent pixels) {
   simd::ProductSums<simd::Products, T, channels, Total> sums;
   reduceRows(sums, pixels.times(channels), a, b);
-  return simd::inDoubles<channels>(sums.totals());
+  return simd::channelsInDoubles<channels>(sums.totals());
 }
 
 #define LUMI_DOTS(T, Total, channels) \

@@ -252,8 +252,6 @@ void countBySearch(const Block<T>& block, BinList<L> list, Bins bins) {
   }
 }
 
-int64_t area(Extent pixels) { return static_cast<int64_t>(pixels.length) * pixels.rows; }
-
 }  // namespace
 
 void binBytes(const ByteCounts& counts, const BinList<int32_t>& list) { binTable({counts.of}, 0, 256, list); }
@@ -323,7 +321,7 @@ void binBySearch(const Channel& channel, const BinList<L>& list) {
   Bins bins(list);
   bins.clear(list.size());
   const Places places(list);
-  if (list.size() <= area(channel.pixels) && places.areClose(list))
+  if (list.size() <= channel.pixels.count() && places.areClose(list))
     return forBlocks<T>(channel, [&](const Block<T>& block) { countNearPlaces(block, places, list, bins); });
   forBlocks<T>(channel, [&](const Block<T>& block) { countBySearch(block, list, bins); });
 }

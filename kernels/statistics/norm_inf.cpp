@@ -16,32 +16,18 @@ Largest<T, channels, F> fromZero(const F& f) {
   return Largest<T, channels, F>(f, ExtremeLanes<MagnitudeOf<T>, channels>::at(MagnitudeOf<T>{0}));
 }
 
-template <typename Extremes>
-NormTotals inDoubles(const Extremes& largest) {
-  const auto values = largest.template of<Greatest>();
-  NormTotals result{};
-  std::copy(std::begin(values.of), std::end(values.of), result.of);
-  return result;
-}
-
-template <typename T, int channels, typename F, typename... Image>
-NormTotals largestOf(const F& f, Extent pixels, Image... images) {
-  auto largest = fromZero<T, channels>(f);
-  walkRows(
-      pixels.rows, [&](auto... row) { largest.addRow(pixels.length * channels, row...); }, images...);
-  return inDoubles(largest);
-}
-
 }  // namespace
 
 template <Norm norm, typename T, typename Total, int channels>
 NormTotals normOfImage(SourceRows src, Extent pixels) {
-  return largestOf<T, channels>(Magnitude(), pixels, src);
+  return inDoubles(
+      extremesOf<Greatest, T, MagnitudeOf<T>, channels>(Magnitude(), MagnitudeOf<T>{0}, pixels, src));
 }
 
 template <Norm norm, typename T, typename Total, int channels>
 NormTotals normOfDifferences(SourceRows a, SourceRows b, Extent pixels) {
-  return largestOf<T, channels>(Distance(), pixels, a, b);
+  return inDoubles(
+      extremesOf<Greatest, T, MagnitudeOf<T>, channels>(Distance(), MagnitudeOf<T>{0}, pixels, a, b));
 }
 
 // In parts of rows that stay in the nearest cache, so that the second image is fetched once.
@@ -63,7 +49,7 @@ RelativeTotals relativeNorm(SourceRows a, SourceRows b, Extent pixels) {
         }
       },
       a, b);
-  return {inDoubles(differences), inDoubles(ofSecond)};
+  return {inDoubles(differences.template of<Greatest>()), inDoubles(ofSecond.template of<Greatest>())};
 }
 
 #define LUMI_NORMS(T, Total, channels)                                                                  \

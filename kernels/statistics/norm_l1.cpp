@@ -51,9 +51,7 @@ auto distances() {
 template <typename Reduction>
 NormTotals totalsOf(const Reduction& sums, Extent pixels) {
   if constexpr (std::is_same_v<typename Reduction::Sample, float>) {
-    NormTotals result{};
-    std::copy(std::begin(sums.totals().of), std::end(sums.totals().of), result.of);
-    return result;
+    return inDoubles(sums.totals());
   } else {
     return sums.totals(pixels);
   }

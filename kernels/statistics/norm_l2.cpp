@@ -47,21 +47,22 @@ template <Norm norm, typename T, typename Total, int channels>
 NormTotals normOfImage(SourceRows src, Extent pixels) {
   ProductSums<Squares, T, channels, Total> sums;
   reduceRows(sums, pixels.times(channels), src);
-  return inDoubles<channels>(sums.totals());
+  return channelsInDoubles<channels>(sums.totals());
 }
 
 template <Norm norm, typename T, typename Total, int channels>
 NormTotals normOfDifferences(SourceRows a, SourceRows b, Extent pixels) {
   OfDifferences<T, Total, channels> sums;
   reduceRows(sums, pixels.times(channels), a, b);
-  return inDoubles<channels>(sums.totals());
+  return channelsInDoubles<channels>(sums.totals());
 }
 
 template <Norm norm, typename T, typename Total, int channels>
 RelativeTotals relativeNorm(SourceRows a, SourceRows b, Extent pixels) {
   Relative<OfDifferences<T, Total, channels>, ProductSums<Squares, T, channels, Total>> sums;
   reduceRows(sums, pixels.times(channels), a, b);
-  return {inDoubles<channels>(sums.differences.totals()), inDoubles<channels>(sums.ofSecond.totals())};
+  return {channelsInDoubles<channels>(sums.differences.totals()),
+          channelsInDoubles<channels>(sums.ofSecond.totals())};
 }
 
 double squareRootOf(double x) { return squareRoot(x); }

@@ -311,11 +311,10 @@ template <typename F, typename T, int channels, typename Total>
 using ProductSums = std::conditional_t<sizeof(T) <= 2, IntegerProducts<F, T, channels, Total>,
                                        FloatingProducts<F, T, channels == 1 ? 4 : channels, Total>>;
 
-// In doubles; of one channel, in the first.
+// In doubles. Of one channel the four totals come to one, in the first.
 template <int channels, typename Total>
-ChannelTotals<double> inDoubles(const ChannelTotals<Total>& totals) {
-  ChannelTotals<double> result{};
-  for (size_t c = 0; c < channels; ++c) result.of[c] = static_cast<double>(totals.of[c]);
+ChannelTotals<double> channelsInDoubles(const ChannelTotals<Total>& totals) {
+  ChannelTotals<double> result = inDoubles(totals);
   if (channels == 1)
     result.of[0] = static_cast<double>((totals.of[0] + totals.of[1]) + (totals.of[2] + totals.of[3]));
   return result;

@@ -135,7 +135,7 @@ class IntegerSums {
   // Of so many pixels.
   ChannelTotals<double> totals(Extent pixels) const {
     ChannelTotals<double> result{};
-    const uint64_t taken = uint64_t{pixels.length} * static_cast<uint64_t>(pixels.rows) + fillers_;
+    const uint64_t taken = static_cast<uint64_t>(pixels.count()) + fillers_;
     for (size_t c = 0; c < channels; ++c) {
       const uint64_t total = totals_.of[c] + (kLowered ? taken << 15 : 0);
       result.of[c] = std::is_signed_v<Value> ? static_cast<double>(static_cast<int64_t>(total))
@@ -239,9 +239,7 @@ template <typename V, int channels, typename F, typename... Image>
 ChannelTotals<double> floatSums(const F& f, Extent pixels, Image... images) {
   FloatSums<V, channels, F> sums(f);
   reduceRows(sums, pixels.times(channels), images...);
-  ChannelTotals<double> result{};
-  for (size_t c = 0; c < channels; ++c) result.of[c] = sums.totals().of[c];
-  return result;
+  return inDoubles(sums.totals());
 }
 
 // The same by lanes of V within each row, and totals of extended precision over the rows.
@@ -256,9 +254,7 @@ ChannelTotals<double> floatSumsByRow(const F& f, Extent pixels, Image... images)
         for (size_t c = 0; c < channels; ++c) totals.of[c] += static_cast<long double>(sums.totals().of[c]);
       },
       images...);
-  ChannelTotals<double> result{};
-  for (size_t c = 0; c < channels; ++c) result.of[c] = static_cast<double>(totals.of[c]);
-  return result;
+  return inDoubles(totals);
 }
 
 }  // namespace lumi::simd
