@@ -12,6 +12,7 @@
 #include "support/arena.hpp"
 #include "support/core_guard.hpp"
 #include "support/fault.hpp"
+#include "support/list_faults.hpp"
 #include "support/named_call.hpp"
 #include "support/settings.hpp"
 
@@ -46,7 +47,7 @@ class ListCall {
     }
     isInPlace_ = row.arguments[0].name == std::string("srcDst");
     call_.size("roi", {7, 3}).pointer("values", values_).pointer("levels", levels_).pointer("count", counts_);
-    for (const char* name : images()) call_.image(name, forbidden(), 256);
+    for (const char* name : images()) call_.image(name, forbiddenMemory(), 256);
   }
   LumStatus run() { return call_.run(); }
 
@@ -75,12 +76,6 @@ class ListCall {
   std::vector<const char*> images() const {
     return isInPlace_ ? std::vector<const char*>{"srcDst"} : std::vector<const char*>{"src", "dst"};
   }
-  static void* forbidden() {
-    static const Arena arena(1);
-    static const bool done = (arena.setAccessible(arena.begin(), arena.end(), false), true);
-    return done ? arena.begin() : nullptr;
-  }
-
   NamedCall call_;
   int channels_, counts_[4];
   bool isInPlace_;
@@ -92,17 +87,7 @@ class ListCall {
 TEST(LutStatus, OfSeveralChannelsInOrder) {
   for (const ExportRow& row : exportRows()) {
     if (row.family != std::string("lut") || row.layouts[0] == std::string("C1")) continue;
-    const auto faults = ListCall(row).faults();
-    for (size_t i = 0; i < faults.size(); ++i)
-      for (size_t k = i; k < faults.size(); ++k) {
-        if (k > i && faults[i].exclusive == faults[k].exclusive && faults[i].exclusive != 0) continue;
-        ListCall call(row);
-        faults[i].apply(call);
-        faults[k].apply(call);
-        LumStatus status = lumStatusOk;
-        ASSERT_FALSE(faultOf([&] { status = call.run(); })) << row.name << " " << i << " " << k;
-        ASSERT_EQ(status, faults[i].status) << row.name << " " << i << " " << k;
-      }
+    expectFaultsInOrder<ListCall>(row);
   }
 }
 
