@@ -18,8 +18,8 @@ inline void* forbiddenMemory() {
 }
 
 // Each fault alone, and with each that comes after it: the status is that of the first. ListCall is made of a
-// row; its faults() stand in the order in which they are told, and exclude one another where they have the same
-// number that is not 0.
+// row; its faults() stand in the order in which they are told, and exclude one another where they have the
+// same number that is not 0.
 template <typename ListCall>
 void expectFaultsInOrder(const ExportRow& row) {
   const auto faults = ListCall(row).faults();
