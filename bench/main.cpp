@@ -6,6 +6,7 @@
 #include <regex>
 
 #include "bench/harness.hpp"
+#include "bench/peers/fftw.hpp"
 #include "bench/peers/libc.hpp"
 #include "bench/peers/opencv.hpp"
 #include "bench/peers/pixman.hpp"
@@ -40,7 +41,8 @@ const char* boolean(bool value) { return value ? "true" : "false"; }
 
 std::vector<Library> libraries() {
   std::vector<Library> all;
-  for (const auto library : {opencv::library, yuv::library, pixman::library, zimg::library, libc::library}) {
+  for (const auto library :
+       {opencv::library, yuv::library, pixman::library, zimg::library, fftw::library, libc::library}) {
     if (library != nullptr) all.push_back(library());
   }
   return all;
