@@ -19,6 +19,7 @@
 #include "lumi/div.h"
 #include "lumi/dot_prod.h"
 #include "lumi/extremes.h"
+#include "lumi/fft.h"
 #include "lumi/filter_border.h"
 #include "lumi/histogram.h"
 #include "lumi/image_memory.h"

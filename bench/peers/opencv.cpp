@@ -362,6 +362,13 @@ Peer storing(View result, Find find) {
 
 }  // namespace
 
+Peer fourier(View src, View dst, bool inverse) {
+  const int flags = inverse ? cv::DFT_INVERSE | (dst.channels == 1 ? cv::DFT_REAL_OUTPUT : 0) : 0;
+  Peer result = peer("opencv", [=, s = mat(src), d = mat(dst)]() mutable { cv::dft(s, d, flags); });
+  result.differs = "rounds otherwise";
+  return result;
+}
+
 Peer norm(View src, View result, Norm kind) {
   return storing(result, [s = mat(src), type = kNorms[static_cast<int>(kind)]] { return cv::norm(s, type); });
 }

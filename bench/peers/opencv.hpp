@@ -83,6 +83,9 @@ enum class Flip { horizontal, vertical, both };
 [[gnu::weak]] Peer resizeNearest(View src, View dst);
 [[gnu::weak]] Peer resizeLinear(View src, View dst);
 
+// Fourier transforms of complex images, or of real ones as packed spectra, without a scale.
+[[gnu::weak]] Peer fourier(View src, View dst, bool inverse);
+
 // Stores a double. Of one image, of the differences of two, or of those beside the second's.
 enum class Norm { infinity, sum, squares };
 [[gnu::weak]] Peer norm(View src, View result, Norm kind);

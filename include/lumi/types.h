@@ -121,6 +121,12 @@ typedef struct {
 typedef struct LumiResizeSpec LumiResizeSpec;
 typedef struct LumiResizeSpec64f LumiResizeSpec64f;
 
+/** Fast Fourier transforms: of complex images, of real ones, and of integers, which is made by InitAlloc
+ * alone. */
+typedef struct LumiFFTSpec_C_32fc LumiFFTSpec_C_32fc;
+typedef struct LumiFFTSpec_R_32f LumiFFTSpec_R_32f;
+typedef struct LumiFFTSpec_R_32s LumiFFTSpec_R_32s;
+
 /** Levels between which lumiHistogram counts, in memory of the caller's. */
 typedef struct LumiHistogramSpec LumiHistogramSpec;
 

@@ -2,7 +2,6 @@
 // Objects of histograms: sizes, levels, statuses in their order, and runs at any address.
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <limits>
 
 #include "lumi/histogram.h"
@@ -11,7 +10,7 @@
 #include "support/core_guard.hpp"
 #include "support/fault.hpp"
 #include "support/member.hpp"
-#include "support/named_call.hpp"
+#include "support/named_faults.hpp"
 #include "support/object_memory.hpp"
 #include "support/settings.hpp"
 
@@ -198,31 +197,8 @@ TEST(HistogramObject, CountsUnsignedWords) { expectRuns<Lum16u>(lumiData16u); }
 TEST(HistogramObject, CountsSignedWords) { expectRuns<Lum16s>(lumiData16s); }
 TEST(HistogramObject, CountsFloats) { expectRuns<Lum32f>(lumiData32f); }
 
-// A fault of a call: what it changes in the arguments, and its status. Faults with one number exclude one
-// another.
-struct Fault {
-  std::function<void(NamedCall&)> cause;
-  LumStatus status;
-  int exclusive = 0;
-};
-
-// Every fault alone and every two at once: the one that comes first in the list decides.
-void expectInOrder(const NamedCall& right, const std::vector<Fault>& faults,
-                   const std::function<void(LumStatus)>& afterwards) {
-  for (size_t i = 0; i < faults.size(); ++i)
-    for (size_t k = i; k < faults.size(); ++k) {
-      if (k > i && faults[i].exclusive != 0 && faults[i].exclusive == faults[k].exclusive) continue;
-      NamedCall call = right;
-      faults[k].cause(call);
-      faults[i].cause(call);
-      ASSERT_EQ(call.run(), faults[i].status) << i << " and " << k;
-      ASSERT_NO_FATAL_FAILURE(afterwards(faults[i].status)) << i << " and " << k;
-    }
-}
-
-Fault null(const char* name) {
-  return {[=](NamedCall& c) { c.pointer(name, nullptr); }, lumStatusNullPointer};
-}
+using Fault = NamedFault;
+Fault null(const char* name) { return nullFault(name); }
 void addNumbers(std::vector<Fault>& faults, const char* name, const std::vector<int>& numbers,
                 LumStatus status) {
   for (const int n : numbers) faults.push_back({[=](NamedCall& c) { c.number(name, n); }, status, name[0]});
