@@ -16,6 +16,7 @@
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"
 #include "lumi/count_in_range.h"
+#include "lumi/dft.h"
 #include "lumi/div.h"
 #include "lumi/dot_prod.h"
 #include "lumi/extremes.h"

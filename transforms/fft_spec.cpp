@@ -61,7 +61,8 @@ TransformBytes realAxisBytes(int order) {
 Transform FftAxis::rows() const {
   if (large) return *large;
   const int half = identifier == kFftRealAxis ? order - 1 : order;
-  return half < kSplitRow ? transforms::wholeTransform(std::max(half, 0)) : transforms::splitTransform(half, roots);
+  return half < kSplitRow ? transforms::wholeTransform(std::max(half, 0))
+                          : transforms::splitTransform(half, roots);
 }
 
 Transform FftAxis::columns() const {
@@ -88,16 +89,24 @@ void makeTables(FftAxis& axis, int half, Tables& memory) {
 
 FftAxis* makeComplexAxis(int order, Lum32s flag, Tables& memory) {
   auto* const axis = memory.take<FftAxis>(1, kObjectAlignment);
-  *axis = {kFftComplexAxis, order, flag, static_cast<Lum32s>(std::min<int64_t>(complexAxisBytes(order).work, INT_MAX)),
-           nullptr,         nullptr, nullptr, nullptr};
+  *axis = {kFftComplexAxis,
+           order,
+           flag,
+           static_cast<Lum32s>(std::min<int64_t>(complexAxisBytes(order).work, INT_MAX)),
+           nullptr,
+           nullptr,
+           nullptr,
+           nullptr};
   makeTables(*axis, order, memory);
   return axis;
 }
 
 FftAxis* makeRealAxis(int order, Lum32s flag, Tables& memory) {
   auto* const axis = memory.take<FftAxis>(1, kObjectAlignment);
-  *axis = {kFftRealAxis, order, flag, static_cast<Lum32s>(std::min<int64_t>(realAxisBytes(order).work, INT_MAX)),
-           nullptr,      nullptr, nullptr, nullptr};
+  *axis = {kFftRealAxis, order,
+           flag,         static_cast<Lum32s>(std::min<int64_t>(realAxisBytes(order).work, INT_MAX)),
+           nullptr,      nullptr,
+           nullptr,      nullptr};
   if (order == 0) return axis;
   const int64_t quarter = lengthOf(order) / 4;
   auto* const re = memory.take<float>(quarter + 1);
@@ -113,18 +122,31 @@ FftAxis* makeRealAxis(int order, Lum32s flag, Tables& memory) {
   return axis;
 }
 
-SpectrumPlan planOf(const FftSpec& spec, bool isReal, bool inverse) {
-  const FftAxis& row = *spec.row;
-  const FftAxis& column = spec.column ? *spec.column : row;
-  const int half = isReal ? spec.orderX - 1 : spec.orderX;
-  return {static_cast<size_t>(lengthOf(spec.orderX)),
-          static_cast<size_t>(lengthOf(spec.orderY)),
+namespace {
+
+using FftObject = SpectrumObjectOf<FftAxis>;
+
+SpectrumPlan planOf(const FftObject& object, bool areReal, bool inverse) {
+  const FftAxis& row = *object.row;
+  const FftAxis& column = object.column ? *object.column : row;
+  const int half = areReal ? object.width - 1 : object.width;
+  return {static_cast<size_t>(lengthOf(object.width)),
+          static_cast<size_t>(lengthOf(object.height)),
           {row.rows(), row.splitRe, row.splitIm},
-          half >= kSplitRow,
+          half >= kSplitRow ? RowMethod::single : RowMethod::eight,
           column.columns(),
           inverse,
-          scaleOf(row.flag, inverse, lengthOf(spec.orderX)),
-          scaleOf(row.flag, inverse, lengthOf(spec.orderY))};
+          scaleOf(row.flag, inverse, lengthOf(object.width)),
+          scaleOf(row.flag, inverse, lengthOf(object.height))};
+}
+
+}  // namespace
+
+SpectrumPlan planOf(const LumiFFTSpec_C_32fc* object, bool inverse) {
+  return planOf(*objectAt<FftObject>(object), false, inverse);
+}
+SpectrumPlan planOf(const LumiFFTSpec_R_32f* object, bool inverse) {
+  return planOf(*objectAt<FftObject>(object), true, inverse);
 }
 
 namespace {
@@ -145,10 +167,10 @@ LumStatus axesFault(int orderX, int orderY, Lum32s flag) {
                     [=] { return axisFault(orderY, flag, kMostComplexOrder); });
 }
 
-constexpr int64_t aligned(int64_t bytes) { return roundedUp(bytes, 64); }
-constexpr int64_t withRoom(int64_t bytes) { return bytes > 0 ? bytes + 64 : 0; }
+template <typename Spec>
+constexpr bool isReal = std::is_same_v<Spec, LumiFFTSpec_R_32f>;
 
-// Of the object with its row's and its columns' transforms. `work` is without what its alignment takes.
+// Of the object with its row's and its columns' transforms.
 template <bool real>
 TransformBytes bytesOf(int orderX, int orderY) {
   const int64_t width = lengthOf(orderX), height = lengthOf(orderY);
@@ -167,35 +189,22 @@ TransformBytes bytesOf(int orderX, int orderY) {
   }
 }
 
-// No memory is as large as what 31 bits do not tell; runs then have none.
-Lum32s told(int64_t bytes) { return static_cast<Lum32s>(std::min<int64_t>(bytes, INT_MAX)); }
-
-template <bool real>
-void make(int orderX, int orderY, Lum32s flag, LumAlgorithmHint hint, void* object) {
-  auto* const spec = objectAt<FftSpec>(object);
-  *spec = {real ? kFftReal : kFftComplex,  orderX, orderY, hint, told(bytesOf<real>(orderX, orderY).work), 0,
-           nullptr, nullptr};
-  Tables memory(spec + 1);
-  if constexpr (real) {
-    spec->row = makeRealAxis(orderX, flag, memory);
-    spec->column = makeComplexAxis(orderY, flag, memory);
+template <typename Spec>
+void make(int orderX, int orderY, Lum32s flag, LumAlgorithmHint hint, Spec* object) {
+  constexpr bool kReal = isReal<Spec>;
+  auto* const words = objectAt<FftObject>(object);
+  const Lum32s workBytes = told(bytesOf<kReal>(orderX, orderY).work);
+  static_cast<SpectrumObject&>(*words) = {identifierOf(object), orderX, orderY, hint, workBytes, 0};
+  Tables memory(words + 1);
+  words->column = nullptr;
+  if constexpr (kReal) {
+    words->row = makeRealAxis(orderX, flag, memory);
+    words->column = makeComplexAxis(orderY, flag, memory);
   } else {
-    spec->row = makeComplexAxis(orderX, flag, memory);
-    if (orderX != orderY) spec->column = makeComplexAxis(orderY, flag, memory);
+    words->row = makeComplexAxis(orderX, flag, memory);
+    if (orderX != orderY) words->column = makeComplexAxis(orderY, flag, memory);
   }
 }
-
-template <bool real, typename Spec>
-LumStatus initAllocated(Spec** object, int orderX, int orderY, Lum32s flag, LumAlgorithmHint hint) {
-  if (LumStatus fault = firstFault(pointers(object), axesFault<real>(orderX, orderY, flag))) return fault;
-  return allocateObject(object, bytesOf<real>(orderX, orderY).object, [=](Spec* made) {
-    make<real>(orderX, orderY, flag, hint, made);
-    return lumStatusOk;
-  });
-}
-
-constexpr bool isReal(const LumiFFTSpec_R_32f*) { return true; }
-constexpr bool isReal(const LumiFFTSpec_C_32fc*) { return false; }
 
 }  // namespace
 
@@ -222,7 +231,7 @@ LumStatus initFft(int orderX, int orderY, Lum32s flag, LumAlgorithmHint hint, Sp
           firstFault(belowLimit ? lumStatusOk : lumStatusBadFftOrder, pointers(object),
                      axesFault<real>(orderX, orderY, flag), needsScratch ? pointers(scratch) : lumStatusOk))
     return fault;
-  make<real>(orderX, orderY, flag, hint, object);
+  make(orderX, orderY, flag, hint, object);
   return lumStatusOk;
 }
 template LumStatus initFft<true>(int, int, Lum32s, LumAlgorithmHint, LumiFFTSpec_R_32f*, Lum8u*);
@@ -230,61 +239,25 @@ template LumStatus initFft<false>(int, int, Lum32s, LumAlgorithmHint, LumiFFTSpe
 
 template <typename Spec>
 LumStatus initAllocatedFft(Spec** object, int orderX, int orderY, Lum32s flag, LumAlgorithmHint hint) {
-  return initAllocated<isReal(static_cast<Spec*>(nullptr))>(object, orderX, orderY, flag, hint);
+  using Real = RealOfIntegers<Spec>;
+  constexpr bool kReal = isReal<Spec> || !std::is_void_v<Real>;
+  if (LumStatus fault = firstFault(pointers(object), axesFault<kReal>(orderX, orderY, flag))) return fault;
+  if constexpr (std::is_void_v<Real>) {
+    return allocateObject(object, bytesOf<kReal>(orderX, orderY).object, [=](Spec* made) -> LumStatus {
+      make(orderX, orderY, flag, hint, made);
+      return lumStatusOk;
+    });
+  } else {
+    return allocateObject(object, sizeof(IntegersObject<Real>), [=](Spec* made) -> LumStatus {
+      Real* real = nullptr;
+      if (LumStatus fault = initAllocatedFft(&real, orderX, orderY, flag, hint)) return fault;
+      const int64_t planes = (16 * lengthOf(orderY) + 4) * lengthOf(orderX);
+      return makeIntegersObject(made, identifierOf(made), *wordsOf(real), planes, real);
+    });
+  }
 }
-template LumStatus initAllocatedFft(LumiFFTSpec_R_32f**, int, int, Lum32s, LumAlgorithmHint);
 template LumStatus initAllocatedFft(LumiFFTSpec_C_32fc**, int, int, Lum32s, LumAlgorithmHint);
-
-// A run converts the image to floats in its scratch, plane by plane, and transforms them there.
-template <>
-LumStatus initAllocatedFft(LumiFFTSpec_R_32s** object, int orderX, int orderY, Lum32s flag, LumAlgorithmHint hint) {
-  if (LumStatus fault = firstFault(pointers(object), axesFault<true>(orderX, orderY, flag))) return fault;
-  return allocateObject(object, sizeof(FftSpecOfIntegers), [=](LumiFFTSpec_R_32s* made) -> LumStatus {
-    LumiFFTSpec_R_32f* real = nullptr;
-    if (LumStatus fault = initAllocated<true>(&real, orderX, orderY, flag, hint)) return fault;
-    const int64_t planes = (16 * lengthOf(orderY) + 4) * lengthOf(orderX);
-    const int64_t bytes = planes + withRoom(bytesOf<true>(orderX, orderY).work) + 64;
-    *reinterpret_cast<FftSpecOfIntegers*>(made) = {kFftIntegers, orderX, orderY, hint, told(bytes), 0, real};
-    return lumStatusOk;
-  });
-}
-
-template <typename Spec>
-LumStatus freeFft(Spec* object) {
-  return freeObject<FftSpec>(object, isReal(object) ? kFftReal : kFftComplex);
-}
-template LumStatus freeFft(LumiFFTSpec_R_32f*);
-template LumStatus freeFft(LumiFFTSpec_C_32fc*);
-
-template <>
-LumStatus freeFft(LumiFFTSpec_R_32s* object) {
-  if (!object) return lumStatusNullPointer;
-  auto* const spec = reinterpret_cast<FftSpecOfIntegers*>(object);
-  if (spec->identifier != kFftIntegers) return lumStatusBadContext;
-  spec->identifier = 0;
-  freeFft(spec->real);
-  release(object);
-  return lumStatusOk;
-}
-
-template <typename Spec>
-LumStatus getFftBufferSize(const Spec* object, Lum32s* bufferSize) {
-  if (LumStatus fault = pointers(object, bufferSize)) return fault;
-  const auto* const spec = objectAt<FftSpec>(object);
-  if (spec->identifier != (isReal(object) ? kFftReal : kFftComplex)) return lumStatusBadContext;
-  *bufferSize = told(withRoom(spec->workBytes));
-  return lumStatusOk;
-}
-template LumStatus getFftBufferSize(const LumiFFTSpec_R_32f*, Lum32s*);
-template LumStatus getFftBufferSize(const LumiFFTSpec_C_32fc*, Lum32s*);
-
-template <>
-LumStatus getFftBufferSize(const LumiFFTSpec_R_32s* object, Lum32s* bufferSize) {
-  if (LumStatus fault = pointers(object, bufferSize)) return fault;
-  const auto* const spec = reinterpret_cast<const FftSpecOfIntegers*>(object);
-  if (spec->identifier != kFftIntegers) return lumStatusBadContext;
-  *bufferSize = spec->workBytes;
-  return lumStatusOk;
-}
+template LumStatus initAllocatedFft(LumiFFTSpec_R_32f**, int, int, Lum32s, LumAlgorithmHint);
+template LumStatus initAllocatedFft(LumiFFTSpec_R_32s**, int, int, Lum32s, LumAlgorithmHint);
 
 }  // namespace lumi

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "transforms/spectrum.hpp"
 
+#include <algorithm>
 #include <cstring>
 
+#include "frame/object.hpp"
 #include "kernels/planes.hpp"
 #include "kernels/transforms/colours.hpp"
 
@@ -11,9 +13,11 @@ namespace {
 
 using namespace transforms;
 
-// Points of short rows, and their packed spectra beside them, are on the stack: the scratch of short transforms has no
-// room for eight rows.
+// Points of short rows, and what they are made of, are on the stack: the scratch of short transforms of
+// power-of-two lengths has no room for eight rows.
 constexpr size_t kShortRow = 64;
+
+constexpr size_t kMostRows = 2 * kLanes;
 
 class RowRunner {
  public:
@@ -21,35 +25,54 @@ class RowRunner {
       : plan_(plan), areReal_(areReal), scratch_(scratch) {}
 
   // Rows that are transformed at once.
-  int atOnce() const { return plan_.rowsAreLong ? 1 : static_cast<int>(kLanes); }
+  size_t atOnce() const {
+    return plan_.method == RowMethod::single ? 1 : plan_.method == RowMethod::odd ? kMostRows : kLanes;
+  }
 
-  // So many rows of samples, of any image.
-  void run(const EightRows& rows) {
+  // At most as many rows, of any image.
+  void run(const Byte* const* src, Byte* const* dst, size_t count) {
     if (plan_.width == 1) {
       const size_t bytes = (areReal_ ? 1 : 2) * sizeof(float);
-      for (int i = 0; i < rows.count; ++i)
-        if (rows.src[i] != rows.dst[i]) std::memcpy(rows.dst[i], rows.src[i], bytes);
-    } else if (plan_.rowsAreLong) {
-      for (int i = 0; i < rows.count; ++i) runLong(rows.src[i], rows.dst[i]);
+      for (size_t i = 0; i < count; ++i)
+        if (src[i] != dst[i]) std::memcpy(dst[i], src[i], bytes);
+    } else if (plan_.method == RowMethod::single) {
+      runSingle(*src, *dst);
     } else {
-      runEight(rows);
+      runSideBySide(src, dst, count);
     }
   }
 
  private:
-  void runLong(const Byte* src, Byte* dst) {
+  void runSingle(const Byte* src, Byte* dst) {
     if (areReal_)
       transformRealRow(plan_.rows, plan_.inverse, plan_.rowScale, src, dst, scratch_);
     else
       transformRow(plan_.rows.half, plan_.inverse, plan_.rowScale, src, dst, scratch_);
   }
-  void runEight(EightRows rows) {
-    // Lanes without a row take the first one, and leave it nowhere.
-    for (size_t i = static_cast<size_t>(rows.count); i < kLanes; ++i) rows.src[i] = rows.src[0];
-    if (areReal_)
-      transformEightRealRows(plan_.rows, plan_.inverse, plan_.rowScale, rows, short_, nullptr);
+  void runSideBySide(const Byte* const* src, Byte* const* dst, size_t count) {
+    const Transform& transform = plan_.rows.half;
+    const bool isShort = transform.length <= kShortRow && transform.localFloats() == 0;
+    float* const points = isShort ? short_ : scratch_;
+    float* const local = points + 2 * transform.length * kPointFloats;
+    if (plan_.method == RowMethod::odd)
+      transformOddRealRows(transform, plan_.inverse, plan_.rowScale, every(2, 0, src, dst, count),
+                           every(2, 1, src, dst, count), points, local);
+    else if (areReal_)
+      transformEightRealRows(plan_.rows, plan_.inverse, plan_.rowScale, every(1, 0, src, dst, count), points,
+                             local);
     else
-      transformEightRows(plan_.rows.half, plan_.inverse, plan_.rowScale, rows, short_, nullptr);
+      transformEightRows(transform, plan_.inverse, plan_.rowScale, every(1, 0, src, dst, count), points,
+                         local);
+  }
+  // Lanes without a row take the first one, and leave it nowhere.
+  static EightRows every(size_t nth, size_t from, const Byte* const* src, Byte* const* dst, size_t count) {
+    EightRows rows = {};
+    for (size_t i = from; i < count; i += nth, ++rows.count) {
+      rows.src[rows.count] = src[i];
+      rows.dst[rows.count] = dst[i];
+    }
+    for (size_t i = static_cast<size_t>(rows.count); i < kLanes; ++i) rows.src[i] = src[0];
+    return rows;
   }
 
   const SpectrumPlan& plan_;
@@ -60,15 +83,15 @@ class RowRunner {
 
 void transformRows(const SpectrumPlan& plan, bool areReal, SourceRows src, TargetRows dst, float* scratch) {
   RowRunner runner(plan, areReal, scratch);
-  const int height = static_cast<int>(plan.height);
-  for (int y = 0; y < height; y += runner.atOnce()) {
-    EightRows rows;
-    rows.count = height - y < runner.atOnce() ? height - y : runner.atOnce();
-    for (int i = 0; i < rows.count; ++i) {
-      rows.src[i] = src.row(y + i);
-      rows.dst[i] = dst.row(y + i);
+  const Byte* from[kMostRows];
+  Byte* to[kMostRows];
+  for (size_t y = 0; y < plan.height; y += runner.atOnce()) {
+    const size_t count = std::min(runner.atOnce(), plan.height - y);
+    for (size_t i = 0; i < count; ++i) {
+      from[i] = src.row(static_cast<int>(y + i));
+      to[i] = dst.row(static_cast<int>(y + i));
     }
-    runner.run(rows);
+    runner.run(from, to, count);
   }
 }
 
@@ -93,27 +116,29 @@ void mergeRow(Byte* const* planes, Byte* row, size_t width) {
 // Channels as planes of rows: of as many rows as fill the lanes.
 template <typename Layout>
 void transformChannelRows(const SpectrumPlan& plan, SourceRows src, TargetRows dst, float* scratch) {
-  constexpr int kStored = Layout::kStored, kUsed = Layout::kUsed;
-  alignas(64) float shortPlanes[kLanes * 2 * kShortRow];
-  float* const planes = plan.rowsAreLong ? scratch : shortPlanes;
-  RowRunner runner(plan, true, scratch + (plan.rowsAreLong ? kStored * plan.width : 0));
-  const int height = static_cast<int>(plan.height), atOnce = runner.atOnce() / kStored > 1 ? 2 : 1;
-  for (int y = 0; y < height; y += atOnce) {
-    const int count = height - y < atOnce ? height - y : atOnce;
-    EightRows rows;
-    rows.count = 0;
-    Byte* plane[2][kStored];
-    for (int i = 0; i < count; ++i) {
-      for (int c = 0; c < kStored; ++c)
-        plane[i][c] = reinterpret_cast<Byte*>(planes + static_cast<size_t>(i * kStored + c) * plan.width);
-      splitRow<Layout>(src.row(y + i), plane[i], plan.width);
-      for (int c = 0; c < kUsed; ++c) {
-        rows.src[rows.count] = rows.dst[rows.count] = plane[i][c];
-        ++rows.count;
-      }
+  constexpr size_t kStored = Layout::kStored, kUsed = Layout::kUsed;
+  alignas(64) float shortPlanes[kMostRows * 2 * kShortRow];
+  const bool isSingle = plan.method == RowMethod::single, isShort = !isSingle && plan.width <= 2 * kShortRow;
+  // Planes are before the scratch of the rows, on a boundary.
+  const size_t room = roundedUp(static_cast<int64_t>((isSingle ? kStored : kMostRows) * plan.width), 16);
+  RowRunner runner(plan, true, scratch + (isShort ? 0 : room));
+  float* const planes = isShort ? shortPlanes : scratch;
+  const size_t atOnce = isSingle ? 1 : runner.atOnce() / kStored;
+  for (size_t y = 0; y < plan.height; y += atOnce) {
+    const size_t count = std::min(atOnce, plan.height - y);
+    Byte* plane[kMostRows];
+    Byte* used[kMostRows];
+    size_t lanes = 0;
+    for (size_t i = 0; i < count; ++i) {
+      for (size_t c = 0; c < kStored; ++c)
+        plane[i * kStored + c] = reinterpret_cast<Byte*>(planes + (i * kStored + c) * plan.width);
+      splitRow<Layout>(src.row(static_cast<int>(y + i)), plane + i * kStored, plan.width);
+      for (size_t c = 0; c < kUsed; ++c) used[lanes++] = plane[i * kStored + c];
     }
-    runner.run(rows);
-    for (int i = 0; i < count; ++i) mergeRow<Layout>(plane[i], dst.row(y + i), plan.width);
+    for (size_t i = 0; i < lanes; i += runner.atOnce())
+      runner.run(used + i, used + i, std::min(runner.atOnce(), lanes - i));
+    for (size_t i = 0; i < count; ++i)
+      mergeRow<Layout>(plane + i * kStored, dst.row(static_cast<int>(y + i)), plan.width);
   }
 }
 

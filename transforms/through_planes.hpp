@@ -22,7 +22,8 @@ LumStatus withScratch(Lum8u* buffer, int64_t bytes, const Run& run) {
   }
   const Scratch scratch(bytes + kObjectAlignment);
   if (!scratch) return lumStatusNoMemory;
-  run(static_cast<float*>(static_cast<void*>(alignedUp(static_cast<Lum8u*>(scratch.data()), kObjectAlignment))));
+  run(static_cast<float*>(
+      static_cast<void*>(alignedUp(static_cast<Lum8u*>(scratch.data()), kObjectAlignment))));
   return lumStatusOk;
 }
 
@@ -39,8 +40,8 @@ void planeToChannel(const T* plane, int planeStep, T* dst, int dstStep, LumiSize
     call::Copy4R<T, C1, C4>(plane, planeStep, dst, dstStep, size);
 }
 
-// Scratch: a plane of floats, one of bytes behind it, and that of the transform behind the room for four planes and a
-// row.
+// Scratch: a plane of floats, one of bytes behind it, and that of the transform behind the room for four
+// planes and a row.
 template <typename Layout>
 class ThroughPlanes {
  public:
@@ -83,7 +84,8 @@ class ThroughPlanes {
       if constexpr (Layout::kStored == 1) {
         lumiConvert_32f8u_C1RSfs(plane_, step_, dst, dstStep, size_, lumRoundNearestEven, scaleFactor_);
       } else {
-        lumiConvert_32f8u_C1RSfs(plane_, step_, bytes_, size_.width, size_, lumRoundNearestEven, scaleFactor_);
+        lumiConvert_32f8u_C1RSfs(plane_, step_, bytes_, size_.width, size_, lumRoundNearestEven,
+                                 scaleFactor_);
         planeToChannel<Lum8u, Stored>(bytes_, size_.width, dst + c, dstStep, size_);
       }
     }

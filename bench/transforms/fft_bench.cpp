@@ -19,8 +19,8 @@ Suite::Build complexRows(decltype(&lumiFFTFwd_CToC_32fc_C1R) call, bool inverse)
       },
       lumiFFTGetBufSize_C_32fc,
       [=](const auto& src, const auto& dst, const auto* spec, Lum8u* scratch) {
-        call(reinterpret_cast<const Lum32fc*>(src.data()), src.step, reinterpret_cast<Lum32fc*>(dst.data()), dst.step,
-             spec, scratch);
+        call(reinterpret_cast<const Lum32fc*>(src.data()), src.step, reinterpret_cast<Lum32fc*>(dst.data()),
+             dst.step, spec, scratch);
       });
 }
 

@@ -11,10 +11,11 @@
 
 namespace bench {
 
-// Work of a row with an object made for its size, and scratch of the size that it tells. Objects live as long as the
-// program.
+// Work of a row with an object made for its size, and scratch of the size that it tells. Objects live as long
+// as the program.
 template <typename Spec, typename Init, typename GetBufSize, typename Run>
-Suite::Build transforms(int channels, bool isComplex, bool inverse, Init init, GetBufSize getBufSize, Run run) {
+Suite::Build transforms(int channels, bool isComplex, bool inverse, Init init, GetBufSize getBufSize,
+                        Run run) {
   return [=](Scene& s) {
     const int samples = isComplex ? 2 : channels;
     const auto src = s.input<Lum32f>(samples), dst = s.output<Lum32f>(samples);

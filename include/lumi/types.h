@@ -127,6 +127,11 @@ typedef struct LumiFFTSpec_C_32fc LumiFFTSpec_C_32fc;
 typedef struct LumiFFTSpec_R_32f LumiFFTSpec_R_32f;
 typedef struct LumiFFTSpec_R_32s LumiFFTSpec_R_32s;
 
+/** The same for images of any size. */
+typedef struct LumiDFTSpec_C_32fc LumiDFTSpec_C_32fc;
+typedef struct LumiDFTSpec_R_32f LumiDFTSpec_R_32f;
+typedef struct LumiDFTSpec_R_32s LumiDFTSpec_R_32s;
+
 /** Levels between which lumiHistogram counts, in memory of the caller's. */
 typedef struct LumiHistogramSpec LumiHistogramSpec;
 

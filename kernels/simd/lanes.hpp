@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Vectors whose lanes are separate sequences, as transforms compute many at a time; and the ways between them and
-// images, where a sequence lies along a row or down a column.
+// Vectors whose lanes are separate sequences, as transforms compute many at a time; and the ways between them
+// and images, where a sequence lies along a row or down a column.
 #pragma once
 
 #include "kernels/simd/elementary.hpp"
@@ -47,8 +47,8 @@ inline Doubles4 broadcastLane<Doubles4>(const double* p) {
   return {_mm256_broadcast_sd(p)};
 }
 
-// Of sixteen floats in the order of memory, those at even and at odd places. Lanes are in the order 0 1 4 5 2 3 6 7,
-// which interleaveLow and interleaveHigh undo.
+// Of sixteen floats in the order of memory, those at even and at odd places. Lanes are in the order 0 1 4 5 2
+// 3 6 7, which interleaveLow and interleaveHigh undo.
 inline Floats8 evenLanes(Floats8 a, Floats8 b) { return {_mm256_shuffle_ps(a.v, b.v, 0x88)}; }
 inline Floats8 oddLanes(Floats8 a, Floats8 b) { return {_mm256_shuffle_ps(a.v, b.v, 0xDD)}; }
 inline Floats8 interleaveLowLanes(Floats8 a, Floats8 b) { return {_mm256_unpacklo_ps(a.v, b.v)}; }
@@ -66,8 +66,8 @@ inline Floats8 reversed(Floats8 x) {
   return {_mm256_permute_ps(_mm256_permute2f128_ps(x.v, x.v, 0x01), 0x1B)};
 }
 
-// In each half, rows of four become columns: of eight rows' floats c .. c + 3, joined as (row i, row i + 4), the four
-// columns with the rows as lanes; and back.
+// In each half, rows of four become columns: of eight rows' floats c .. c + 3, joined as (row i, row i + 4),
+// the four columns with the rows as lanes; and back.
 inline void transposeHalves(Floats8 (&x)[4]) {
   const Floats8 low01 = interleaveLowLanes(x[0], x[1]), high01 = interleaveHighLanes(x[0], x[1]);
   const Floats8 low23 = interleaveLowLanes(x[2], x[3]), high23 = interleaveHighLanes(x[2], x[3]);

@@ -37,7 +37,9 @@ struct PairsOf<C1> {
 template <>
 struct PairsOf<C4> {
   static constexpr size_t kPairs = 2;
-  static Complex<Lanes> load(const Byte* p) { return {loadTwoFours(p, p + 32), loadTwoFours(p + 16, p + 48)}; }
+  static Complex<Lanes> load(const Byte* p) {
+    return {loadTwoFours(p, p + 32), loadTwoFours(p + 16, p + 48)};
+  }
   static void store(Byte* p, Complex<Lanes> x) {
     storeFours(p, p + 32, x.re);
     storeFours(p + 16, p + 48, x.im);
@@ -100,6 +102,14 @@ void transformGroup(const Transform& transform, float scale, SourceRows src, Tar
     PairsOf<Layout>::store(dst.first + static_cast<ptrdiff_t>(k) * dst.step,
                            inTurn<inverse>({x.re * s, x.im * s}));
   };
+  if (!transform.isPowerOfTwo) {
+    for (size_t n = 0; n < transform.length; ++n)
+      storePoint(scratch + transform.slotOfPlace(n) * kPointFloats, load(n));
+    transformPoints(transform, scratch, scratch + transform.length * kPointFloats);
+    for (size_t k = 0; k < transform.length; ++k)
+      store(k, loadPoint<Lanes>(scratch + transform.slotOfFrequency(k) * kPointFloats));
+    return;
+  }
   if (!transform.isSplit()) return runPowerOfTwo<Lanes>(transform.inner, load, scratch, store);
   float* const local = scratch + transform.length * kPointFloats;
   runOuter(transform, load, scratch, local);
@@ -118,8 +128,8 @@ struct Pair {
   float re[Layout::kStored], im[Layout::kStored];
 };
 
-// Columns that are fewer than lanes; behind them, the first and last columns of a packed spectrum as the parts of one
-// complex sequence.
+// Columns that are fewer than lanes; behind them, the first and last columns of a packed spectrum as the
+// parts of one complex sequence.
 template <typename Layout, bool inverse>
 class FewColumns {
  public:
@@ -206,7 +216,8 @@ class FewColumns {
       std::memcpy(targetRow(n) + columns_.lastColumn * kPixel<Layout>, edges.im, kUsedBytes);
   }
 
-  // Value n of F + iG, of two packed spectra: F(n) is (re, im) of rows 2n - 1 and 2n, and the conjugate of F(height - n).
+  // Value n of F + iG, of two packed spectra: F(n) is (re, im) of rows 2n - 1 and 2n, and the conjugate of
+  // F(height - n).
   Pair<Layout> mixed(size_t n) const {
     const size_t k = n <= height_ / 2 ? n : height_ - n;
     if (k == 0 || 2 * k == height_) return loadEdges(k == 0 ? 0 : height_ - 1);
@@ -248,8 +259,8 @@ class FewColumns {
 };
 
 template <typename Layout, bool inverse>
-void transformAll(const Transform& transform, float scale, SourceRows src, TargetRows dst, const Columns& columns,
-                  float* scratch) {
+void transformAll(const Transform& transform, float scale, SourceRows src, TargetRows dst,
+                  const Columns& columns, float* scratch) {
   size_t done = 0;
   for (; columns.pairs - done >= PairsOf<Layout>::kPairs; done += PairsOf<Layout>::kPairs) {
     const size_t at = (columns.firstPair + 2 * done) * kPixel<Layout>;
@@ -271,9 +282,13 @@ void transformColumns(const Transform& transform, bool inverse, float scale, Sou
     transformAll<Pixel<stored, used>, false>(transform, scale, src, dst, columns, scratch);
 }
 
-template void transformColumns<1, 1>(const Transform&, bool, float, SourceRows, TargetRows, const Columns&, float*);
-template void transformColumns<3, 3>(const Transform&, bool, float, SourceRows, TargetRows, const Columns&, float*);
-template void transformColumns<4, 4>(const Transform&, bool, float, SourceRows, TargetRows, const Columns&, float*);
-template void transformColumns<4, 3>(const Transform&, bool, float, SourceRows, TargetRows, const Columns&, float*);
+template void transformColumns<1, 1>(const Transform&, bool, float, SourceRows, TargetRows, const Columns&,
+                                     float*);
+template void transformColumns<3, 3>(const Transform&, bool, float, SourceRows, TargetRows, const Columns&,
+                                     float*);
+template void transformColumns<4, 4>(const Transform&, bool, float, SourceRows, TargetRows, const Columns&,
+                                     float*);
+template void transformColumns<4, 3>(const Transform&, bool, float, SourceRows, TargetRows, const Columns&,
+                                     float*);
 
 }  // namespace lumi::transforms

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Transforms down the columns of images whose columns are pairs of a real and an imaginary pixel, and of the first
-// and last columns of packed spectra, which hold a real sequence's spectrum each.
+// Transforms down the columns of images whose columns are pairs of a real and an imaginary pixel, and of the
+// first and last columns of packed spectra, which hold a real sequence's spectrum each.
 #pragma once
 
 #include "kernels/rows.hpp"
@@ -12,8 +12,8 @@ namespace lumi::transforms {
 struct Columns {
   size_t firstPair;  // pixels before the first pair
   size_t pairs;
-  int realColumns;      // 0; 1, the first one of the image; or 2, the first and the last one
-  size_t lastColumn;    // the pixel of the last one
+  int realColumns;    // 0; 1, the first one of the image; or 2, the first and the last one
+  size_t lastColumn;  // the pixel of the last one
 
   // Of a packed spectrum, and of a complex image of that width.
   static Columns ofPacked(size_t width) {

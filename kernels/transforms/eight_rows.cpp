@@ -15,7 +15,8 @@ inline void loadFour(const EightRows& rows, size_t i, size_t floats, Four& x) {
     for (size_t r = 0; r < 4; ++r) x[r] = loadTwoFours(rows.src[r] + 16 * i, rows.src[r + 4] + 16 * i);
   } else {
     Byte rest[kLanes][16] = {};
-    for (size_t r = 0; r < kLanes; ++r) std::memcpy(rest[r], rows.src[r] + 16 * i, (floats - 4 * i) * sizeof(float));
+    for (size_t r = 0; r < kLanes; ++r)
+      std::memcpy(rest[r], rows.src[r] + 16 * i, (floats - 4 * i) * sizeof(float));
     for (size_t r = 0; r < 4; ++r) x[r] = loadTwoFours(rest[r], rest[r + 4]);
   }
   transposeHalves(x);
@@ -33,8 +34,8 @@ inline void storeFour(const EightRows& rows, size_t i, size_t floats, Four& x) {
   }
 }
 
-// Points go to their slots with the parts exchanged where the transform is inverse: `part` is what the real ones lie
-// behind the beginning of a point.
+// Points go to their slots with the parts exchanged where the transform is inverse: `part` is what the real
+// ones lie behind the beginning of a point.
 void fillPoints(const EightRows& rows, const Transform& transform, size_t part, float* points) {
   const size_t floats = 2 * transform.length;
   for (size_t i = 0; 4 * i < floats; ++i) {
@@ -48,7 +49,8 @@ void fillPoints(const EightRows& rows, const Transform& transform, size_t part, 
   }
 }
 
-void drainPoints(const EightRows& rows, const Transform& transform, size_t part, float scale, const float* points) {
+void drainPoints(const EightRows& rows, const Transform& transform, size_t part, float scale,
+                 const float* points) {
   const size_t floats = 2 * transform.length;
   const Lanes s = broadcastLane<Lanes>(&scale);
   for (size_t i = 0; 4 * i < floats; ++i) {
@@ -80,7 +82,8 @@ void splitSpectrum(const RealTransform& transform, float scale, const float* poi
   for (size_t k = 1; 2 * k <= m; ++k) {
     const Complex<Lanes> a = at(k), b = at(m - k);
     const Complex<Lanes> even = {a.re + b.re, a.im - b.im}, odd = {a.re - b.re, a.im + b.im};
-    const Lanes re = broadcastLane<Lanes>(transform.rootRe + k), im = broadcastLane<Lanes>(transform.rootIm + k);
+    const Lanes re = broadcastLane<Lanes>(transform.rootRe + k),
+                im = broadcastLane<Lanes>(transform.rootIm + k);
     const Complex<Lanes> turned = {odd.re * im + odd.im * re, odd.im * im - odd.re * re};
     store(k, even + turned);
     if (2 * k < m) store(m - k, {even.re - turned.re, turned.im - even.im});
@@ -91,7 +94,8 @@ void splitSpectrum(const RealTransform& transform, float scale, const float* poi
 void joinSpectrum(const RealTransform& transform, const float* packed, float* points) {
   const size_t m = transform.half.length;
   const auto at = [&](size_t k) {
-    return Complex<Lanes>{loadLanes<Lanes>(packed + (2 * k - 1) * kLanes), loadLanes<Lanes>(packed + 2 * k * kLanes)};
+    return Complex<Lanes>{loadLanes<Lanes>(packed + (2 * k - 1) * kLanes),
+                          loadLanes<Lanes>(packed + 2 * k * kLanes)};
   };
   const auto store = [&](size_t k, Complex<Lanes> x) {
     storePoint(points + transform.half.slotOfPlace(k) * kPointFloats, exchanged(x));
@@ -101,7 +105,8 @@ void joinSpectrum(const RealTransform& transform, const float* packed, float* po
   for (size_t k = 1; 2 * k <= m; ++k) {
     const Complex<Lanes> a = at(k), b = at(m - k);
     const Complex<Lanes> even = {a.re + b.re, a.im - b.im}, odd = {a.re - b.re, a.im + b.im};
-    const Lanes re = broadcastLane<Lanes>(transform.rootRe + k), im = broadcastLane<Lanes>(transform.rootIm + k);
+    const Lanes re = broadcastLane<Lanes>(transform.rootRe + k),
+                im = broadcastLane<Lanes>(transform.rootIm + k);
     const Complex<Lanes> turned = {odd.re * im - odd.im * re, odd.im * im + odd.re * re};
     store(k, even + turned);
     if (2 * k < m) store(m - k, {even.re - turned.re, turned.im - even.im});
@@ -110,8 +115,8 @@ void joinSpectrum(const RealTransform& transform, const float* packed, float* po
 
 }  // namespace
 
-void transformEightRows(const Transform& transform, bool inverse, float scale, const EightRows& rows, float* points,
-                        float* local) {
+void transformEightRows(const Transform& transform, bool inverse, float scale, const EightRows& rows,
+                        float* points, float* local) {
   const size_t part = inverse ? kLanes : 0;
   fillPoints(rows, transform, part, points);
   transformPoints(transform, points, local);
@@ -138,10 +143,101 @@ void transformEightRealRows(const RealTransform& transform, bool inverse, float 
     splitSpectrum(transform, scale, points, packed);
     for (size_t i = 0; 4 * i < floats; ++i) {
       Four x;
-      for (size_t j = 0; j < 4; ++j) x[j] = loadLanes<Lanes>(packed + (4 * i + j < floats ? 4 * i + j : 0) * kLanes);
+      for (size_t j = 0; j < 4; ++j)
+        x[j] = loadLanes<Lanes>(packed + (4 * i + j < floats ? 4 * i + j : 0) * kLanes);
       storeFour(rows, i, floats, x);
     }
   }
+}
+
+namespace {
+
+// Two packed spectra of an odd length, or the samples of both, as vectors of rows.
+float* secondOf(float* packed, size_t length) { return packed + length * kLanes; }
+
+void loadRows(const EightRows& rows, size_t floats, float* vectors) {
+  for (size_t i = 0; 4 * i < floats; ++i) {
+    Four x;
+    loadFour(rows, i, floats, x);
+    for (size_t j = 0; j < 4 && 4 * i + j < floats; ++j) storeLanes(vectors + (4 * i + j) * kLanes, x[j]);
+  }
+}
+void storeRows(const EightRows& rows, size_t floats, const float* vectors) {
+  for (size_t i = 0; 4 * i < floats; ++i) {
+    Four x;
+    for (size_t j = 0; j < 4; ++j)
+      x[j] = loadLanes<Lanes>(vectors + (4 * i + j < floats ? 4 * i + j : 0) * kLanes);
+    storeFour(rows, i, floats, x);
+  }
+}
+
+// F and G out of F + iG.
+void separateSpectra(const Transform& transform, float scale, const float* points, float* packed) {
+  const size_t n = transform.length;
+  const auto at = [&](size_t k) {
+    return loadPoint<Lanes>(points + transform.slotOfFrequency(k) * kPointFloats);
+  };
+  const float halfScale = 0.5f * scale;
+  const Lanes s = broadcastLane<Lanes>(&scale), h = broadcastLane<Lanes>(&halfScale);
+  float* const second = secondOf(packed, n);
+  storeLanes(packed, at(0).re * s);
+  storeLanes(second, at(0).im * s);
+  for (size_t k = 1; 2 * k < n; ++k) {
+    const Complex<Lanes> a = at(k), b = at(n - k);
+    storeLanes(packed + (2 * k - 1) * kLanes, (a.re + b.re) * h);
+    storeLanes(packed + 2 * k * kLanes, (a.im - b.im) * h);
+    storeLanes(second + (2 * k - 1) * kLanes, (a.im + b.im) * h);
+    storeLanes(second + 2 * k * kLanes, (b.re - a.re) * h);
+  }
+}
+
+// The way back, with parts exchanged.
+void mixSpectra(const Transform& transform, float* packed, float* points) {
+  const size_t n = transform.length;
+  const float* const second = secondOf(packed, n);
+  const auto store = [&](size_t k, Complex<Lanes> x) {
+    storePoint(points + transform.slotOfPlace(k) * kPointFloats, exchanged(x));
+  };
+  store(0, {loadLanes<Lanes>(packed), loadLanes<Lanes>(second)});
+  for (size_t k = 1; 2 * k < n; ++k) {
+    const size_t re = (2 * k - 1) * kLanes, im = 2 * k * kLanes;
+    const Complex<Lanes> f = {loadLanes<Lanes>(packed + re), loadLanes<Lanes>(packed + im)};
+    const Complex<Lanes> g = {loadLanes<Lanes>(second + re), loadLanes<Lanes>(second + im)};
+    store(k, plusTurned(f, g));
+    store(n - k, {f.re + g.im, g.re - f.im});
+  }
+}
+
+}  // namespace
+
+void transformOddRealRows(const Transform& transform, bool inverse, float scale, const EightRows& first,
+                          const EightRows& second, float* points, float* local) {
+  const size_t n = transform.length;
+  float* const packed = points + n * kPointFloats;
+  loadRows(first, n, packed);
+  loadRows(second, n, secondOf(packed, n));
+  if (inverse) {
+    mixSpectra(transform, packed, points);
+  } else {
+    for (size_t i = 0; i < n; ++i)
+      storePoint<Lanes>(
+          points + transform.slotOfPlace(i) * kPointFloats,
+          {loadLanes<Lanes>(packed + i * kLanes), loadLanes<Lanes>(secondOf(packed, n) + i * kLanes)});
+  }
+  transformPoints(transform, points, local);
+  if (inverse) {
+    const Lanes s = broadcastLane<Lanes>(&scale);
+    for (size_t i = 0; i < n; ++i) {
+      const Complex<Lanes> x =
+          exchanged(loadPoint<Lanes>(points + transform.slotOfFrequency(i) * kPointFloats));
+      storeLanes(packed + i * kLanes, x.re * s);
+      storeLanes(secondOf(packed, n) + i * kLanes, x.im * s);
+    }
+  } else {
+    separateSpectra(transform, scale, points, packed);
+  }
+  storeRows(first, n, packed);
+  storeRows(second, n, secondOf(packed, n));
 }
 
 }  // namespace lumi::transforms

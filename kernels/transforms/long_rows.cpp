@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One row at a time, as a matrix whose rows are as long as the inner transform: eight of its columns fill the lanes of
-// an outer transform, then, transposed, eight of its rows those of an inner one.
+// One row at a time, as a matrix whose rows are as long as the inner transform: eight of its columns fill the
+// lanes of an outer transform, then, transposed, eight of its rows those of an inner one.
 #include "kernels/transforms/rows.hpp"
 #include "kernels/transforms/split_transform.hpp"
 
@@ -15,8 +15,8 @@ float* localMemory(const Transform& transform, float* ofTheStack, float* scratch
   return transform.localFloats() <= kMostLocalFloats ? ofTheStack : scratch + 2 * transform.length;
 }
 
-// A row's complex numbers as blocks of eight real and eight imaginary parts: the bytes from block to block, and from
-// a real part to its imaginary one.
+// A row's complex numbers as blocks of eight real and eight imaginary parts: the bytes from block to block,
+// and from a real part to its imaginary one.
 struct Blocks {
   Byte* first;
   size_t apart, imaginary;
@@ -43,11 +43,11 @@ void storeInOrder(Byte* p, Complex<Lanes> x) {
   storeFours(p + 16, p + 48, b);
 }
 
-// The outer transforms: numbers 8i to 8i + 7 of the row come from load(i), and go to block i of `matrix`, which may be
-// where they came from.
+// The outer transforms: numbers 8i to 8i + 7 of the row come from load(i), and go to block i of `matrix`,
+// which may be where they came from.
 template <typename Load>
-[[gnu::always_inline]] inline void runOuterBlocks(const Transform& transform, const Load& load, const Blocks& matrix,
-                                                  float* local) {
+[[gnu::always_inline]] inline void runOuterBlocks(const Transform& transform, const Load& load,
+                                                  const Blocks& matrix, float* local) {
   const size_t blocks = transform.inner.length / kLanes;
   for (size_t block = 0; block < blocks; ++block) {
     const BlockRoots roots = rootsOfBlock(transform, block, roomForRoots(transform, local));
@@ -61,8 +61,8 @@ template <typename Load>
 
 // The inner ones: numbers 8i to 8i + 7 of the spectrum go to store(i, x).
 template <typename Store>
-[[gnu::always_inline]] inline void runInnerBlocks(const Transform& transform, const Blocks& matrix, float* local,
-                                                  const Store& store) {
+[[gnu::always_inline]] inline void runInnerBlocks(const Transform& transform, const Blocks& matrix,
+                                                  float* local, const Store& store) {
   const size_t rows = transform.outer.length / kLanes, blocks = transform.inner.length / kLanes;
   for (size_t eight = 0; eight < rows; ++eight) {
     for (size_t block = 0; block < blocks; ++block) {
@@ -81,7 +81,8 @@ template <typename Store>
         for (size_t c = 0; c < 4; ++c) storePoint<Lanes>(local + slot[c] * kPointFloats, {re[c], im[c]});
       }
     }
-    runFromSlots<Lanes>(transform.inner, local, [&](size_t j, Complex<Lanes> x) { store(eight + j * rows, x); });
+    runFromSlots<Lanes>(transform.inner, local,
+                        [&](size_t j, Complex<Lanes> x) { store(eight + j * rows, x); });
   }
 }
 
@@ -96,12 +97,12 @@ void splitSpectrum(const RealTransform& transform, float scale, const float* pla
   for (size_t k = 1; k <= m / 2; k += kLanes) {
     const size_t mirrored = m - k - (kLanes - 1);
     const Complex<Lanes> a = {loadLanes<Lanes>(re + k), loadLanes<Lanes>(im + k)};
-    const Complex<Lanes> b = {reversed(loadLanes<Lanes>(re + mirrored)), reversed(loadLanes<Lanes>(im + mirrored))};
+    const Complex<Lanes> b = {reversed(loadLanes<Lanes>(re + mirrored)),
+                              reversed(loadLanes<Lanes>(im + mirrored))};
     const Complex<Lanes> even = {a.re + b.re, a.im - b.im}, odd = {a.re - b.re, a.im + b.im};
     const Lanes wRe = loadLanes<Lanes>(transform.rootRe + k), wIm = loadLanes<Lanes>(transform.rootIm + k);
     const Complex<Lanes> turned = {odd.re * wIm + odd.im * wRe, odd.im * wIm - odd.re * wRe};
-    storeInOrder(place(mirrored),
-                 {reversed((even.re - turned.re) * h), reversed((turned.im - even.im) * h)});
+    storeInOrder(place(mirrored), {reversed((even.re - turned.re) * h), reversed((turned.im - even.im) * h)});
     storeInOrder(place(k), {(even.re + turned.re) * h, (even.im + turned.im) * h});
   }
   move<4>(packed, reinterpret_cast<const Byte*>(&ends[0]));
@@ -147,8 +148,9 @@ void transformRow(const Transform& transform, bool inverse, float scale, const B
   if (inverse) {
     runOuterBlocks(
         transform, [=](size_t i) { return exchanged(loadInOrder(src + 64 * i)); }, matrix, local);
-    runInnerBlocks(transform, matrix, local,
-                   [=](size_t i, Complex<Lanes> x) { storeInOrder(dst + 64 * i, exchanged(scaled(x, scale))); });
+    runInnerBlocks(transform, matrix, local, [=](size_t i, Complex<Lanes> x) {
+      storeInOrder(dst + 64 * i, exchanged(scaled(x, scale)));
+    });
   } else {
     runOuterBlocks(
         transform, [=](size_t i) { return loadInOrder(src + 64 * i); }, matrix, local);
@@ -167,8 +169,9 @@ void transformRealRow(const RealTransform& transform, bool inverse, float scale,
     joinSpectrum(transform, src, scratch);
     runOuterBlocks(
         half, [=](size_t i) { return planes.load(i); }, planes, local);
-    runInnerBlocks(half, planes, local,
-                   [=](size_t i, Complex<Lanes> x) { storeInOrder(dst + 64 * i, exchanged(scaled(x, scale))); });
+    runInnerBlocks(half, planes, local, [=](size_t i, Complex<Lanes> x) {
+      storeInOrder(dst + 64 * i, exchanged(scaled(x, scale)));
+    });
   } else {
     const Blocks matrix = Blocks::inTurn(dst);
     runOuterBlocks(

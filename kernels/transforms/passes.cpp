@@ -5,7 +5,6 @@
 
 #include "kernels/transforms/roots.hpp"
 
-
 namespace lumi::transforms {
 namespace {
 
@@ -128,13 +127,20 @@ template <typename V>
 void runAnyPass(const Passes<V>& passes, int which, ScalarOf<V>* points) {
   const Pass<V>& pass = passes.pass[which];
   switch (pass.radix) {
-    case 2: return runPass<V, 2>(pass, passes.length, points);
-    case 4: return runPass<V, 4>(pass, passes.length, points);
-    case 8: return runPass<V, 8>(pass, passes.length, points);
-    case 3: return runPass<V, 3>(pass, passes.length, points);
-    case 5: return runPass<V, 5>(pass, passes.length, points);
-    case 7: return runPass<V, 7>(pass, passes.length, points);
-    default: return runOddPass(pass, passes.length, points);
+    case 2:
+      return runPass<V, 2>(pass, passes.length, points);
+    case 4:
+      return runPass<V, 4>(pass, passes.length, points);
+    case 8:
+      return runPass<V, 8>(pass, passes.length, points);
+    case 3:
+      return runPass<V, 3>(pass, passes.length, points);
+    case 5:
+      return runPass<V, 5>(pass, passes.length, points);
+    case 7:
+      return runPass<V, 7>(pass, passes.length, points);
+    default:
+      return runOddPass(pass, passes.length, points);
   }
 }
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Complex Fourier transforms of many sequences at once, one in each lane of a vector, by decimation in time: passes
-// of butterflies, each of which joins `radix` transforms of m points into one of radix * m.
+// Complex Fourier transforms of many sequences at once, one in each lane of a vector, by decimation in time:
+// passes of butterflies, each of which joins `radix` transforms of m points into one of radix * m.
 //
-// Memory of n points holds their real and imaginary vectors in turn. All transforms are forward; an inverse one is
-// the forward one with the two parts exchanged on the way in and on the way out.
+// Memory of n points holds their real and imaginary vectors in turn. All transforms are forward; an inverse
+// one is the forward one with the two parts exchanged on the way in and on the way out.
 #pragma once
 
 #include <array>
@@ -143,8 +143,8 @@ template <typename V, size_t p>
   }
 }
 
-// One pass over a transform of radix * m points: butterflies j of the points j + i * m, which load(j + i * m) gives and
-// store(j + i * m, x) takes. `roots` has radix - 1 numbers for each j, the first ones 1.
+// One pass over a transform of radix * m points: butterflies j of the points j + i * m, which load(j + i * m)
+// gives and store(j + i * m, x) takes. `roots` has radix - 1 numbers for each j, the first ones 1.
 template <typename V, size_t radix, typename Load, typename Store>
 [[gnu::always_inline]] inline void joinTransforms(size_t m, const ScalarOf<V>* roots, const Load& load,
                                                   const Store& store) {
@@ -196,7 +196,8 @@ void runFirstPasses(const Passes<V>& passes, ScalarOf<V>* points);
 template <typename V>
 void runPasses(const Passes<V>& passes, ScalarOf<V>* points);
 
-// The input's places in the order in which the first pass takes them: a counter whose first digit counts most.
+// The input's places in the order in which the first pass takes them: a counter whose first digit counts
+// most.
 template <typename V>
 class FirstPlaces {
  public:
@@ -221,7 +222,8 @@ class FirstPlaces {
 };
 
 template <typename V, size_t radix, typename Load>
-[[gnu::always_inline]] inline void runFirstPass(const Passes<V>& passes, const Load& load, ScalarOf<V>* points) {
+[[gnu::always_inline]] inline void runFirstPass(const Passes<V>& passes, const Load& load,
+                                                ScalarOf<V>* points) {
   const size_t apart = passes.length / radix;
   FirstPlaces<V> from(passes);
   for (size_t block = 0; block < apart; ++block, from.next()) {
@@ -234,7 +236,8 @@ template <typename V, size_t radix, typename Load>
 
 // A transform of 2^order points that stand in their slots, to store(place, x).
 template <typename V, typename Store>
-[[gnu::always_inline]] inline void runFromSlots(const Passes<V>& passes, ScalarOf<V>* points, const Store& store) {
+[[gnu::always_inline]] inline void runFromSlots(const Passes<V>& passes, ScalarOf<V>* points,
+                                                const Store& store) {
   const auto load = [=](size_t i) { return loadPoint<V>(points + i * kPoint<V>); };
   const Pass<V>& last = passes.pass[passes.count - 1];
   if (last.radix == 8) return joinTransforms<V, 8>(1, nullptr, load, store);
@@ -244,8 +247,8 @@ template <typename V, typename Store>
 
 // A transform of 2^order points, from load(place) by way of memory for the points to store(place, x).
 template <typename V, typename Load, typename Store>
-[[gnu::always_inline]] inline void runPowerOfTwo(const Passes<V>& passes, const Load& load, ScalarOf<V>* points,
-                                                 const Store& store) {
+[[gnu::always_inline]] inline void runPowerOfTwo(const Passes<V>& passes, const Load& load,
+                                                 ScalarOf<V>* points, const Store& store) {
   if (passes.count == 1) {
     if (passes.length == 2) return joinTransforms<V, 2>(1, nullptr, load, store);
     if (passes.length == 4) return joinTransforms<V, 4>(1, nullptr, load, store);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Roots of unity by additions and multiplications alone, so that tables are the same in every build and can be
-// made when the library is compiled.
+// Roots of unity by additions and multiplications alone, so that tables are the same in every build and can
+// be made when the library is compiled.
 #pragma once
 
 #include <cstdint>
@@ -25,17 +25,22 @@ constexpr double cosineNearZero(double x) {
   return 1 - s / 2 * (1 + sum);
 }
 
-// exp(-2 pi i k / n) for 0 <= k < n < 2^60. The angle is a number of quadrants, and a rest of at most half of one
-// on either side that is known exactly before it is rounded.
+// exp(-2 pi i k / n) for 0 <= k < n < 2^60. The angle is a number of quadrants, and a rest of at most half of
+// one on either side that is known exactly before it is rounded.
 constexpr Root root(int64_t k, int64_t n) {
   const int64_t quadrants = (4 * k + n / 2) / n;
-  const double rest = 1.5707963267948966 * (static_cast<double>(4 * k - quadrants * n) / static_cast<double>(n));
+  const double rest =
+      1.5707963267948966 * (static_cast<double>(4 * k - quadrants * n) / static_cast<double>(n));
   const double c = cosineNearZero(rest), s = sineNearZero(rest);
   switch (quadrants & 3) {
-    case 0: return {c, -s};
-    case 1: return {-s, -c};
-    case 2: return {-c, s};
-    default: return {s, c};
+    case 0:
+      return {c, -s};
+    case 1:
+      return {-s, -c};
+    case 2:
+      return {-c, s};
+    default:
+      return {s, c};
   }
 }
 

@@ -6,8 +6,8 @@
 
 namespace lumi::transforms {
 
-// The roots that a block of eight c is turned by: those of k are `apart` floats behind those of k - 1. Room has
-// space for a point of each k.
+// The roots that a block of eight c is turned by: those of k are `apart` floats behind those of k - 1. Room
+// has space for a point of each k.
 struct BlockRoots {
   const float* first;
   size_t apart;

@@ -20,7 +20,8 @@ Root product(const double* coarse, const double* fine) {
   return {coarse[0] * fine[0] - coarse[1] * fine[1], coarse[0] * fine[1] + coarse[1] * fine[0]};
 }
 
-// Passes beyond those of kLargestTable are as many as this at the most: of radix 4 from 2^11 or 2^12 points to 2^14.
+// Passes beyond those of kLargestTable are as many as this at the most: of radix 4 from 2^11 or 2^12 points
+// to 2^14.
 constexpr int kMostPasses = 8;
 
 int64_t largePassesBytes(int order) {
@@ -64,11 +65,27 @@ Passes<Lanes> largePasses(int order, uint8_t*& memory) {
 }  // namespace
 
 Transform wholeTransform(int order) {
-  return {size_t{1} << order, passesOfOrder(0), passesOfOrder(order), nullptr, nullptr, nullptr, 0};
+  return {size_t{1} << order,
+          passesOfOrder(0),
+          passesOfOrder(order),
+          nullptr,
+          nullptr,
+          nullptr,
+          0,
+          nullptr,
+          true};
 }
 
 Transform splitTransform(int order, const float* roots) {
-  return {size_t{1} << order, passesOfOrder(order / 2), passesOfOrder(order - order / 2), roots, nullptr, nullptr, 0};
+  return {size_t{1} << order,
+          passesOfOrder(order / 2),
+          passesOfOrder(order - order / 2),
+          roots,
+          nullptr,
+          nullptr,
+          0,
+          nullptr,
+          true};
 }
 
 void fillRoots(int order, float* roots) {
@@ -77,7 +94,8 @@ void fillRoots(int order, float* roots) {
   const auto inner = static_cast<int64_t>(transform.inner.length);
   for (int64_t i = 0; i < length; ++i) {
     const Root w = root(i / inner * (i % inner), length);
-    float* const block = roots + static_cast<size_t>(i) / kLanes * kPointFloats + static_cast<size_t>(i) % kLanes;
+    float* const block =
+        roots + static_cast<size_t>(i) / kLanes * kPointFloats + static_cast<size_t>(i) % kLanes;
     block[0] = static_cast<float>(w.re);
     block[kLanes] = static_cast<float>(w.im);
   }
@@ -107,7 +125,7 @@ Transform largeTransform(int order, void* memory) {
   const double* const fine = fill(int64_t{1} << shift, 1);
   const Passes<Lanes> outer = largePasses(order / 2, rest);
   const Passes<Lanes> inner = largePasses(order - order / 2, rest);
-  return {static_cast<size_t>(length), outer, inner, nullptr, coarse, fine, shift};
+  return {static_cast<size_t>(length), outer, inner, nullptr, coarse, fine, shift, nullptr, true};
 }
 
 BlockRoots rootsOfBlock(const Transform& transform, size_t block, float* room) {
@@ -116,7 +134,8 @@ BlockRoots rootsOfBlock(const Transform& transform, size_t block, float* room) {
   for (size_t k = 0; k < transform.outer.length; ++k) {
     for (size_t lane = 0; lane < kLanes; ++lane) {
       const size_t turn = k * (block * kLanes + lane);  // below the length
-      const Root w = product(transform.coarse + 2 * (turn >> transform.shift), transform.fine + 2 * (turn & below));
+      const Root w =
+          product(transform.coarse + 2 * (turn >> transform.shift), transform.fine + 2 * (turn & below));
       room[k * kPointFloats + lane] = static_cast<float>(w.re);
       room[k * kPointFloats + kLanes + lane] = static_cast<float>(w.im);
     }
@@ -124,7 +143,35 @@ BlockRoots rootsOfBlock(const Transform& transform, size_t block, float* room) {
   return {room, kPointFloats};
 }
 
+namespace {
+
+Complex<Lanes> turned(const float* points, size_t slot, const float* root) {
+  return loadPoint<Lanes>(points + slot * kPointFloats) * broadcastRoot<Lanes>(root);
+}
+
+void convolve(const Chirp& chirp, size_t length, float* points, float* local) {
+  const Transform& convolution = chirp.convolution;
+  float *const first = local, *const second = first + convolution.length * kPointFloats;
+  float* const rest = second + convolution.length * kPointFloats;
+  const Lanes zero = {};
+  for (size_t n = 0; n < convolution.length; ++n)
+    storePoint<Lanes>(first + convolution.slotOfPlace(n) * kPointFloats,
+                      n < length ? turned(points, n, chirp.turns + 2 * n) : Complex<Lanes>{zero, zero});
+  transformPoints(convolution, first, rest);
+  for (size_t k = 0; k < convolution.length; ++k)
+    storePoint<Lanes>(second + convolution.slotOfPlace(k) * kPointFloats,
+                      exchanged(turned(first, convolution.slotOfFrequency(k), chirp.spectrum + 2 * k)));
+  transformPoints(convolution, second, rest);
+  for (size_t k = 0; k < length; ++k) {
+    const Complex<Lanes> x = loadPoint<Lanes>(second + convolution.slotOfFrequency(k) * kPointFloats);
+    storePoint<Lanes>(points + k * kPointFloats, exchanged(x) * broadcastRoot<Lanes>(chirp.turns + 2 * k));
+  }
+}
+
+}  // namespace
+
 void transformPoints(const Transform& transform, float* points, float* local) {
+  if (transform.chirp) return convolve(*transform.chirp, transform.length, points, local);
   if (!transform.isSplit()) return runPasses(transform.inner, points);
   const auto load = [=](size_t n) { return loadPoint<Lanes>(points + n * kPointFloats); };
   runOuter(transform, load, points, local);

@@ -3,9 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <map>
 
-#include "support/member.hpp"
 #include "support/named_faults.hpp"
 #include "support/settings.hpp"
 #include "transforms/spectrum_runs.hpp"
@@ -18,11 +16,7 @@ using namespace spectra;
 const Family kFft = {"FFT", "orderX", "orderY", true};
 
 const bool covered = [] {
-  for (const TransformRun& member : floatRuns()) addCovered({member.nameOf(kFft)});
-  for (const TransformRun& member : integerRuns()) addCovered({member.nameOf(kFft)});
-  for (const std::string kind : {"C_32fc", "R_32f", "R_32s"})
-    for (const std::string what : {"InitAlloc_", "Free_", "GetBufSize_"}) addCovered({"lumiFFT" + what + kind});
-  for (const std::string kind : {"C_32fc", "R_32f"}) addCovered({"lumiFFTGetSize_" + kind, "lumiFFTInit_" + kind});
+  addCoveredMembers(kFft);
   return true;
 }();
 
@@ -50,8 +44,8 @@ struct LongCase {
 };
 class FftLong : public testing::TestWithParam<LongCase> {};
 
-// Split rows and columns, with tables of their length and, from 2^19 points on, without; factors beyond the tables
-// that all transforms share from 2^21 on.
+// Split rows and columns, with tables of their length and, from 2^19 points on, without; factors beyond the
+// tables that all transforms share from 2^21 on.
 TEST_P(FftLong, RunsAsTheDefinition) {
   Random random(mixSeed(settings().seed, "fft", GetParam().orderX));
   double worst = 0;
@@ -74,7 +68,8 @@ INSTANTIATE_TEST_SUITE_P(Rows, FftLong,
                                          LongCase{11, 2}, LongCase{13, 0}, LongCase{0, 13}, LongCase{18, 0},
                                          LongCase{0, 19}, LongCase{20, 0}),
                          [](const auto& param) {
-                           return std::to_string(param.param.orderX) + "_" + std::to_string(param.param.orderY);
+                           return std::to_string(param.param.orderX) + "_" +
+                                  std::to_string(param.param.orderY);
                          });
 
 TEST(Fft, RunsFactorsBeyondTheSharedTables) {
@@ -106,8 +101,7 @@ TEST(Fft, RoundsIntegers) {
   Random random(settings().seed);
   for (const TransformRun& member : integerRuns())
     for (int i = 0; i < 12; ++i)
-      ASSERT_NO_FATAL_FAILURE(
-          expectIntegers(kFft, member, sizeOf(random.below(8), random.below(6)), random));
+      ASSERT_NO_FATAL_FAILURE(expectIntegers(kFft, member, sizeOf(random.below(8), random.below(6)), random));
 }
 
 // A real image at flag 8 forward, and back at flag 8, is the image times its size.
@@ -124,7 +118,8 @@ TEST(Fft, TakesTwoFlagsApart) {
       call.image("srcDst", image.data(), 32).pointer("object", object).pointer("buffer", nullptr);
       ASSERT_EQ(call.run(), lumStatusOk);
     }
-    for (size_t i = 0; i < 64; ++i) EXPECT_NEAR(image[i], before[i] * (flag == 8 ? 64 : 1), flag == 8 ? 2e-3 : 3e-5);
+    for (size_t i = 0; i < 64; ++i)
+      EXPECT_NEAR(image[i], before[i] * (flag == 8 ? 64 : 1), flag == 8 ? 2e-3 : 3e-5);
     EXPECT_EQ(NamedCall("lumiFFTFree_R_32f").pointer("object", object).run(), lumStatusOk);
   }
 }
@@ -138,7 +133,8 @@ int64_t upTo64(int64_t n) { return downTo64(n + 63); }
 Bytes complexBytes(int order) {
   const int64_t n = int64_t{1} << order;
   if (order <= 6) return {152, 0, 0};
-  return {downTo64(8 * n + 71) + downTo64(n + 67) + 192, order >= 11 ? downTo64(n + 67) + 64 : 0, upTo64(8 * n) + 64};
+  return {downTo64(8 * n + 71) + downTo64(n + 67) + 192, order >= 11 ? downTo64(n + 67) + 64 : 0,
+          upTo64(8 * n) + 64};
 }
 Bytes realBytes(int order) {
   const int64_t n = int64_t{1} << order, tables = (4 * n + 126) / 128 * 128 + 192;
@@ -157,8 +153,10 @@ TEST(Fft, TellsSizes) {
       const int other = x == y ? 0 : 1;
       int told[3];
       ASSERT_EQ(kFft.getSize("R_32f", sizeOf(x, y), 8, told).run(), lumStatusOk);
-      EXPECT_EQ(told[0], upTo64(rx.object) + other * upTo64(ry.object) + upTo64(cy.object) + 128) << x << " " << y;
-      EXPECT_EQ(told[1], andRoom(upTo64(rx.init) + other * upTo64(ry.init) + upTo64(cy.init))) << x << " " << y;
+      EXPECT_EQ(told[0], upTo64(rx.object) + other * upTo64(ry.object) + upTo64(cy.object) + 128)
+          << x << " " << y;
+      EXPECT_EQ(told[1], andRoom(upTo64(rx.init) + other * upTo64(ry.init) + upTo64(cy.init)))
+          << x << " " << y;
       EXPECT_EQ(told[2],
                 upTo64(std::max({16 * width + rx.work, 16 * height + ry.work, 64 * height + cy.work})) + 64)
           << x << " " << y;
@@ -198,7 +196,8 @@ TEST(FftStatus, OfSizes) {
   for (const bool isReal : {false, true}) {
     int told[3] = {-7, -7, -7};
     const NamedCall right = kFft.getSize(isReal ? "R_32f" : "C_32fc", sizeOf(3, 2), 4, told);
-    std::vector<NamedFault> faults = {nullFault("objectSize"), nullFault("initSize"), nullFault("bufferSize")};
+    std::vector<NamedFault> faults = {nullFault("objectSize"), nullFault("initSize"),
+                                      nullFault("bufferSize")};
     addOrders(faults, "orderX", {31, INT32_MAX});
     addAxes(faults, isReal);
     addOrders(faults, "orderY", {31, 99});
@@ -246,78 +245,11 @@ TEST(FftStatus, OfAllocatedObjects) {
     addAxes(faults, kind[0] == 'R');
     addOrders(faults, "orderY", {31, 99});
     expectInOrder(right, faults, [&](LumStatus) { ASSERT_EQ(object, nowhere); });
-    const std::string result = expectAllocatedLife(right, "object", NamedCall("lumiFFTFree_" + kind), "object", [&](void* made) {
-      int bytes = -7;
-      NamedCall query("lumiFFTGetBufSize_" + kind);
-      query.pointer("object", made).pointer("bufferSize", &bytes);
-      EXPECT_EQ(query.run(), lumStatusOk);
-      EXPECT_GT(bytes, 0);
-      EXPECT_EQ(NamedCall(query).pointer("bufferSize", nullptr).run(), lumStatusNullPointer);
-      EXPECT_EQ(NamedCall(query).pointer("object", nullptr).run(), lumStatusNullPointer);
-    });
-    EXPECT_EQ(result, "");
+    expectAllocatedObjects(kFft, right, kind);
   }
 }
 
-// Objects of the other kinds, in the place of a member's.
-TEST(FftStatus, OfRuns) {
-  std::map<std::string, void*> objects;
-  for (const std::string kind : {"C_32fc", "R_32f", "R_32s"})
-    ASSERT_EQ(kFft.initAlloc(kind, sizeOf(2, 1), 8).pointer("object", &objects[kind]).run(), lumStatusOk);
-  std::vector<TransformRun> all = floatRuns();
-  for (const TransformRun& member : integerRuns()) all.push_back(member);
-  for (const TransformRun& member : all) {
-    SCOPED_TRACE(member.nameOf(kFft));
-    const CoreGuard guard;
-    const std::vector<Byte> before(64 * 4, 0x3c);
-    std::vector<Byte> src = before, dst = before;
-    NamedCall right(member.nameOf(kFft));
-    right.pointer("object", objects[member.kind()]).pointer("buffer", nullptr);
-    std::vector<NamedFault> faults = {nullFault("object")};
-    for (const auto& [kind, object] : objects) {
-      if (kind == member.kind()) continue;
-      void* const other = object;
-      faults.push_back({[=](NamedCall& c) { c.pointer("object", other); }, lumStatusBadContext, 1});
-    }
-    faults[0].exclusive = 1;
-    const auto image = [&](const char* name, std::vector<Byte>& bytes, int exclusive) {
-      right.image(name, bytes.data(), 64);
-      Byte* const first = bytes.data();
-      faults.push_back({[=](NamedCall& c) { c.image(name, nullptr, 64); }, lumStatusNullPointer, exclusive});
-      for (const int step : {0, -64})
-        faults.push_back({[=](NamedCall& c) { c.image(name, first, step); }, lumStatusBadStep, exclusive});
-    };
-    if (member.inPlace) {
-      image("srcDst", dst, 2);
-    } else {
-      image("src", src, 2);
-      image("dst", dst, 3);
-    }
-    // Null pointers of both images come before steps.
-    std::stable_sort(faults.begin() + 3, faults.end(), [](const NamedFault& a, const NamedFault& b) {
-      return a.status == lumStatusNullPointer && b.status != lumStatusNullPointer;
-    });
-    expectInOrder(right, faults, [&](LumStatus) { ASSERT_EQ(dst, before); });
-    testcore::failAllocation(1);
-    EXPECT_EQ(right.run(), lumStatusNoMemory);
-    EXPECT_EQ(dst, before);
-    EXPECT_EQ(right.run(), lumStatusOk);
-    EXPECT_EQ(testcore::counts().liveBlocks, 0);
-  }
-  for (const auto& [kind, object] : objects) {
-    for (const auto& [other, wrong] : objects) {
-      if (other == kind) continue;
-      EXPECT_EQ(NamedCall("lumiFFTFree_" + kind).pointer("object", wrong).run(), lumStatusBadContext);
-      int bytes = -7;
-      NamedCall query("lumiFFTGetBufSize_" + kind);
-      EXPECT_EQ(query.pointer("object", wrong).pointer("bufferSize", &bytes).run(), lumStatusBadContext);
-      EXPECT_EQ(bytes, -7);
-    }
-    EXPECT_EQ(NamedCall("lumiFFTFree_" + kind).pointer("object", nullptr).run(), lumStatusNullPointer);
-  }
-  for (const auto& [kind, object] : objects)
-    EXPECT_EQ(NamedCall("lumiFFTFree_" + kind).pointer("object", object).run(), lumStatusOk);
-}
+TEST(FftStatus, OfRuns) { expectRunStatuses(kFft); }
 
 }  // namespace
 }  // namespace test

@@ -1,18 +1,21 @@
 // SPDX-License-Identifier: MIT
-// Runs of transforms of a family, `FFT` or `DFT`, against the model: members of one interface, whose sizes are orders of
-// the one and lengths of the other.
+// Runs of transforms of a family, `FFT` or `DFT`, against the model: members of one interface, whose sizes
+// are orders of the one and lengths of the other.
 #pragma once
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
+#include <map>
 #include <string>
 #include <vector>
 
 #include "model/transforms/spectrum.hpp"
 #include "support/arena.hpp"
 #include "support/core_guard.hpp"
-#include "support/named_call.hpp"
+#include "support/member.hpp"
+#include "support/named_faults.hpp"
 #include "support/object_memory.hpp"
 
 namespace test::spectra {
@@ -24,7 +27,9 @@ struct Family {
 
   double argument(int n) const { return byOrder ? std::log2(static_cast<double>(n)) : n; }
   NamedCall& sized(NamedCall&& call, LumiSize size, int flag) const {
-    return call.number(width, argument(size.width)).number(height, argument(size.height)).number("flag", flag);
+    return call.number(width, argument(size.width))
+        .number(height, argument(size.height))
+        .number("flag", flag);
   }
   NamedCall getSize(const std::string& kind, LumiSize size, int flag, int* bytes) const {
     return sized(NamedCall("lumi" + name + "GetSize_" + kind), size, flag)
@@ -53,9 +58,12 @@ struct TransformRun {
   int dstBytes() const { return ofIntegers && inverse ? 1 : 4; }
   std::string kind() const { return isComplex ? "C_32fc" : ofIntegers ? "R_32s" : "R_32f"; }
   std::string nameOf(const Family& family) const {
-    const std::string what = isComplex ? inverse ? "Inv_CToC" : "Fwd_CToC" : inverse ? "Inv_PackToR" : "Fwd_RToPack";
+    const std::string what = isComplex ? inverse ? "Inv_CToC" : "Fwd_CToC"
+                             : inverse ? "Inv_PackToR"
+                                       : "Fwd_RToPack";
     const std::string type = isComplex ? "32fc" : !ofIntegers ? "32f" : inverse ? "32s8u" : "8u32s";
-    return "lumi" + family.name + what + "_" + type + "_" + layout + (inPlace ? "IR" : "R") + (ofIntegers ? "Sfs" : "");
+    return "lumi" + family.name + what + "_" + type + "_" + layout + (inPlace ? "IR" : "R") +
+           (ofIntegers ? "Sfs" : "");
   }
 };
 
@@ -65,8 +73,8 @@ inline double factorOf(int flag, bool inverse, int n) {
 }
 
 // The samples of one channel as numbers, and the model's result for them.
-inline std::vector<double> wanted(const TransformRun& member, const std::vector<double>& samples, LumiSize size,
-                                  double factor) {
+inline std::vector<double> wanted(const TransformRun& member, const std::vector<double>& samples,
+                                  LumiSize size, double factor) {
   const auto width = static_cast<size_t>(size.width), height = static_cast<size_t>(size.height);
   std::vector<double> result;
   if (member.isComplex) {
@@ -77,7 +85,8 @@ inline std::vector<double> wanted(const TransformRun& member, const std::vector<
       result.push_back(f.imag());
     }
   } else if (member.inverse) {
-    for (const auto& f : model::transformedImage(model::unpacked(samples, size.width, size.height), width, height, true))
+    for (const auto& f :
+         model::transformedImage(model::unpacked(samples, size.width, size.height), width, height, true))
       result.push_back(f.real());
   } else {
     const model::Numbers x(samples.begin(), samples.end());
@@ -145,7 +154,8 @@ class RunImage {
   Byte* first_;
 };
 
-// The relative error of a whole image, in units of 2.5e-7 times the logarithm of its size. What is zero must be zero.
+// The relative error of a whole image, in units of 2.5e-7 times the logarithm of its size. What is zero must
+// be zero.
 inline double relativeError(const std::vector<double>& got, const std::vector<double>& right, LumiSize size) {
   double errors = 0, all = 0;
   for (size_t i = 0; i < got.size(); ++i) {
@@ -159,17 +169,20 @@ inline double relativeError(const std::vector<double>& got, const std::vector<do
 }
 
 // One run, with scratch of the caller's or none; the greatest relative error of its channels goes to *worst.
-inline void expectRun(const Family& family, const TransformRun& member, LumiSize size, Random& random, double* worst) {
+inline void expectRun(const Family& family, const TransformRun& member, LumiSize size, Random& random,
+                      double* worst) {
   const std::string name = member.nameOf(family);
   const int flag = 1 << random.below(4);
-  const auto where = testing::Message() << name << " " << size.width << "x" << size.height << " flag " << flag;
+  const auto where = testing::Message()
+                     << name << " " << size.width << "x" << size.height << " flag " << flag;
   ObjectSteps steps(random);
   int bytes[3];
   std::vector<Byte> scratch;
   NamedCall query = family.getSize(member.kind(), size, flag, bytes);
   ASSERT_EQ(query.run(), lumStatusOk) << where;
   scratch.resize(static_cast<size_t>(bytes[1]));
-  ASSERT_EQ(steps.init(query, "objectSize", family.init(member.kind(), size, flag, scratch.data()), "object"), "")
+  ASSERT_EQ(steps.init(query, "objectSize", family.init(member.kind(), size, flag, scratch.data()), "object"),
+            "")
       << where;
   int bufferSize = 0;
   ASSERT_EQ(steps.makeScratch(NamedCall("lumi" + family.name + "GetBufSize_" + member.kind())
@@ -190,7 +203,8 @@ inline void expectRun(const Family& family, const TransformRun& member, LumiSize
   // Complex samples are the two components of one channel.
   const int parts = member.isComplex ? 2 : 1;
   std::vector<std::vector<double>> right;
-  const double factor = factorOf(flag, member.inverse, size.width) * factorOf(flag, member.inverse, size.height);
+  const double factor =
+      factorOf(flag, member.inverse, size.width) * factorOf(flag, member.inverse, size.height);
   for (int c = 0; c < used; c += parts) {
     std::vector<double> x;
     for (int i = 0; i < samples; ++i)
@@ -233,7 +247,8 @@ inline std::vector<TransformRun> floatRuns() {
   for (const bool inverse : {false, true})
     for (const bool inPlace : {false, true}) {
       all.push_back({true, inverse, "C1", inPlace, false});
-      for (const char* layout : {"C1", "C3", "C4", "AC4"}) all.push_back({false, inverse, layout, inPlace, false});
+      for (const char* layout : {"C1", "C3", "C4", "AC4"})
+        all.push_back({false, inverse, layout, inPlace, false});
     }
   return all;
 }
@@ -257,7 +272,8 @@ inline void expectIntegers(const Family& family, const TransformRun& member, Lum
   const int stored = member.stored(), used = member.used(), samples = size.width * size.height;
   const RunImage src(size, stored, member.srcBytes(), random), dst(size, stored, member.dstBytes(), random);
   std::vector<std::vector<double>> right;
-  const double factor = factorOf(flag, member.inverse, size.width) * factorOf(flag, member.inverse, size.height);
+  const double factor =
+      factorOf(flag, member.inverse, size.width) * factorOf(flag, member.inverse, size.height);
   for (int c = 0; c < used; ++c) {
     std::vector<double> x;
     for (int i = 0; i < samples; ++i) {
@@ -290,7 +306,8 @@ inline void expectIntegers(const Family& family, const TransformRun& member, Lum
   }
   ASSERT_TRUE(dst.isUnchanged()) << where << ": alpha, or what lies beside the image";
   ASSERT_TRUE(src.isUnchanged()) << where << ": the source";
-  ASSERT_EQ(NamedCall("lumi" + family.name + "Free_R_32s").pointer("object", object).run(), lumStatusOk) << where;
+  ASSERT_EQ(NamedCall("lumi" + family.name + "Free_R_32s").pointer("object", object).run(), lumStatusOk)
+      << where;
 }
 
 inline std::vector<TransformRun> integerRuns() {
@@ -298,6 +315,92 @@ inline std::vector<TransformRun> integerRuns() {
   for (const bool inverse : {false, true})
     for (const char* layout : {"C1", "C3", "C4", "AC4"}) all.push_back({false, inverse, layout, false, true});
   return all;
+}
+
+// Objects of the other kinds, in the place of a member's.
+inline void expectRunStatuses(const Family& family) {
+  std::map<std::string, void*> objects;
+  for (const std::string kind : {"C_32fc", "R_32f", "R_32s"})
+    ASSERT_EQ(family.initAlloc(kind, {4, 2}, 8).pointer("object", &objects[kind]).run(), lumStatusOk);
+  std::vector<TransformRun> all = floatRuns();
+  for (const TransformRun& member : integerRuns()) all.push_back(member);
+  for (const TransformRun& member : all) {
+    SCOPED_TRACE(member.nameOf(family));
+    const CoreGuard guard;
+    const std::vector<Byte> before(64 * 4, 0x3c);
+    std::vector<Byte> src = before, dst = before;
+    NamedCall right(member.nameOf(family));
+    right.pointer("object", objects[member.kind()]).pointer("buffer", nullptr);
+    std::vector<NamedFault> faults = {nullFault("object")};
+    for (const auto& [kind, object] : objects) {
+      if (kind == member.kind()) continue;
+      void* const other = object;
+      faults.push_back({[=](NamedCall& c) { c.pointer("object", other); }, lumStatusBadContext, 1});
+    }
+    faults[0].exclusive = 1;
+    const auto image = [&](const char* name, std::vector<Byte>& bytes, int exclusive) {
+      right.image(name, bytes.data(), 64);
+      Byte* const first = bytes.data();
+      faults.push_back({[=](NamedCall& c) { c.image(name, nullptr, 64); }, lumStatusNullPointer, exclusive});
+      for (const int step : {0, -64})
+        faults.push_back({[=](NamedCall& c) { c.image(name, first, step); }, lumStatusBadStep, exclusive});
+    };
+    if (member.inPlace) {
+      image("srcDst", dst, 2);
+    } else {
+      image("src", src, 2);
+      image("dst", dst, 3);
+    }
+    // Null pointers of both images come before steps.
+    std::stable_sort(faults.begin() + 3, faults.end(), [](const NamedFault& a, const NamedFault& b) {
+      return a.status == lumStatusNullPointer && b.status != lumStatusNullPointer;
+    });
+    expectInOrder(right, faults, [&](LumStatus) { ASSERT_EQ(dst, before); });
+    testcore::failAllocation(1);
+    EXPECT_EQ(right.run(), lumStatusNoMemory);
+    EXPECT_EQ(dst, before);
+    EXPECT_EQ(right.run(), lumStatusOk);
+    EXPECT_EQ(testcore::counts().liveBlocks, 0);
+  }
+  for (const auto& [kind, object] : objects) {
+    for (const auto& [other, wrong] : objects) {
+      if (other == kind) continue;
+      EXPECT_EQ(NamedCall("lumi" + family.name + "Free_" + kind).pointer("object", wrong).run(),
+                lumStatusBadContext);
+      int bytes = -7;
+      NamedCall query("lumi" + family.name + "GetBufSize_" + kind);
+      EXPECT_EQ(query.pointer("object", wrong).pointer("bufferSize", &bytes).run(), lumStatusBadContext);
+      EXPECT_EQ(bytes, -7);
+    }
+    EXPECT_EQ(NamedCall("lumi" + family.name + "Free_" + kind).pointer("object", nullptr).run(),
+              lumStatusNullPointer);
+  }
+  for (const auto& [kind, object] : objects)
+    EXPECT_EQ(NamedCall("lumi" + family.name + "Free_" + kind).pointer("object", object).run(), lumStatusOk);
+}
+
+inline void expectAllocatedObjects(const Family& family, const NamedCall& right, const std::string& kind) {
+  const std::string result = expectAllocatedLife(
+      right, "object", NamedCall("lumi" + family.name + "Free_" + kind), "object", [&](void* made) {
+        int bytes = -7;
+        NamedCall query("lumi" + family.name + "GetBufSize_" + kind);
+        query.pointer("object", made).pointer("bufferSize", &bytes);
+        EXPECT_EQ(query.run(), lumStatusOk);
+        EXPECT_GT(bytes, 0);
+        EXPECT_EQ(NamedCall(query).pointer("bufferSize", nullptr).run(), lumStatusNullPointer);
+        EXPECT_EQ(NamedCall(query).pointer("object", nullptr).run(), lumStatusNullPointer);
+      });
+  EXPECT_EQ(result, "");
+}
+
+inline void addCoveredMembers(const Family& family) {
+  const std::string name = "lumi" + family.name;
+  for (const TransformRun& member : floatRuns()) addCovered({member.nameOf(family)});
+  for (const TransformRun& member : integerRuns()) addCovered({member.nameOf(family)});
+  for (const std::string kind : {"C_32fc", "R_32f", "R_32s"})
+    for (const std::string what : {"InitAlloc_", "Free_", "GetBufSize_"}) addCovered({name + what + kind});
+  for (const std::string kind : {"C_32fc", "R_32f"})
+    addCovered({name + "GetSize_" + kind, name + "Init_" + kind});
 }
 
 }  // namespace test::spectra

@@ -64,13 +64,13 @@ inline Numbers transformedImage(Numbers x, size_t width, size_t height, bool inv
   return x;
 }
 
-// Where a packed spectrum of n real numbers has the real part and the imaginary part of value k, for k to n / 2;
-// below 0 where a part is always zero.
+// Where a packed spectrum of n real numbers has the real part and the imaginary part of value k, for k to n /
+// 2; below 0 where a part is always zero.
 inline int placeOfReal(int k, int n) { return k == 0 ? 0 : 2 * k == n ? n - 1 : 2 * k - 1; }
 inline int placeOfImaginary(int k, int n) { return k == 0 || 2 * k == n ? -1 : 2 * k; }
 
-// Calls visit(place, row, column, isImaginary) for each number of a packed spectrum: the part of the spectrum's value at
-// that row and column.
+// Calls visit(place, row, column, isImaginary) for each number of a packed spectrum: the part of the
+// spectrum's value at that row and column.
 template <typename Visit>
 void forEachPacked(int width, int height, const Visit& visit) {
   for (int k = 0; 2 * k <= width; ++k) {
