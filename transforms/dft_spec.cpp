@@ -48,7 +48,8 @@ TransformBytes realDftBytes(int64_t length) {
   }
   const int64_t half = complexLength(length);
   const AnyLength any = anyLength(half);
-  return {any.tableBytes + 4 * (half + 4) + kHeader + 64, initBytes(length, any), rowBytes(half, any.localFloats)};
+  return {any.tableBytes + 4 * (half + 4) + kHeader + 64, initBytes(length, any),
+          rowBytes(half, any.localFloats)};
 }
 
 DftAxis* makeComplexDft(int length, Lum32s flag, Tables& memory, float* scratch) {
@@ -193,7 +194,8 @@ LumStatus initDft(int width, int height, Lum32s flag, LumAlgorithmHint hint, Spe
   constexpr bool kReal = isReal<Spec>;
   if (LumStatus fault = firstFault(pointers(object), axesFault<kReal>(width, height, flag))) return fault;
   const TransformBytes bytes = bytesOf<kReal>(width, height);
-  if (LumStatus fault = firstFault(bytes.init > 0 ? pointers(scratch) : lumStatusOk, isTold(bytes.object))) return fault;
+  if (LumStatus fault = firstFault(bytes.init > 0 ? pointers(scratch) : lumStatusOk, isTold(bytes.object)))
+    return fault;
   make(width, height, flag, hint, object, alignedUp(scratch, kObjectAlignment));
   return lumStatusOk;
 }

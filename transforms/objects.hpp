@@ -14,7 +14,8 @@
 
 namespace lumi {
 
-// Where a transform of one axis multiplies: forward by 1 / n, inverse by 1 / n, both by 1 / sqrt(n), or nowhere.
+// Where a transform of one axis multiplies: forward by 1 / n, inverse by 1 / n, both by 1 / sqrt(n), or
+// nowhere.
 enum TransformFlag : Lum32s { kScaleForward = 1, kScaleInverse = 2, kScaleBoth = 4, kScaleNowhere = 8 };
 
 constexpr bool isTransformFlag(Lum32s flag) {
@@ -24,8 +25,8 @@ constexpr bool isTransformFlag(Lum32s flag) {
 // What each transform of n points multiplies its results by.
 float scaleOf(Lum32s flag, bool inverse, int64_t n);
 
-// Bytes of an object, of the scratch of its Init, and of the scratch of a run. That of a run is without what its
-// alignment takes.
+// Bytes of an object, of the scratch of its Init, and of the scratch of a run. That of a run is without what
+// its alignment takes.
 struct TransformBytes {
   int64_t object, init, work;
 };
@@ -87,9 +88,11 @@ LumStatus identity(const Spec* object) {
   return wordsOf(object)->identifier == identifierOf(object) ? lumStatusOk : lumStatusBadContext;
 }
 
-// A run of integers converts the image to floats in its scratch, in up to four planes, and transforms them there.
+// A run of integers converts the image to floats in its scratch, in up to four planes, and transforms them
+// there.
 template <typename Real>
-LumStatus makeIntegersObject(void* made, Lum32s identifier, const SpectrumObject& words, int64_t planes, Real* real) {
+LumStatus makeIntegersObject(void* made, Lum32s identifier, const SpectrumObject& words, int64_t planes,
+                             Real* real) {
   auto* const object = static_cast<IntegersObject<Real>*>(made);
   static_cast<SpectrumObject&>(*object) = words;
   object->identifier = identifier;
@@ -115,7 +118,8 @@ LumStatus freeTransform(Spec* object) {
 }
 template <typename Spec>
 LumStatus getTransformBufferSize(const Spec* object, Lum32s* bufferSize) {
-  if (LumStatus fault = check::firstFault(check::pointers(object, bufferSize), [=] { return identity(object); }))
+  if (LumStatus fault =
+          check::firstFault(check::pointers(object, bufferSize), [=] { return identity(object); }))
     return fault;
   const int64_t bytes = wordsOf(object)->workBytes;
   *bufferSize = told(std::is_void_v<RealOfIntegers<Spec>> ? withRoom(bytes) : bytes);

@@ -29,7 +29,8 @@ LumStatus transformImage(T* image, int step, const Spec* object, Lum8u* buffer) 
 }
 
 template <bool inverse, typename T, typename Layout, typename Spec>
-LumStatus transformSamples(const T* src, int srcStep, T* dst, int dstStep, const Spec* object, Lum8u* buffer) {
+LumStatus transformSamples(const T* src, int srcStep, T* dst, int dstStep, const Spec* object,
+                           Lum8u* buffer) {
   if (LumStatus fault = runFault(object, src, srcStep, dst, dstStep)) return fault;
   return withScratch(buffer, wordsOf(object)->workBytes, [=](float* scratch) {
     transformPacked<Layout>(planOf(object, inverse), rows(src, srcStep), rows(dst, dstStep), scratch);
@@ -41,8 +42,8 @@ LumStatus transformSamples(T* image, int step, const Spec* object, Lum8u* buffer
 }
 
 template <bool inverse, typename S, typename D, typename Layout, typename Spec>
-LumStatus transformIntegers(const S* src, int srcStep, D* dst, int dstStep, const Spec* object, int scaleFactor,
-                            Lum8u* buffer) {
+LumStatus transformIntegers(const S* src, int srcStep, D* dst, int dstStep, const Spec* object,
+                            int scaleFactor, Lum8u* buffer) {
   if (LumStatus fault = runFault(object, src, srcStep, dst, dstStep)) return fault;
   const auto* const real = reinterpret_cast<const IntegersObject<RealOfIntegers<Spec>>*>(object)->real;
   // The size that is told has room for alignment.

@@ -17,8 +17,8 @@ Suite::Build complexRows(decltype(&lumiDFTFwd_CToC_32fc_C1R) call, bool inverse)
       },
       lumiDFTGetBufSize_C_32fc,
       [=](const auto& src, const auto& dst, const auto* spec, Lum8u* scratch) {
-        call(reinterpret_cast<const Lum32fc*>(src.data()), src.step, reinterpret_cast<Lum32fc*>(dst.data()), dst.step,
-             spec, scratch);
+        call(reinterpret_cast<const Lum32fc*>(src.data()), src.step, reinterpret_cast<Lum32fc*>(dst.data()),
+             dst.step, spec, scratch);
       });
 }
 
@@ -41,7 +41,8 @@ const Family family("dft", [](Suite& suite) {
   suite.row("dft real 32f inverse", kSizes, realRows(lumiDFTInv_PackToR_32f_C1R, 1, true));
   suite.row("dft complex 32f forward", kSizes, complexRows(lumiDFTFwd_CToC_32fc_C1R, false));
   suite.row("dft complex 32f inverse", kSizes, complexRows(lumiDFTInv_CToC_32fc_C1R, true));
-  suite.row("dft real 32f C3 forward", {{60, 60}, {320, 240}}, realRows(lumiDFTFwd_RToPack_32f_C3R, 3, false));
+  suite.row("dft real 32f C3 forward", {{60, 60}, {320, 240}},
+            realRows(lumiDFTFwd_RToPack_32f_C3R, 3, false));
 });
 
 }  // namespace

@@ -13,8 +13,8 @@ constexpr int kMostFactors = 32;
 bool isPowerOfTwo(int64_t n) { return (n & (n - 1)) == 0; }
 int orderOf(int64_t n) { return n <= 1 ? 0 : 1 + orderOf(n / 2); }
 
-// Radices in the order of the passes: large ones first, whose roots would cost most; of the twos, an 8 first where
-// their number is odd, and fours.
+// Radices in the order of the passes: large ones first, whose roots would cost most; of the twos, an 8 first
+// where their number is odd, and fours.
 struct Factors {
   int count = 0;
   size_t radix[kMostFactors];
@@ -35,8 +35,9 @@ struct Factors {
 
 // The smallest length of a convolution that goes around in 2n - 1 points.
 int64_t convolutionLength(int64_t n) {
-  constexpr int kGood[] = {128,  144,  160,  192,  200,  256,  288,  320,  384,  400,  512,  576,  640,  768,  800, 1024,
-                           1152, 1280, 1536, 1600, 2048, 2304, 2560, 3072, 3200, 4096, 4608, 5120, 6144, 6400, 8192};
+  constexpr int kGood[] = {128,  144,  160,  192,  200,  256,  288,  320,  384,  400,  512,
+                           576,  640,  768,  800,  1024, 1152, 1280, 1536, 1600, 2048, 2304,
+                           2560, 3072, 3200, 4096, 4608, 5120, 6144, 6400, 8192};
   for (const int good : kGood)
     if (good >= 2 * n - 1) return good;
   int64_t length = 16384;
@@ -52,7 +53,8 @@ T* take(uint8_t*& memory, int64_t count) {
   return table;
 }
 
-// Each table begins on a boundary of its own. Of roots there are below 4n floats, of circles twice the sum of radices.
+// Each table begins on a boundary of its own. Of roots there are below 4n floats, of circles twice the sum of
+// radices.
 constexpr int64_t kBoundaries = 64 * (kMostFactors + 8);
 int64_t passesBytes(int64_t n) {
   int64_t circles = 0;
@@ -153,13 +155,21 @@ Transform chirpTransform(int64_t length, uint8_t* memory, float* scratch) {
   float* const spectrum = take<float>(memory, 2 * convolution);
   *chirp = {anyTransform(convolution, memory, scratch), turns, spectrum};
   fillSpectrum(*chirp, length, spectrum, scratch);
-  return {static_cast<size_t>(length), passesOfOrder(0), passesOfOrder(0), nullptr, nullptr, nullptr, 0, chirp, false};
+  return {static_cast<size_t>(length),
+          passesOfOrder(0),
+          passesOfOrder(0),
+          nullptr,
+          nullptr,
+          nullptr,
+          0,
+          chirp,
+          false};
 }
 
 }  // namespace
 
-// Fours and a two go out first, odd factors up to 49 then, as long as their square is not above the rest; a rest of at
-// most 50, or of 150 where a four went out, is the last radix.
+// Fours and a two go out first, odd factors up to 49 then, as long as their square is not above the rest; a
+// rest of at most 50, or of 150 where a four went out, is the last radix.
 bool isMadeByPasses(int64_t length) {
   if (length < 17 || isPowerOfTwo(length)) return true;
   const bool hasFour = length % 4 == 0;

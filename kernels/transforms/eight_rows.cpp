@@ -64,6 +64,114 @@ void drainPoints(const EightRows& rows, const Transform& transform, size_t part,
   }
 }
 
+// Whether passes of a transform begin and end on rows that are transposed on the way: so many places apart,
+// two neighbours at a time.
+bool joinsOnTheWay(const Transform& transform) {
+  return transform.isPowerOfTwo && !transform.isSplit() && transform.inner.count >= 2;
+}
+
+template <bool exchange>
+Complex<Lanes> complexOf(Lanes re, Lanes im) {
+  if constexpr (exchange)
+    return {im, re};
+  else
+    return {re, im};
+}
+
+// fillPoints with the first pass.
+template <bool exchange, size_t radix>
+void fillAndJoin(const EightRows& rows, const Transform& transform, float* points) {
+  const size_t floats = 2 * transform.length, apart = transform.length / radix;
+  for (size_t n = 0; n < apart; n += 2) {
+    Complex<Lanes> even[radix], odd[radix];
+    for (size_t k = 0; k < radix; ++k) {
+      Four x;
+      loadFour(rows, (n + k * apart) / 2, floats, x);
+      even[k] = complexOf<exchange>(x[0], x[1]);
+      odd[k] = complexOf<exchange>(x[2], x[3]);
+    }
+    butterfly(even);
+    butterfly(odd);
+    float* const first = points + transform.inner.slot[n] * kPointFloats;
+    float* const second = points + transform.inner.slot[n + 1] * kPointFloats;
+    for (size_t k = 0; k < radix; ++k) {
+      storePoint(first + k * kPointFloats, even[k]);
+      storePoint(second + k * kPointFloats, odd[k]);
+    }
+  }
+}
+
+template <bool exchange>
+void fillAndJoin(const EightRows& rows, const Transform& transform, float* points) {
+  if (transform.inner.pass[0].radix == 8)
+    fillAndJoin<exchange, 8>(rows, transform, points);
+  else
+    fillAndJoin<exchange, 4>(rows, transform, points);
+}
+
+// drainPoints with the last pass.
+template <bool exchange>
+void joinAndDrain(const EightRows& rows, const Transform& transform, float scale, const float* points) {
+  constexpr size_t kRadix = 4;
+  const Pass<Lanes>& pass = transform.inner.pass[transform.inner.count - 1];
+  const Lanes s = broadcastLane<Lanes>(&scale);
+  const auto joined = [&](size_t j, Complex<Lanes>(&x)[kRadix]) {
+    const float* const roots = pass.roots + j * 2 * (kRadix - 1);
+    x[0] = loadPoint<Lanes>(points + j * kPointFloats);
+    for (size_t k = 1; k < kRadix; ++k)
+      x[k] = loadPoint<Lanes>(points + (j + k * pass.m) * kPointFloats) *
+             broadcastRoot<Lanes>(roots + 2 * (k - 1));
+    butterfly(x);
+  };
+  for (size_t j = 0; j < pass.m; j += 2) {
+    Complex<Lanes> even[kRadix], odd[kRadix];
+    joined(j, even);
+    joined(j + 1, odd);
+    for (size_t k = 0; k < kRadix; ++k) {
+      const Complex<Lanes> a = complexOf<exchange>(even[k].re, even[k].im);
+      const Complex<Lanes> b = complexOf<exchange>(odd[k].re, odd[k].im);
+      Four x = {a.re * s, a.im * s, b.re * s, b.im * s};
+      storeFour(rows, (j + k * pass.m) / 2, 2 * transform.length, x);
+    }
+  }
+}
+
+// A complex transform of rows where they are read, or written, by passes of its own.
+template <bool exchange>
+void transformRowsToPoints(const EightRows& rows, const Transform& transform, float* points, float* local) {
+  if (joinsOnTheWay(transform)) {
+    fillAndJoin<exchange>(rows, transform, points);
+    runLaterPasses(transform.inner, points);
+  } else {
+    fillPoints(rows, transform, exchange ? kLanes : 0, points);
+    transformPoints(transform, points, local);
+  }
+}
+template <bool exchange>
+void transformPointsToRows(const EightRows& rows, const Transform& transform, float scale, float* points,
+                           float* local) {
+  if (joinsOnTheWay(transform)) {
+    runFirstPasses(transform.inner, points);
+    joinAndDrain<exchange>(rows, transform, scale, points);
+  } else {
+    transformPoints(transform, points, local);
+    drainPoints(rows, transform, exchange ? kLanes : 0, scale, points);
+  }
+}
+
+template <bool exchange>
+void transformRowsToRows(const EightRows& rows, const Transform& transform, float scale, float* points,
+                         float* local) {
+  if (joinsOnTheWay(transform)) {
+    fillAndJoin<exchange>(rows, transform, points);
+    runMiddlePasses(transform.inner, points);
+    joinAndDrain<exchange>(rows, transform, scale, points);
+  } else {
+    fillPoints(rows, transform, exchange ? kLanes : 0, points);
+    transformPointsToRows<exchange>(rows, transform, scale, points, local);
+  }
+}
+
 // The packed spectrum of real rows, a vector for each number, from that of their complex ones.
 void splitSpectrum(const RealTransform& transform, float scale, const float* points, float* packed) {
   const size_t m = transform.half.length;
@@ -117,10 +225,10 @@ void joinSpectrum(const RealTransform& transform, const float* packed, float* po
 
 void transformEightRows(const Transform& transform, bool inverse, float scale, const EightRows& rows,
                         float* points, float* local) {
-  const size_t part = inverse ? kLanes : 0;
-  fillPoints(rows, transform, part, points);
-  transformPoints(transform, points, local);
-  drainPoints(rows, transform, part, scale, points);
+  if (inverse)
+    transformRowsToRows<true>(rows, transform, scale, points, local);
+  else
+    transformRowsToRows<false>(rows, transform, scale, points, local);
 }
 
 void transformEightRealRows(const RealTransform& transform, bool inverse, float scale, const EightRows& rows,
@@ -135,11 +243,9 @@ void transformEightRealRows(const RealTransform& transform, bool inverse, float 
       for (size_t j = 0; j < 4 && 4 * i + j < floats; ++j) storeLanes(packed + (4 * i + j) * kLanes, x[j]);
     }
     joinSpectrum(transform, packed, points);
-    transformPoints(half, points, local);
-    drainPoints(rows, half, kLanes, scale, points);
+    transformPointsToRows<true>(rows, half, scale, points, local);
   } else {
-    fillPoints(rows, half, 0, points);
-    transformPoints(half, points, local);
+    transformRowsToPoints<false>(rows, half, points, local);
     splitSpectrum(transform, scale, points, packed);
     for (size_t i = 0; 4 * i < floats; ++i) {
       Four x;

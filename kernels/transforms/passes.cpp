@@ -157,12 +157,17 @@ void runFirstPasses(const Passes<V>& passes, ScalarOf<V>* points) {
   for (int i = 0; i < passes.count - 1; ++i) runAnyPass(passes, i, points);
 }
 template <typename V>
+void runLaterPasses(const Passes<V>& passes, ScalarOf<V>* points) {
+  for (int i = 1; i < passes.count; ++i) runAnyPass(passes, i, points);
+}
+template <typename V>
 void runPasses(const Passes<V>& passes, ScalarOf<V>* points) {
   for (int i = 0; i < passes.count; ++i) runAnyPass(passes, i, points);
 }
 
 template void runMiddlePasses<Floats8>(const Passes<Floats8>&, float*);
 template void runFirstPasses<Floats8>(const Passes<Floats8>&, float*);
+template void runLaterPasses<Floats8>(const Passes<Floats8>&, float*);
 template void runPasses<Floats8>(const Passes<Floats8>&, float*);
 
 }  // namespace lumi::transforms

@@ -186,11 +186,13 @@ struct Passes {
 inline constexpr int kLargestTable = 10;
 const Passes<Floats8>& passesOfOrder(int order);
 
-// In place: the passes between the first and the last, and those before the last.
+// In place: the passes between the first and the last, those before the last, and those after the first.
 template <typename V>
 void runMiddlePasses(const Passes<V>& passes, ScalarOf<V>* points);
 template <typename V>
 void runFirstPasses(const Passes<V>& passes, ScalarOf<V>* points);
+template <typename V>
+void runLaterPasses(const Passes<V>& passes, ScalarOf<V>* points);
 
 // The whole transform in place: points come in their slots, and leave in their order.
 template <typename V>

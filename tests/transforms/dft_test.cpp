@@ -34,15 +34,17 @@ TEST_P(DftWidth, RunsAsTheDefinition) {
 }
 INSTANTIATE_TEST_SUITE_P(UpTo67, DftWidth, testing::Range(1, 68), testing::PrintToStringParamName());
 INSTANTIATE_TEST_SUITE_P(Longer, DftWidth,
-                         testing::Values(73, 81, 94, 98, 100, 105, 106, 125, 127, 128, 149, 150, 163, 179, 187, 212,
-                                         236, 243, 256, 298, 300, 343, 509, 512, 596, 604, 1000, 1021, 1536, 2048),
+                         testing::Values(73, 81, 94, 98, 100, 105, 106, 125, 127, 128, 149, 150, 163, 179,
+                                         187, 212, 236, 243, 256, 298, 300, 343, 509, 512, 596, 604, 1000,
+                                         1021, 1536, 2048),
                          testing::PrintToStringParamName());
 
 TEST(Dft, RunsLongLengths) {
   Random random(settings().seed);
   double worst = 0;
   // Beyond the table of lengths of convolutions; of twos that split; of many factors.
-  for (const LumiSize size : {LumiSize{4099, 2}, {8198, 1}, {1, 5003}, {12, 2048}, {60060, 1}, {2, 17017}, {16384, 1}})
+  for (const LumiSize size :
+       {LumiSize{4099, 2}, {8198, 1}, {1, 5003}, {12, 2048}, {60060, 1}, {2, 17017}, {16384, 1}})
     for (const bool inverse : {false, true}) {
       ASSERT_NO_FATAL_FAILURE(expectRun(kDft, {true, inverse, "C1", false, false}, size, random, &worst));
       ASSERT_NO_FATAL_FAILURE(expectRun(kDft, {false, inverse, "C1", true, false}, size, random, &worst));
@@ -59,14 +61,16 @@ TEST(Dft, RoundsIntegers) {
 }
 
 void addSizes(std::vector<NamedFault>& faults, const char* name, const std::vector<int>& sizes) {
-  for (const int n : sizes) faults.push_back({[=](NamedCall& c) { c.number(name, n); }, lumStatusBadSize, name[0]});
+  for (const int n : sizes)
+    faults.push_back({[=](NamedCall& c) { c.number(name, n); }, lumStatusBadSize, name[0]});
 }
 void addAxes(std::vector<NamedFault>& faults) {
   addSizes(faults, "width", {0, -1, INT32_MIN});
   addSizes(faults, "height", {0, -7});
   for (const int flag : {0, 3, -1, 16, 5})
     faults.push_back({[=](NamedCall& c) { c.number("flag", flag); }, lumStatusBadTransformFlag, 1});
-  // Above the limit of all lengths, and a prime above that of convolutions; twice the prime for real ones too.
+  // Above the limit of all lengths, and a prime above that of convolutions; twice the prime for real ones
+  // too.
   addSizes(faults, "width", {0x8000000, INT32_MAX, 134217689, 2 * 67108859});
   addSizes(faults, "height", {0x8000000, INT32_MAX, 134217689});
 }
@@ -75,7 +79,8 @@ TEST(DftStatus, OfSizes) {
   for (const bool isReal : {false, true}) {
     int told[3] = {-7, -7, -7};
     const NamedCall right = kDft.getSize(isReal ? "R_32f" : "C_32fc", {60, 7}, 4, told);
-    std::vector<NamedFault> faults = {nullFault("objectSize"), nullFault("initSize"), nullFault("bufferSize")};
+    std::vector<NamedFault> faults = {nullFault("objectSize"), nullFault("initSize"),
+                                      nullFault("bufferSize")};
     addAxes(faults);
     expectInOrder(right, faults, [&](LumStatus) { ASSERT_EQ(told[0] + told[1] + told[2], -21); });
     EXPECT_EQ(right.run(), lumStatusOk);
