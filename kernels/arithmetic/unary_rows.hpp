@@ -3,6 +3,7 @@
 #pragma once
 
 #include "kernels/pointwise.hpp"
+#include "kernels/simd/constants.hpp"
 #include "kernels/simd/elementary.hpp"
 
 namespace lumi::simd {
@@ -20,41 +21,6 @@ struct OfHalves : F {
   explicit OfHalves(int scaleFactor) : F(scaleFactor) {}
 
   [[gnu::always_inline]] auto block(const Byte* p) const { return halves(F::half(p), F::half(p + 16)); }
-};
-
-// Constants over whole vectors in memory, where instructions take them from. Compilers that know what is
-// there would load and spread single ones anew in every round: more work than the arithmetic leaves room for.
-template <size_t count>
-struct SpreadFloats {
-  float values[count][kBlock / sizeof(float)];
-};
-template <typename... Each>
-constexpr SpreadFloats<sizeof...(Each)> spread(Each... each) {
-  SpreadFloats<sizeof...(Each)> result{};
-  size_t i = 0;
-  for (float value : {each...}) {
-    for (float& place : result.values[i]) place = value;
-    ++i;
-  }
-  return result;
-}
-class Constants {
- public:
-  template <size_t count>
-  explicit Constants(const SpreadFloats<count>& table) : values_(table.values) {
-    asm("" : "+r"(values_));
-  }
-  template <typename V>
-  V get(int which) const {
-    const auto* const p = reinterpret_cast<const Byte*>(values_[which]);
-    if constexpr (std::is_same_v<V, Floats8>)
-      return loadFloats8(p);
-    else
-      return loadFloats4(p);
-  }
-
- private:
-  const float (*values_)[kBlock / sizeof(float)];
 };
 
 // Applies f to the samples of rows; the last `alpha` of every four stay. Returns what became of marks.
