@@ -67,14 +67,14 @@ bool setNamed(const ExportRow& row, const Argument& argument, const Call& call, 
 // The arguments of a call in the order of the row.
 std::vector<Slot> slotsOf(const ExportRow& row, const Call& call) {
   std::vector<Slot> slots = baseSlots(row);
-  int step = 0, number = 0;
+  int step = 0, number = 0, sources = 0;
   const Byte* value = call.values;
   const int sample = sampleBytes(row.types.front());
   const auto image = [&](const std::string& role, Slot& slot) {
     const auto take = [&](Byte* first, int itsStep) { slot.setPointer(first), step = itsStep; };
-    if (role == "src2") return take(call.src2, call.src2Step);
     if (role == "dst" || role == "srcDst" || role == "dstMask") return take(call.dst[0], call.dstStep);
     if (role == "mask") return take(call.mask, call.maskStep);
+    if (sources++ > 0) return take(call.src2, call.src2Step);
     take(call.src[0], call.srcStep);
   };
   for (size_t i = 0; i < slots.size(); ++i) {
@@ -232,7 +232,7 @@ Member memberOf(const ExportRow& row) {
       else if (name == "dstMask")
         m.dst = operandOf("8u", "C1");
       else
-        (name == "src2" ? m.src2 : m.src) = operandOf(row.types.front(), row.layouts.front());
+        (m.src.planes ? m.src2 : m.src) = operandOf(row.types.front(), row.layouts.front());
       m.inPlace |= name == "srcDst";
     }
     m.valuesByPointer |= argument.kind == Kind::Values;

@@ -143,6 +143,7 @@ struct Member {
   int64_t streamsFrom = 2 << 20;  // bytes moved from which on a path may depend on them, at the most
   int64_t asksFrom = 1 << 20;     // bytes moved up to which nothing asks for the cache's size
   bool floatResults = false;      // NaNs need not have equal bits, and rows of the destination are apart
+  bool sharesStep = false;        // one step is that of both sources
   bool separateRows = false;      // rows of the destination must not overlap one another
   bool transposes = false;        // the destination is as wide as the ROI is high, and as high as it is wide
   std::vector<int> heights = {1, 1, 2, 3, 5};  // kAsWide: those of a square; above 5 beside small widths only

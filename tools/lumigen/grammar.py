@@ -75,6 +75,8 @@ class Param:
     about: str
     optional: bool = False
     each: bool = False   # one for each channel
+    image: bool = False  # of an image that no role tells of
+    step: bool = False   # of the images before it
     length: str = ""
     base: tuple = ()
     refused: list = field(default_factory=list)
@@ -201,7 +203,9 @@ def _param(param, ctype, descriptor):
     if param.length:
         return Arg("array", param.name, decl, length=param.length)
     if "*" in ctype:
-        return Arg("optional" if param.optional else "pointer", param.name, decl)
+        return Arg("optional" if param.optional else "image" if param.image else "pointer", param.name, decl)
+    if param.step:
+        return Arg("step", param.name, decl)
     kind = {"LumiSize": "size", "LumiPoint": "point", "LumiRect": "rect"}.get(ctype, "number")
     base = param.base or _BASES.get(ctype, ("0",) * param.arity)
     return Arg(kind, param.name, decl, base=base, refused=tuple(param.refused))

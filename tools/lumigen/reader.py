@@ -152,14 +152,15 @@ class _Reader:
         self._operation().brief = rest
 
     def _on_param(self, rest):
-        match = re.match(r"(\w+)\s+(.+?)(\s+optional|\s+each|\s+of\s+\w+)?(?:\s+=\s+(.+?))?"
+        match = re.match(r"(\w+)\s+(.+?)(\s+optional|\s+each|\s+image|\s+step|\s+of\s+\w+)?(?:\s+=\s+(.+?))?"
                          r"(?:\s+refuses\s+(.+?)\s+by\s+(\w+))?\s+:\s+(.+)$", rest)
         if not match:
-            self._fail("param takes: name type [optional | each | of length] [= valid value] [refuses values by check] "
+            self._fail("param takes: name type [optional | each | image | step | of length] [= valid value] [refuses values by check] "
                        ": meaning")
         name, ctype, how, base, refused, by, about = match.groups()
         how = (how or "").split()
-        param = Param(name, ctype, about, how == ["optional"], how == ["each"], how[1] if len(how) == 2 else "")
+        param = Param(name, ctype, about, how == ["optional"], how == ["each"], how == ["image"], how == ["step"],
+                      how[1] if len(how) == 2 else "")
         param.base = tuple(map(str, self._values(param, base)[0])) if base else ()
         self._operation().params.append(param)
         if refused:

@@ -106,6 +106,14 @@ class Rows(unittest.TestCase):
         self.assertIn("return probe<Lum8u, Lum16s, C3, AC4>(src, srcStep, dst, dstStep, roi);",
                       emit.bindings(family))
 
+    def test_images_that_share_a_step(self):
+        text = HEAD + ("  param a const Lum32f* image : one\n  param b const Lum32f* image : the other\n"
+                       "  param bothStep int step : of both\n  args a b bothStep dst roi\n"
+                       "  16sc C1R check null size step bind probe\n")
+        export = exports(text)["lumiProbe_16sc_C1R"]
+        self.assertEqual([a.kind for a in export.args], ["image", "image", "step", "image", "step", "size"])
+        self.assertIn("(const Lum32f* a, const Lum32f* b, int bothStep, Lum16sc* dst,", emit.family_header(read(text)))
+
     def test_params_and_returns(self):
         family = read(HEAD + "  param flag int = 3 : a flag\n  param out {T}* : the result\n  args flag out\n"
                       "  returns {T}*\n  32f C1 bind probe<4>\n")
