@@ -18,6 +18,11 @@ struct Components<Lum16sc> {
   static constexpr int kCount = 2;
 };
 template <>
+struct Components<Lum16uc> {
+  using Type = Lum16u;
+  static constexpr int kCount = 2;
+};
+template <>
 struct Components<Lum32sc> {
   using Type = Lum32s;
   static constexpr int kCount = 2;

@@ -24,6 +24,9 @@ typedef struct {
   Lum16s re, im;
 } Lum16sc;
 typedef struct {
+  Lum16u re, im;
+} Lum16uc;
+typedef struct {
   Lum32s re, im;
 } Lum32sc;
 typedef struct {
