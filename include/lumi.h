@@ -36,6 +36,7 @@
 #include "lumi/mul_scale.h"
 #include "lumi/norm.h"
 #include "lumi/phase.h"
+#include "lumi/polar_to_cart.h"
 #include "lumi/quality_index.h"
 #include "lumi/resize.h"
 #include "lumi/sad.h"
