@@ -50,5 +50,6 @@
 #include "lumi/transpose.h"
 #include "lumi/unary.h"
 #include "lumi/version.h"
+#include "lumi/window.h"
 
 #endif
