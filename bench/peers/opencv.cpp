@@ -167,6 +167,43 @@ Peer exponential(View src, View dst) {
   return peer("opencv", [s = mat(src), d = mat(dst)] { cv::exp(s, d); });
 }
 
+namespace {
+
+std::vector<cv::Mat> partsOf(View complex) {
+  std::vector<cv::Mat> parts;
+  cv::split(mat(complex), parts);
+  return parts;
+}
+
+}  // namespace
+
+Peer magnitude(View src, View dst) {
+  return peer("opencv", [s = partsOf(src), d = mat(dst)] { cv::magnitude(s[0], s[1], d); });
+}
+
+Peer phase(View src, View dst) {
+  Peer result = peer("opencv", [s = partsOf(src), d = mat(dst)] { cv::phase(s[0], s[1], d); });
+  result.differs = "is right to 0.3 degrees";
+  return result;
+}
+
+Peer polarToCart(View magnitude, View phase) {
+  Peer result = peer("opencv", [m = mat(magnitude), p = mat(phase), x = cv::Mat(), y = cv::Mat()]() mutable {
+    cv::polarToCart(m, p, x, y);
+  });
+  result.differs = "stores parts apart, to fewer places";
+  return result;
+}
+
+Peer window(View src, View dst) {
+  Peer result = peer("opencv", [s = mat(src), d = mat(dst), w = cv::Mat()]() mutable {
+    cv::createHanningWindow(w, s.size(), CV_32F);
+    cv::multiply(s, w, d, 1, d.depth());
+  });
+  result.differs = "makes another window";
+  return result;
+}
+
 Peer lookUp(View src, View dst, std::vector<Lum8u> tables) {
   const int channels = static_cast<int>(tables.size() / 256);
   cv::Mat table(1, 256, CV_MAKETYPE(CV_8U, channels));

@@ -41,6 +41,13 @@ enum class Logic { conjunction, disjunction, exclusive };
 [[gnu::weak]] Peer root(View src, View dst);
 [[gnu::weak]] Peer logarithm(View src, View dst);
 [[gnu::weak]] Peer exponential(View src, View dst);
+// Of complex floats, whose parts it takes from images of their own.
+[[gnu::weak]] Peer magnitude(View src, View dst);
+[[gnu::weak]] Peer phase(View src, View dst);
+// To parts in images of their own.
+[[gnu::weak]] Peer polarToCart(View magnitude, View phase);
+// A window made of raised cosines, and the product with it.
+[[gnu::weak]] Peer window(View src, View dst);
 // Bytes by a table of 256 entries for each of the source's channels, or one for all.
 [[gnu::weak]] Peer lookUp(View src, View dst, std::vector<Lum8u> tables);
 // 255 for samples above the threshold, else 0: a byte for each bit.
