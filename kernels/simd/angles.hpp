@@ -20,27 +20,31 @@ inline Floats8 isUnordered(Floats8 a, Floats8 b) { return {_mm256_cmp_ps(a.v, b.
 // The angle of x + iy, from -pi to pi, as C's atan2f has it for zeros of either sign and for infinities too;
 // where either is not a number, none. The error is below 2 units of the last place. The smaller of both parts
 // over the larger one has an arc tangent a = q + q^3 p(q^2), with coefficients that make the largest error
-// smallest (Remez): 2^-28 of a. The angle then is a whole number of right angles and a or -a. Only the last
-// terms of p are summed up side by side: the first ones are large beside their sum.
+// smallest (Remez): 2^-28 of a. The angle then is a whole number of right angles and a or -a. Terms of p are
+// summed up in pairs of neighbours: every other one would add up to more than all do.
 class AngleOfFloats {
  public:
   template <typename V>
   V operator()(V y, V x) const {
     const auto c = [&](int which) { return constants_.get<V>(which); };
     const V width = andNot(c(kSign), x), height = andNot(c(kSign), y);
-    const V large = max(height, width);
-    // Of infinities the quotient is one, of zeros zero.
-    const V ratio = andNot(isEqual(large, broadcastFloat<V>(0)), min(min(height, width) / large, c(kOne)));
+    // One of both is not a number where a part is none.
+    const V small = min(height, width), large = max(width, height);
+    V ratio = small / large;
+    if (__builtin_expect(anySign(isUnordered(ratio, ratio)), false)) {
+      ratio = ifThenElse(isEqual(height, width), c(kOne), ratio);  // infinities
+      ratio = andNot(isEqual(height + width, broadcastFloat<V>(0)), ratio);
+    }
     const V square = ratio * ratio, fourth = square * square;
-    const V even = (c(kP7) * fourth + c(kP5)) * fourth + c(kP3),
-            odd = (c(kP8) * fourth + c(kP6)) * fourth + c(kP4);
-    const V p = c(kP0) + square * (c(kP1) + square * (c(kP2) + square * (even + square * odd)));
+    const V p = ((c(kP0) + square * c(kP1)) + fourth * (c(kP2) + square * c(kP3))) +
+                (fourth * fourth) * (((c(kP4) + square * c(kP5)) + fourth * (c(kP6) + square * c(kP7))) +
+                                     (fourth * fourth) * c(kP8));
     const V arc = ratio + (ratio * square) * p;
     const V isSteep = isBelow(width, height), sign = x & c(kSign);
     const V turns = c(kOne) - andNot(isSteep, sign | c(kOne));  // 0 and 2, or 1 where it is steep
     const V turned = arc ^ (sign ^ (isSteep & c(kSign)));
     const V angle = turns * c(kHigh) + (turned + turns * c(kLow));
-    return (angle | (y & c(kSign))) | isUnordered(x, y);
+    return angle | (y & c(kSign));
   }
 
  private:

@@ -18,8 +18,9 @@ inline float angle(float y, float x) {
   constexpr float p[] = {-0.333332991F, 0.199985483F,   -0.142642422F, 0.109521891F,   -0.0840345994F,
                          0.0579577494F, -0.0311779895F, 0.0109146765F, -0.00179363623F};
   const float z = q * q, w = z * z;
-  const float even = (p[7] * w + p[5]) * w + p[3], odd = (p[8] * w + p[6]) * w + p[4];
-  const float sum = p[0] + z * (p[1] + z * (p[2] + z * (even + z * odd)));
+  const float lower = (p[0] + z * p[1]) + w * (p[2] + z * p[3]);
+  const float upper = (p[4] + z * p[5]) + w * (p[6] + z * p[7]);
+  const float sum = lower + (w * w) * (upper + (w * w) * p[8]);
   const float arc = q + (q * z) * sum;
   const bool isSteep = height > width, isLeft = std::signbit(x);
   const float turns = isSteep ? 1.0F : isLeft ? 2.0F : 0.0F;
