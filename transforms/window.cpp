@@ -22,7 +22,7 @@ LumStatus faultOf(const T* src, int srcStep, const T* dst, int dstStep, LumiSize
   return firstFault(pointers(src, dst), atLeastThree(roi), steps(srcStep, dstStep));
 }
 
-// Room for so many floats, and for what is read or written behind those of the columns.
+// Room for so many floats, and for what is read or written behind the last ones.
 Scratch floatsFor(int64_t count) {
   return Scratch((count + kWindowPadding) * static_cast<int64_t>(sizeof(float)));
 }
@@ -34,7 +34,7 @@ LumStatus separable(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi
   if (!scratch) return lumStatusNoMemory;
   auto* const ofRows = static_cast<float*>(scratch.data());
   float* const ofColumns = ofRows + roi.height;
-  Window::fill(ofRows, roi.height);
+  Window::fill(ofRows, roi.height);  // writes behind them, so that those of columns come second
   Window::fill(ofColumns, roi.width);
   windowRows<T>(rows(src, srcStep), rows(dst, dstStep), {static_cast<size_t>(roi.width), roi.height},
                 ofColumns, ofRows);

@@ -25,13 +25,7 @@ struct Bartlett {
 
   static constexpr auto radialFactors = coneFactors;
 
-  static void fill(float* table, int n) {
-    const auto last = static_cast<float>(n - 1);
-    for (int i = 0; i < n; ++i) {
-      const float part = 2 * static_cast<float>(i) / last;
-      table[i] = i <= (n - 1) / 2 ? part : 2 - part;
-    }
-  }
+  static void fill(float* table, int n) { triangleFactors(table, static_cast<size_t>(n)); }
 };
 
 struct Hamming {

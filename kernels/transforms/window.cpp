@@ -85,19 +85,27 @@ struct RaisedCosine {
   }
 };
 
-// Whole vectors: what lies behind the last column is padding.
+Floats8 all(float x) { return broadcastFloat<Floats8>(x); }
+
+// factors[i] = f(i). Whole vectors: what lies behind the last one is padding.
+template <typename F>
+[[gnu::always_inline]] inline void fillFactors(float* factors, size_t count, const F& f) {
+  static constexpr float kFirst[] = {0, 1, 2, 3, 4, 5, 6, 7};
+  Floats8 x = loadFloats8(reinterpret_cast<const Byte*>(kFirst));
+  for (size_t i = 0; i < count; i += 8) {
+    store32(reinterpret_cast<Byte*>(factors + i), bytesOf(f(x)));
+    x = x + all(8);
+  }
+}
+
 template <typename F>
 [[gnu::always_inline]] inline void radialFactors(float* factors, size_t columns, const RadialRow& row,
                                                  const F& f) {
-  static constexpr float kFirst[] = {0, 1, 2, 3, 4, 5, 6, 7};
-  const auto all = [](float x) { return broadcastFloat<Floats8>(x); };
-  const Floats8 half = all(row.half), square = all(row.square), scale = all(row.scale), zero = all(0);
-  Floats8 x = loadFloats8(reinterpret_cast<const Byte*>(kFirst));
-  for (size_t i = 0; i < columns; i += 8) {
+  const Floats8 half = all(row.half), square = all(row.square), scale = all(row.scale);
+  fillFactors(factors, columns, [&](Floats8 x) {
     const Floats8 dx = half - x, left = half - squareRoot(dx * dx + square);
-    store32(reinterpret_cast<Byte*>(factors + i), bytesOf(f(left * scale) & isBelow(zero, left)));
-    x = x + all(8);
-  }
+    return f(left * scale) & isBelow(all(0), left);
+  });
 }
 
 }  // namespace
@@ -118,6 +126,14 @@ template <typename T>
 template void windowRows<uint8_t>(SourceRows, TargetRows, Extent, const float*, const float*);
 template void windowRows<uint16_t>(SourceRows, TargetRows, Extent, const float*, const float*);
 template void windowRows<float>(SourceRows, TargetRows, Extent, const float*, const float*);
+
+[[gnu::flatten]] void triangleFactors(float* factors, size_t count) {
+  const Floats8 last = all(static_cast<float>(count - 1)), middle = all(static_cast<float>((count - 1) / 2));
+  fillFactors(factors, count, [&](Floats8 x) {
+    const Floats8 part = all(2) * x / last;
+    return ifThenElse(isAtLeast(middle, x), part, all(2) - part);
+  });
+}
 
 [[gnu::flatten]] void coneFactors(float* factors, size_t columns, const RadialRow& row) {
   radialFactors(factors, columns, row, [](Floats8 x) { return x; });

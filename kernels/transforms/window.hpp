@@ -5,7 +5,7 @@
 
 namespace lumi {
 
-// Floats behind a table's last one that may be read with it.
+// Floats behind a table's last one that may be read or written with it.
 inline constexpr int kWindowPadding = 32;
 
 // dst(x, y) = src(x, y) * columns[x] * rows[y]: floats, whose products are rounded one after the other, and
@@ -13,6 +13,9 @@ inline constexpr int kWindowPadding = 32;
 // overlap otherwise are done sample by sample.
 template <typename T>
 void windowRows(SourceRows src, TargetRows dst, Extent samples, const float* columns, const float* rows);
+
+// factors[i] of so many: 2 i / (count - 1) up to the middle, and 2 less that behind it, in floats.
+void triangleFactors(float* factors, size_t count);
 
 // A row of a window that falls off with the distance from the middle.
 struct RadialRow {
