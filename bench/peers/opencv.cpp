@@ -178,7 +178,9 @@ std::vector<cv::Mat> partsOf(View complex) {
 }  // namespace
 
 Peer magnitude(View src, View dst) {
-  return peer("opencv", [s = partsOf(src), d = mat(dst)] { cv::magnitude(s[0], s[1], d); });
+  Peer result = peer("opencv", [s = partsOf(src), d = mat(dst)] { cv::magnitude(s[0], s[1], d); });
+  result.differs = "rounds other steps";
+  return result;
 }
 
 Peer phase(View src, View dst) {
