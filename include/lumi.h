@@ -16,6 +16,7 @@
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"
 #include "lumi/count_in_range.h"
+#include "lumi/dct_8x8.h"
 #include "lumi/dft.h"
 #include "lumi/div.h"
 #include "lumi/dot_prod.h"
@@ -51,5 +52,6 @@
 #include "lumi/unary.h"
 #include "lumi/version.h"
 #include "lumi/window.h"
+#include "lumi/zigzag.h"
 
 #endif

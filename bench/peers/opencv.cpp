@@ -406,6 +406,16 @@ Peer fourier(View src, View dst, bool inverse) {
   Peer result = peer("opencv", [=, s = mat(src), d = mat(dst)]() mutable { cv::dft(s, d, flags); });
   result.differs = "rounds otherwise";
   return result;
+Peer cosine8x8(View src, View dst, bool inverse) {
+  if (src.depth != Depth::f32 || !src.isTight() || !dst.isTight()) return {};
+  return peer("opencv", [=] {
+    const int blocks = src.roi.width * src.roi.height / 64;
+    for (int i = 0; i < blocks; ++i) {
+      const cv::Mat s(8, 8, CV_32F, src.bytes + 256 * i);
+      cv::Mat d(8, 8, CV_32F, dst.bytes + 256 * i);
+      cv::dct(s, d, inverse ? cv::DCT_INVERSE : 0);
+    }
+  });
 }
 
 Peer norm(View src, View result, Norm kind) {

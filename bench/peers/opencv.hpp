@@ -92,6 +92,8 @@ enum class Flip { horizontal, vertical, both };
 
 // Fourier transforms of complex images, or of real ones as packed spectra, without a scale.
 [[gnu::weak]] Peer fourier(View src, View dst, bool inverse);
+// Cosine transforms of floats, of the images' memory as blocks of 64 values each.
+[[gnu::weak]] Peer cosine8x8(View src, View dst, bool inverse);
 
 // Stores a double. Of one image, of the differences of two, or of those beside the second's.
 enum class Norm { infinity, sum, squares };
