@@ -51,6 +51,7 @@
 #include "lumi/transpose.h"
 #include "lumi/unary.h"
 #include "lumi/version.h"
+#include "lumi/wavelet.h"
 #include "lumi/window.h"
 #include "lumi/zigzag.h"
 

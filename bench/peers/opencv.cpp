@@ -418,6 +418,19 @@ Peer cosine8x8(View src, View dst, bool inverse) {
   });
 }
 
+Peer waveletBands(View src, std::vector<View> dst, std::vector<float> low, std::vector<float> high) {
+  const int length = static_cast<int>(low.size()), reach = length - length / 2 - 1;
+  Peer result = peer("opencv", [=, s = mat(src), d = mats(dst), filtered = cv::Mat()]() mutable {
+    for (std::size_t i = 0; i < 4; ++i) {
+      cv::sepFilter2D(s, filtered, CV_32F, i < 2 ? low : high, i % 2 == 0 ? low : high, {reach, reach}, 0,
+                      cv::BORDER_REPLICATE);
+      cv::resize(filtered, d[i], d[i].size(), 0, 0, cv::INTER_NEAREST);
+    }
+  });
+  result.differs = "repeats its border, and adds up in another order";
+  return result;
+}
+
 Peer norm(View src, View result, Norm kind) {
   return storing(result, [s = mat(src), type = kNorms[static_cast<int>(kind)]] { return cv::norm(s, type); });
 }

@@ -94,6 +94,9 @@ enum class Flip { horizontal, vertical, both };
 [[gnu::weak]] Peer fourier(View src, View dst, bool inverse);
 // Cosine transforms of floats, of the images' memory as blocks of 64 values each.
 [[gnu::weak]] Peer cosine8x8(View src, View dst, bool inverse);
+// Every other pixel of the source filtered by columns and rows: low low, high low, low high, high high.
+[[gnu::weak]] Peer waveletBands(View src, std::vector<View> dst, std::vector<float> low,
+                                std::vector<float> high);
 
 // Stores a double. Of one image, of the differences of two, or of those beside the second's.
 enum class Norm { infinity, sum, squares };
