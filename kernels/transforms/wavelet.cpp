@@ -110,7 +110,7 @@ void forRow(Byte* dst, size_t floats, const Rule& rule) {
 }
 
 template <int channels>
-constexpr size_t kPixel = kFloat* channels;
+constexpr size_t kPixel = sizeof(float[channels]);
 
 }  // namespace
 
@@ -135,6 +135,11 @@ void splitPixels(const Byte* src, size_t pixels, Byte* even, Byte* odd) {
       store32(odd + i / 2 * kBytes, joined(oddDwords(low.low, high.low), oddDwords(low.high, high.high)));
     }
   }
+  // Three floats and one that the next pixel of the row overwrites.
+  for (; channels == 3 && i + 3 < pixels; i += 2) {
+    store16(even + i / 2 * kBytes, load16(src + i * kBytes));
+    store16(odd + i / 2 * kBytes, load16(src + (i + 1) * kBytes));
+  }
   for (; i + 1 < pixels; i += 2) {
     move<kBytes>(even + i / 2 * kBytes, src + i * kBytes);
     move<kBytes>(odd + i / 2 * kBytes, src + (i + 1) * kBytes);
@@ -151,6 +156,10 @@ void mergePixels(const Byte* even, const Byte* odd, size_t pairs, Byte* dst) {
       const Bytes16 a = load16(even + i * kBytes), b = load16(odd + i * kBytes);
       store32(dst + 2 * i * kBytes, joined(interleaveLowDwords(a, b), interleaveHighDwords(a, b)));
     }
+  }
+  for (; channels == 3 && i + 1 < pairs; ++i) {
+    store16(dst + 2 * i * kBytes, load16(even + i * kBytes));
+    store16(dst + (2 * i + 1) * kBytes, load16(odd + i * kBytes));
   }
   for (; i < pairs; ++i) {
     move<kBytes>(dst + 2 * i * kBytes, even + i * kBytes);
