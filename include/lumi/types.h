@@ -141,7 +141,8 @@ typedef struct LumiHistogramSpec LumiHistogramSpec;
 /** Moments of an image, as floats or as integers: 400 bytes. */
 typedef struct LumiMomentState LumiMomentState;
 
-/** Filters of a wavelet transform: of its forward direction, and of its inverse, which their InitAlloc allocates. */
+/** Filters of a wavelet transform: of its forward direction, and of its inverse, which their InitAlloc
+ * allocates. */
 typedef struct LumiWTFwdSpec_32f_C1R LumiWTFwdSpec_32f_C1R;
 typedef struct LumiWTFwdSpec_32f_C3R LumiWTFwdSpec_32f_C3R;
 typedef struct LumiWTInvSpec_32f_C1R LumiWTInvSpec_32f_C1R;
