@@ -34,6 +34,7 @@
 #include "lumi/mirror.h"
 #include "lumi/moments.h"
 #include "lumi/mul.h"
+#include "lumi/mul_pack.h"
 #include "lumi/mul_scale.h"
 #include "lumi/norm.h"
 #include "lumi/phase.h"

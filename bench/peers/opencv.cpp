@@ -451,6 +451,14 @@ Peer dotProduct(View a, View b, View result) {
   return storing(result, [x = mat(a), y = mat(b)] { return x.dot(y); });
 }
 
+Peer multiplySpectra(View a, View b, View dst, bool conjugate) {
+  Peer product = peer("opencv", [=, x = mat(a), y = mat(b), d = mat(dst)]() mutable {
+    cv::mulSpectrums(x, y, d, 0, conjugate);
+  });
+  product.differs = "some of its products are doubles";
+  return product;
+}
+
 Peer meanAndDeviation(View src) {
   return peer("opencv", [s = mat(src)] {
     cv::Scalar mean, deviation;

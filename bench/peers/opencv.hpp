@@ -104,6 +104,8 @@ enum class Norm { infinity, sum, squares };
 [[gnu::weak]] Peer normOfDifference(View a, View b, View result, Norm kind);
 [[gnu::weak]] Peer relativeNorm(View a, View b, View result, Norm kind);
 [[gnu::weak]] Peer dotProduct(View a, View b, View result);
+// Of packed floats, by the second or by its conjugate.
+[[gnu::weak]] Peer multiplySpectra(View a, View b, View dst, bool conjugate);
 // Stores nothing.
 [[gnu::weak]] Peer meanAndDeviation(View src);
 

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#include "kernels/transforms/mul_pack.hpp"
+
+#include "kernels/simd/short_copy.hpp"
+#include "kernels/transforms/mul_pack_functions.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace simd;
+
+// How pairs of pixels of T are done: in wide groups where rows have room for one, in small ones, and one
+// below the other, where pixels of at most four samples are a pair.
+template <typename T, int stored, int used>
+struct Packing {
+  using Wide = DwordPairs<stored, used, std::is_same_v<T, float> ? 32 : 16>;
+  using Small = DwordPairs<stored, used, 16>;
+
+  static Parts<16> together(Bytes16 real, Bytes16 imaginary) { return {real, imaginary}; }
+  static Parts<16> apart(Parts<16> x) { return x; }
+};
+template <int stored, int used>
+struct Packing<int16_t, stored, used> {
+  using Wide = WordPairs<stored, used>;
+  using Small = Wide;
+
+  static Bytes16 together(Bytes16 real, Bytes16 imaginary) {
+    return interleaveLow(S16{real}, S16{imaginary}).v;
+  }
+  static Parts<16> apart(Bytes16 x) { return {x, bytesFrom<8>(x)}; }
+};
+
+template <int bytes>
+void storeUsed(Byte* p, Bytes16 x) {
+  if constexpr (bytes == 2) {
+    const uint32_t first = firstDword(x);
+    std::memcpy(p, &first, 2);
+  } else {
+    storePixel<bytes>(p, x);
+  }
+}
+
+template <typename T, int stored, int used, typename F>
+class PackProduct {
+ public:
+  PackProduct(SourceRows a, SourceRows b, TargetRows dst, Extent pixels, const F& f)
+      : a_(a), b_(b), dst_(dst), f_(f), pixels_(pixels), bytes_((pixels.length - 1) / 2 * 2 * kPixel) {}
+
+  void run() const {
+    using Wide = typename Its::Wide;
+    using Small = typename Its::Small;
+    if constexpr (!std::is_same_v<Wide, Small>)
+      if (bytes_ >= Wide::kBytes) return walk([this](int y) { row<Wide>(y); });
+    if (bytes_ >= Small::kBytes) return walk([this](int y) { row<Small>(y); });
+    if constexpr (Small::kBytes > 2 * kPixel)
+      if (bytes_ > 0) return walk([this](int y) { shortRow(y); });
+    walk([](int) {});
+  }
+
+ private:
+  using Its = Packing<T, stored, used>;
+  static constexpr size_t kPixel = stored * sizeof(T);
+  static constexpr int kUsed = used * static_cast<int>(sizeof(T));
+
+  // The pairs of the columns follow the two rows that they lie in, while these are at hand.
+  template <typename Row>
+  [[gnu::always_inline]] void walk(const Row& row) const {
+    const int height = pixels_.rows, columns = pixels_.length % 2 == 0 ? 2 : 1;
+    const auto inColumns = [&](const auto& work) {
+      for (int i = 0; i < columns; ++i) work(i == 0 ? 0 : (pixels_.length - 1) * kPixel);
+    };
+    inColumns([&](size_t at) { real(0, at); });
+    for (int y = 0; y < height; ++y) {
+      row(y);
+      if (y % 2 == 0 && y > 0) inColumns([&](size_t at) { below(y - 1, at); });
+    }
+    if (height % 2 == 0) inColumns([&](size_t at) { real(height - 1, at); });
+  }
+
+  // The last group may lie over the one before it: it is made of what was there before, and stored last.
+  template <typename Form>
+  [[gnu::always_inline]] void row(int y) const {
+    const Byte *const a = a_.row(y) + kPixel, *const b = b_.row(y) + kPixel;
+    Byte* const d = dst_.row(y) + kPixel;
+    const F f = f_;  // no store changes a copy
+    const auto group = [&](size_t at) { return f(Form::load(a + at), Form::load(b + at)); };
+    const size_t last = bytes_ - Form::kBytes;
+    const auto end = group(last);
+    for (size_t at = 0; at < last; at += Form::kBytes) Form::store(d + at, group(at));
+    Form::store(d + last, end);
+  }
+
+  void shortRow(int y) const {
+    using Form = typename Its::Small;
+    alignas(16) Byte first[Form::kBytes] = {}, second[Form::kBytes] = {}, results[Form::kBytes];
+    copyShort(a_.row(y) + kPixel, first, bytes_);
+    copyShort(b_.row(y) + kPixel, second, bytes_);
+    Form::store(results, f_(Form::load(first), Form::load(second)));
+    copyShort(results, dst_.row(y) + kPixel, bytes_);
+  }
+
+  static Bytes16 pixel(SourceRows of, int y, size_t at) { return loadPixel<kUsed>(of.row(y) + at); }
+
+  void below(int y, size_t at) const {
+    const auto parts = [&](SourceRows of) { return Its::together(pixel(of, y, at), pixel(of, y + 1, at)); };
+    const Parts<16> product = Its::apart(f_(parts(a_), parts(b_)));
+    storeUsed<kUsed>(dst_.row(y) + at, product.real);
+    storeUsed<kUsed>(dst_.row(y + 1) + at, product.imaginary);
+  }
+
+  void real(int y, size_t at) const {
+    const Bytes16 a = pixel(a_, y, at), b = pixel(b_, y, at), none = dwordsOf(0, 0, 0);
+    Byte* const d = dst_.row(y) + at;
+    if constexpr (std::is_same_v<T, float>)
+      storeUsed<kUsed>(d, f_.reals(a, b));
+    else
+      storeUsed<kUsed>(d, Its::apart(f_(Its::together(a, none), Its::together(b, none))).real);
+  }
+
+  SourceRows a_, b_;
+  TargetRows dst_;
+  F f_;
+  Extent pixels_;
+  size_t bytes_;  // of the pairs of a row
+};
+
+}  // namespace
+
+template <typename T, int stored, int used>
+void multiplyPacks(SourceRows a, SourceRows b, TargetRows dst, Extent pixels, int scaleFactor) {
+  choosePairProduct<T>(scaleFactor, [&](const auto& f) {
+    PackProduct<T, stored, used, std::decay_t<decltype(f)>>(a, b, dst, pixels, f).run();
+  });
+}
+
+template <int stored, int used>
+void multiplyPacksConjugate(SourceRows a, SourceRows b, TargetRows dst, Extent pixels) {
+  PackProduct<float, stored, used, FloatPairProduct<true>>(a, b, dst, pixels, {}).run();
+}
+
+#define LUMI_PACKS(stored, used)                                                                       \
+  template void multiplyPacks<int16_t, stored, used>(SourceRows, SourceRows, TargetRows, Extent, int); \
+  template void multiplyPacks<int32_t, stored, used>(SourceRows, SourceRows, TargetRows, Extent, int); \
+  template void multiplyPacks<float, stored, used>(SourceRows, SourceRows, TargetRows, Extent, int);   \
+  template void multiplyPacksConjugate<stored, used>(SourceRows, SourceRows, TargetRows, Extent);
+LUMI_PACKS(1, 1)
+LUMI_PACKS(3, 3)
+LUMI_PACKS(4, 4)
+LUMI_PACKS(4, 3)
+
+}  // namespace lumi
