@@ -25,6 +25,7 @@ enum class Path {
   LookUpSteps,
   FilterWordSums,
   FilterStrip,
+  WidePairs,
 };
 
 }  // namespace lumi

@@ -24,6 +24,7 @@
 #include "lumi/min_max_index.h"
 #include "lumi/mirror.h"
 #include "lumi/mul.h"
+#include "lumi/mul_pack.h"
 #include "lumi/set.h"
 #include "lumi/shift.h"
 #include "lumi/sum.h"
@@ -475,6 +476,22 @@ TEST(Paths, FiltersDoNarrowStripsByColumns) {
   };
   EXPECT_EQ(strips(6), 2);
   EXPECT_EQ(strips(5), 0);
+}
+
+TEST(Paths, LongRowsOfPackedFloatsGoInWideGroups) {
+  std::vector<Lum32f> a(60), b(60), dst(60);
+  const auto wide = [&](auto* multiply, int width, int channels) {
+    const int step = width * channels * static_cast<int>(sizeof(Lum32f));
+    return taken(Path::WidePairs, [&] {
+      return multiply(a.data(), step, b.data(), step, dst.data(), step, {width, 1});
+    });
+  };
+  EXPECT_EQ(wide(lumiMulPack_32f_C1R, 17, 1), 1);
+  EXPECT_EQ(wide(lumiMulPack_32f_C1R, 16, 1), 0);
+  EXPECT_EQ(wide(lumiMulPackConj_32f_C3R, 5, 3), 1);
+  EXPECT_EQ(wide(lumiMulPackConj_32f_C3R, 4, 3), 0);
+  EXPECT_EQ(wide(lumiMulPack_32f_AC4R, 5, 4), 1);
+  EXPECT_EQ(wide(lumiMulPack_32f_AC4R, 4, 4), 0);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "kernels/transforms/mul_pack.hpp"
 
+#include "kernels/path_count.hpp"
 #include "kernels/simd/short_copy.hpp"
 #include "kernels/transforms/mul_pack_functions.hpp"
 
@@ -50,7 +51,10 @@ class PackProduct {
     using Wide = typename Its::Wide;
     using Small = typename Its::Small;
     if constexpr (!std::is_same_v<Wide, Small>)
-      if (bytes_ >= Wide::kBytes) return walk([this](int y) { row<Wide>(y); });
+      if (bytes_ >= Wide::kBytes) {
+        countPath(Path::WidePairs);
+        return walk([this](int y) { row<Wide>(y); });
+      }
     if (bytes_ >= Small::kBytes) return walk([this](int y) { row<Small>(y); });
     if constexpr (Small::kBytes > 2 * kPixel)
       if (bytes_ > 0) return walk([this](int y) { shortRow(y); });
@@ -77,7 +81,8 @@ class PackProduct {
     if (height % 2 == 0) inColumns([&](size_t at) { real(height - 1, at); });
   }
 
-  // The last group may lie over the one before it: it is made of what was there before, and stored last.
+  // The last group may lie over the one before it: both are made of what was there before. Made ahead of all
+  // others, the last one would keep them waiting where the row is not in the cache.
   template <typename Form>
   [[gnu::always_inline]] void row(int y) const {
     const Byte *const a = a_.row(y) + kPixel, *const b = b_.row(y) + kPixel;
@@ -85,8 +90,10 @@ class PackProduct {
     const F f = f_;  // no store changes a copy
     const auto group = [&](size_t at) { return f(Form::load(a + at), Form::load(b + at)); };
     const size_t last = bytes_ - Form::kBytes;
-    const auto end = group(last);
-    for (size_t at = 0; at < last; at += Form::kBytes) Form::store(d + at, group(at));
+    size_t at = 0;
+    for (; at + Form::kBytes <= last; at += Form::kBytes) Form::store(d + at, group(at));
+    const auto before = group(at), end = group(last);
+    Form::store(d + at, before);
     Form::store(d + last, end);
   }
 

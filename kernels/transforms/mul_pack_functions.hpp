@@ -28,7 +28,9 @@ struct FloatPairProduct {
 };
 
 // Of 16-bit parts, exact in 32 bits but where all four are -32768: the imaginary part would be 2^31. Wherever
-// ar bi is 2^30, the largest product that there is, it stands alone, by contract.
+// ar bi is 2^30, the largest product that there is, it stands alone, by contract. Every sum with it is above
+// the largest word: where sums are limited to words first, only what wraps has to be told apart.
+template <bool limited>
 struct WordPairSums {
   S32 real, imaginary;
 
@@ -38,35 +40,42 @@ struct WordPairSums {
     // -ai would not hold -32768; ~ai is less by one, so that a bi is missing.
     const S32 conjugate = first ^ broadcast16(static_cast<int32_t>(0xFFFF0000));
     real = multiplyAddPairs(words(conjugate), words(second)) + shiftRight<16>(second);
-    const S32 product = multiplyAddPairs(words(first & broadcast16(0xFFFF)), words(turned));
-    imaginary = ifThenElse(isEqual(product, broadcast16(1 << 30)), product,
-                           multiplyAddPairs(words(first), words(turned)));
+    const S32 sum = multiplyAddPairs(words(first), words(turned));
+    if constexpr (limited) {
+      imaginary = sum ^ isEqual(sum, broadcast16(INT32_MIN));
+    } else {
+      const S32 product = multiplyAddPairs(words(first & broadcast16(0xFFFF)), words(turned));
+      imaginary = ifThenElse(isEqual(product, broadcast16(1 << 30)), product, sum);
+    }
   }
 
  private:
   static constexpr Control kSwapped = {2, 3, 0, 1, 6, 7, 4, 5, 10, 11, 8, 9, 14, 15, 12, 13};
 };
 
-// A function of word pairs by what becomes of a sum.
+// A function of word pairs by what becomes of a sum; kLimited: it is limited to words before anything else.
 template <typename Scaled>
 struct WordPairProduct {
   Scaled scaled;
 
   Bytes16 operator()(Bytes16 a, Bytes16 b) const {
-    const WordPairSums x(a, b);
+    const WordPairSums<Scaled::kLimited> x(a, b);
     return narrowSigned<int16_t>(scaled(x.real), scaled(x.imaginary)).v;
   }
 };
 struct WordSum {
+  static constexpr bool kLimited = true;
   S32 operator()(S32 x) const { return x; }
 };
 // Shifts beyond the width leave the sign: 0 or -1, as rounding down wants.
 struct ShiftedDownWordSum {
+  static constexpr bool kLimited = false;
   Shift shift;
   S32 operator()(S32 x) const { return x >> shift; }
 };
 // What leaves the type does so before it is multiplied, too. 2^15 is enough for every sum but 0.
 struct ShiftedUpWordSum {
+  static constexpr bool kLimited = true;
   Shift shift;
   explicit ShiftedUpWordSum(int bits) : shift(std::min(bits, 15)) {}
   S32 operator()(S32 x) const {
@@ -148,9 +157,8 @@ struct ShiftedUpDwordSum {
   }
 };
 
-// Calls run(f) with the function for samples T and a scale factor.
-template <typename T, template <typename> class Product, typename Sum, typename Down, typename Up,
-          typename Run>
+// Calls run(f) with the function for a scale factor.
+template <template <typename> class Product, typename Sum, typename Down, typename Up, typename Run>
 [[gnu::always_inline]] inline void chooseByScale(int scaleFactor, const Run& run) {
   if (scaleFactor == 0)
     run(Product<Sum>{});
@@ -165,9 +173,9 @@ template <typename T, typename Run>
   if constexpr (std::is_same_v<T, float>)
     run(FloatPairProduct<false>());
   else if constexpr (std::is_same_v<T, int16_t>)
-    chooseByScale<T, WordPairProduct, WordSum, ShiftedDownWordSum, ShiftedUpWordSum>(scaleFactor, run);
+    chooseByScale<WordPairProduct, WordSum, ShiftedDownWordSum, ShiftedUpWordSum>(scaleFactor, run);
   else
-    chooseByScale<T, DwordPairProduct, DwordSum, ShiftedDownDwordSum, ShiftedUpDwordSum>(scaleFactor, run);
+    chooseByScale<DwordPairProduct, DwordSum, ShiftedDownDwordSum, ShiftedUpDwordSum>(scaleFactor, run);
 }
 
 }  // namespace lumi::simd
