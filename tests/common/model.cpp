@@ -56,7 +56,7 @@ std::optional<std::string> failureWithoutMemory(const Member& m, Stage& stage, c
     testcore::reset();
     testcore::failAllocation(n);
     const std::string which = "allocation " + std::to_string(n) + " fails: ";
-    if (const auto failure = stage.run(m, c, lumStatusNoMemory)) return which + *failure;
+    if (const auto failure = stage.run(m, c, m.withoutMemory)) return which + *failure;
     if (leaves()) return which + "a block is left behind";
   }
   return std::nullopt;

@@ -157,8 +157,10 @@ struct Member {
   const ExportRow* row = nullptr;
   Model model;
   int rounds = 24;  // of images of every width; fewer where a call does much besides its image
-  bool allocates =
-      false;  // scratch, by lumcore: fails with lumStatusMemAlloc and leaves everything as it was
+  // Whether it takes scratch from lumcore; where there is none, everything stays as it was, and that is the
+  // status.
+  bool allocates = false;
+  LumStatus withoutMemory = lumStatusNoMemory;
 
   // Memory besides images: results between guards, and arrays of values.
   struct Block {
