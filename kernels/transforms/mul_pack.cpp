@@ -47,18 +47,15 @@ class PackProduct {
   PackProduct(SourceRows a, SourceRows b, TargetRows dst, Extent pixels, const F& f)
       : a_(a), b_(b), dst_(dst), f_(f), pixels_(pixels), bytes_((pixels.length - 1) / 2 * 2 * kPixel) {}
 
+  // The numbers of the columns follow the rows that they lie in, while these are at hand.
   void run() const {
-    using Wide = typename Its::Wide;
-    using Small = typename Its::Small;
-    if constexpr (!std::is_same_v<Wide, Small>)
-      if (bytes_ >= Wide::kBytes) {
-        countPath(Path::WidePairs);
-        return walk([this](int y) { row<Wide>(y); });
-      }
-    if (bytes_ >= Small::kBytes) return walk([this](int y) { row<Small>(y); });
-    if constexpr (Small::kBytes > 2 * kPixel)
-      if (bytes_ > 0) return walk([this](int y) { shortRow(y); });
-    walk([](int) {});
+    if (hasWideRows()) countPath(Path::WidePairs);
+    for (int y = 0; y < pixels_.rows; ++y) {
+      row(y);
+      const bool isOdd = y % 2 != 0, isLast = y == pixels_.rows - 1;
+      if (y > 0 && !isOdd) inColumns([=](size_t at) { below(y - 1, at); });
+      if (y == 0 || (isOdd && isLast)) inColumns([=](size_t at) { real(y, at); });
+    }
   }
 
  private:
@@ -66,25 +63,30 @@ class PackProduct {
   static constexpr size_t kPixel = stored * sizeof(T);
   static constexpr int kUsed = used * static_cast<int>(sizeof(T));
 
-  // The pairs of the columns follow the two rows that they lie in, while these are at hand.
-  template <typename Row>
-  [[gnu::always_inline]] void walk(const Row& row) const {
-    const int height = pixels_.rows, columns = pixels_.length % 2 == 0 ? 2 : 1;
-    const auto inColumns = [&](const auto& work) {
-      for (int i = 0; i < columns; ++i) work(i == 0 ? 0 : (pixels_.length - 1) * kPixel);
-    };
-    inColumns([&](size_t at) { real(0, at); });
-    for (int y = 0; y < height; ++y) {
-      row(y);
-      if (y % 2 == 0 && y > 0) inColumns([&](size_t at) { below(y - 1, at); });
-    }
-    if (height % 2 == 0) inColumns([&](size_t at) { real(height - 1, at); });
+  // Calls work(byte of the column) for those that are packed downwards.
+  template <typename Work>
+  [[gnu::always_inline]] void inColumns(const Work& work) const {
+    const size_t step = (pixels_.length - 1) * kPixel;
+    for (size_t i = 0; i < 2 - pixels_.length % 2; ++i) work(i * step);
+  }
+
+  bool hasWideRows() const {
+    return !std::is_same_v<typename Its::Wide, typename Its::Small> && bytes_ >= Its::Wide::kBytes;
+  }
+
+  // Which way follows from the length, and is foreseen from the second row on.
+  [[gnu::always_inline]] void row(int y) const {
+    using Small = typename Its::Small;
+    if (hasWideRows()) return groups<typename Its::Wide>(y);
+    if (bytes_ >= Small::kBytes) return groups<Small>(y);
+    if constexpr (Small::kBytes > 2 * kPixel)
+      if (bytes_ > 0) shortRow(y);
   }
 
   // The last group may lie over the one before it: both are made of what was there before. Made ahead of all
   // others, the last one would keep them waiting where the row is not in the cache.
   template <typename Form>
-  [[gnu::always_inline]] void row(int y) const {
+  [[gnu::always_inline]] void groups(int y) const {
     const Byte *const a = a_.row(y) + kPixel, *const b = b_.row(y) + kPixel;
     Byte* const d = dst_.row(y) + kPixel;
     const F f = f_;  // no store changes a copy
@@ -108,14 +110,14 @@ class PackProduct {
 
   static Bytes16 pixel(SourceRows of, int y, size_t at) { return loadPixel<kUsed>(of.row(y) + at); }
 
-  void below(int y, size_t at) const {
+  [[gnu::always_inline]] void below(int y, size_t at) const {
     const auto parts = [&](SourceRows of) { return Its::together(pixel(of, y, at), pixel(of, y + 1, at)); };
     const Parts<16> product = Its::apart(f_(parts(a_), parts(b_)));
     storeUsed<kUsed>(dst_.row(y) + at, product.real);
     storeUsed<kUsed>(dst_.row(y + 1) + at, product.imaginary);
   }
 
-  void real(int y, size_t at) const {
+  [[gnu::always_inline]] void real(int y, size_t at) const {
     const Bytes16 a = pixel(a_, y, at), b = pixel(b_, y, at), none = dwordsOf(0, 0, 0);
     Byte* const d = dst_.row(y) + at;
     if constexpr (std::is_same_v<T, float>)
