@@ -39,6 +39,7 @@
 #include "lumi/mul_scale.h"
 #include "lumi/norm.h"
 #include "lumi/phase.h"
+#include "lumi/polar_pack.h"
 #include "lumi/polar_to_cart.h"
 #include "lumi/quality_index.h"
 #include "lumi/resize.h"
