@@ -2,7 +2,6 @@
 #include "kernels/transforms/mul_pack.hpp"
 
 #include "kernels/path_count.hpp"
-#include "kernels/simd/short_copy.hpp"
 #include "kernels/transforms/mul_pack_functions.hpp"
 
 namespace lumi {
@@ -99,13 +98,20 @@ class PackProduct {
     Form::store(d + last, end);
   }
 
+  // Fewer pairs than a group has.
+  static void copyPairs(const Byte* from, Byte* to, size_t bytes) {
+    constexpr size_t pair = 2 * kPixel, most = Its::Small::kBytes / pair - 1;
+    for (size_t i = 0; i < most; ++i)
+      if (i * pair < bytes) move<pair>(to + i * pair, from + i * pair);
+  }
+
   void shortRow(int y) const {
     using Form = typename Its::Small;
     alignas(16) Byte first[Form::kBytes] = {}, second[Form::kBytes] = {}, results[Form::kBytes];
-    copyShort(a_.row(y) + kPixel, first, bytes_);
-    copyShort(b_.row(y) + kPixel, second, bytes_);
+    copyPairs(a_.row(y) + kPixel, first, bytes_);
+    copyPairs(b_.row(y) + kPixel, second, bytes_);
     Form::store(results, f_(Form::load(first), Form::load(second)));
-    copyShort(results, dst_.row(y) + kPixel, bytes_);
+    copyPairs(results, dst_.row(y) + kPixel, bytes_);
   }
 
   static Bytes16 pixel(SourceRows of, int y, size_t at) { return loadPixel<kUsed>(of.row(y) + at); }
