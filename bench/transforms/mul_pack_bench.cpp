@@ -79,7 +79,8 @@ Suite::Build products(OfSpectra<T, Rest...> lumi, Rest... scale) {
 
 const Family family("mul_pack", [](Suite& suite) {
   suite.row("mulPack 32f C1", kSpectra, products<1>(lumiMulPack_32f_C1R));
-  suite.row("mulPack 32f C1 padded", kSpectra, products<1>(lumiMulPack_32f_C1R), Placement::padded);
+  suite.row("mulPack 32f C1 padded", {kCached, {512, 512}, kHd}, products<1>(lumiMulPack_32f_C1R),
+            Placement::padded);
   suite.row("mulPack 32f C3", kUpToHd, products<3>(lumiMulPack_32f_C3R));
   suite.row("mulPack 32f C4", kUpToHd, products<4>(lumiMulPack_32f_C4R));
   suite.row("mulPack 16s C1", kSpectra, products<1>(lumiMulPack_16s_C1RSfs, 0));
