@@ -19,7 +19,8 @@ T made(const F& f, T re, T im) {
     return f(re, im);
   } else {
     constexpr double low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
-    return static_cast<T>(std::clamp(std::nearbyint(f(double{re}, double{im})), low, high));
+    return static_cast<T>(
+        std::clamp(std::nearbyint(f(static_cast<double>(re), static_cast<double>(im))), low, high));
   }
 }
 
