@@ -17,6 +17,7 @@
 #include "lumi/copy_channels.h"
 #include "lumi/count_in_range.h"
 #include "lumi/cplx_pack.h"
+#include "lumi/dct.h"
 #include "lumi/dct_8x8.h"
 #include "lumi/dft.h"
 #include "lumi/div.h"

@@ -56,6 +56,8 @@ constexpr Lum32s identifierOf(const LumiDFTSpec_C_32fc*) { return 27; }
 constexpr Lum32s identifierOf(const LumiDFTSpec_R_32f*) { return 28; }
 constexpr Lum32s identifierOf(const LumiFFTSpec_R_32s*) { return 29; }
 constexpr Lum32s identifierOf(const LumiDFTSpec_R_32s*) { return 30; }
+constexpr Lum32s identifierOf(const LumiDCTFwdSpec_32f*) { return 31; }
+constexpr Lum32s identifierOf(const LumiDCTInvSpec_32f*) { return 32; }
 
 // The real transform's object in one of integers.
 template <typename Spec>

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "transforms/spectrum.hpp"
 
-#include <algorithm>
 #include <cstring>
 
 #include "frame/object.hpp"
-#include "kernels/planes.hpp"
-#include "kernels/transforms/colours.hpp"
+#include "transforms/image_rows.hpp"
 
 namespace lumi {
 namespace {
@@ -17,8 +15,6 @@ using namespace transforms;
 // power-of-two lengths has no room for eight rows.
 constexpr size_t kShortRow = 64;
 
-constexpr size_t kMostRows = 2 * kLanes;
-
 class RowRunner {
  public:
   RowRunner(const SpectrumPlan& plan, bool areReal, float* scratch)
@@ -26,7 +22,7 @@ class RowRunner {
 
   // Rows that are transformed at once.
   size_t atOnce() const {
-    return plan_.method == RowMethod::single ? 1 : plan_.method == RowMethod::odd ? kMostRows : kLanes;
+    return plan_.method == RowMethod::single ? 1 : plan_.method == RowMethod::odd ? kMostRowsAtOnce : kLanes;
   }
 
   // At most as many rows, of any image.
@@ -81,65 +77,20 @@ class RowRunner {
   alignas(64) float short_[2 * kShortRow * kPointFloats];
 };
 
-void transformRows(const SpectrumPlan& plan, bool areReal, SourceRows src, TargetRows dst, float* scratch) {
-  RowRunner runner(plan, areReal, scratch);
-  const Byte* from[kMostRows];
-  Byte* to[kMostRows];
-  for (size_t y = 0; y < plan.height; y += runner.atOnce()) {
-    const size_t count = std::min(runner.atOnce(), plan.height - y);
-    for (size_t i = 0; i < count; ++i) {
-      from[i] = src.row(static_cast<int>(y + i));
-      to[i] = dst.row(static_cast<int>(y + i));
-    }
-    runner.run(from, to, count);
-  }
-}
-
-template <typename Layout>
-void splitRow(const Byte* row, Byte* const* planes, size_t width) {
-  PlaneRows<Byte, Layout::kStored> to{};
-  for (size_t c = 0; c < Layout::kStored; ++c) to.first[c] = planes[c];
-  splitRows<sizeof(float), Layout::kStored>({row, 0}, to, {width, 1}, false);
-}
-
-template <typename Layout>
-void mergeRow(Byte* const* planes, Byte* row, size_t width) {
-  if constexpr (Layout::kUsed == Layout::kStored) {
-    PlaneRows<const Byte, Layout::kStored> from{};
-    for (size_t c = 0; c < Layout::kStored; ++c) from.first[c] = planes[c];
-    mergeRows<sizeof(float), Layout::kStored>(from, {row, 0}, {width, 1}, false);
-  } else {
-    mergeColours(planes[0], planes[1], planes[2], row, width);
-  }
-}
-
-// Channels as planes of rows: of as many rows as fill the lanes.
+// Planes of channels are on the stack where rows are short, and before the scratch of the rows otherwise.
 template <typename Layout>
 void transformChannelRows(const SpectrumPlan& plan, SourceRows src, TargetRows dst, float* scratch) {
-  constexpr size_t kStored = Layout::kStored, kUsed = Layout::kUsed;
-  alignas(64) float shortPlanes[kMostRows * 2 * kShortRow];
+  alignas(64) float shortPlanes[kMostRowsAtOnce * 2 * kShortRow];
   const bool isSingle = plan.method == RowMethod::single, isShort = !isSingle && plan.width <= 2 * kShortRow;
-  // Planes are before the scratch of the rows, on a boundary.
-  const size_t room = roundedUp(static_cast<int64_t>((isSingle ? kStored : kMostRows) * plan.width), 16);
+  const size_t planes = isSingle ? Layout::kStored : kMostRowsAtOnce;
+  const auto room = static_cast<size_t>(roundedUp(static_cast<int64_t>(planes * plan.width), 16));
   RowRunner runner(plan, true, scratch + (isShort ? 0 : room));
-  float* const planes = isShort ? shortPlanes : scratch;
-  const size_t atOnce = isSingle ? 1 : runner.atOnce() / kStored;
-  for (size_t y = 0; y < plan.height; y += atOnce) {
-    const size_t count = std::min(atOnce, plan.height - y);
-    Byte* plane[kMostRows];
-    Byte* used[kMostRows];
-    size_t lanes = 0;
-    for (size_t i = 0; i < count; ++i) {
-      for (size_t c = 0; c < kStored; ++c)
-        plane[i * kStored + c] = reinterpret_cast<Byte*>(planes + (i * kStored + c) * plan.width);
-      splitRow<Layout>(src.row(static_cast<int>(y + i)), plane + i * kStored, plan.width);
-      for (size_t c = 0; c < kUsed; ++c) used[lanes++] = plane[i * kStored + c];
-    }
-    for (size_t i = 0; i < lanes; i += runner.atOnce())
-      runner.run(used + i, used + i, std::min(runner.atOnce(), lanes - i));
-    for (size_t i = 0; i < count; ++i)
-      mergeRow<Layout>(plane + i * kStored, dst.row(static_cast<int>(y + i)), plan.width);
-  }
+  runChannelRows<Layout>(runner, plan.width, plan.height, src, dst, isShort ? shortPlanes : scratch);
+}
+
+void transformRows(const SpectrumPlan& plan, bool areReal, SourceRows src, TargetRows dst, float* scratch) {
+  RowRunner runner(plan, areReal, scratch);
+  runImageRows(runner, plan.height, src, dst);
 }
 
 template <typename Layout>

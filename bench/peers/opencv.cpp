@@ -406,6 +406,16 @@ Peer fourier(View src, View dst, bool inverse) {
   Peer result = peer("opencv", [=, s = mat(src), d = mat(dst)]() mutable { cv::dft(s, d, flags); });
   result.differs = "rounds otherwise";
   return result;
+}
+
+Peer cosine(View src, View dst, bool inverse) {
+  if (src.roi.width % 2 != 0 || src.roi.height % 2 != 0) return {};
+  Peer result = peer(
+      "opencv", [=, s = mat(src), d = mat(dst)]() mutable { cv::dct(s, d, inverse ? cv::DCT_INVERSE : 0); });
+  result.differs = "rounds otherwise";
+  return result;
+}
+
 Peer cosine8x8(View src, View dst, bool inverse) {
   if (src.depth != Depth::f32 || !src.isTight() || !dst.isTight()) return {};
   return peer("opencv", [=] {

@@ -92,7 +92,9 @@ enum class Flip { horizontal, vertical, both };
 
 // Fourier transforms of complex images, or of real ones as packed spectra, without a scale.
 [[gnu::weak]] Peer fourier(View src, View dst, bool inverse);
-// Cosine transforms of floats, of the images' memory as blocks of 64 values each.
+// Cosine transforms of floats, of whole images of even sides, and of their memory as blocks of 64 values
+// each.
+[[gnu::weak]] Peer cosine(View src, View dst, bool inverse);
 [[gnu::weak]] Peer cosine8x8(View src, View dst, bool inverse);
 // Every other pixel of the source filtered by columns and rows: low low, high low, low high, high high.
 [[gnu::weak]] Peer waveletBands(View src, std::vector<View> dst, std::vector<float> low,

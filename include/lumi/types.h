@@ -135,6 +135,10 @@ typedef struct LumiDFTSpec_C_32fc LumiDFTSpec_C_32fc;
 typedef struct LumiDFTSpec_R_32f LumiDFTSpec_R_32f;
 typedef struct LumiDFTSpec_R_32s LumiDFTSpec_R_32s;
 
+/** Cosine transforms of images, and their inverses. */
+typedef struct LumiDCTFwdSpec_32f LumiDCTFwdSpec_32f;
+typedef struct LumiDCTInvSpec_32f LumiDCTInvSpec_32f;
+
 /** Levels between which lumiHistogram counts, in memory of the caller's. */
 typedef struct LumiHistogramSpec LumiHistogramSpec;
 

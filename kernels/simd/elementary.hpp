@@ -23,6 +23,9 @@ inline Floats8 squareRoot(Floats8 x) { return {_mm256_sqrt_ps(x.v)}; }
 inline Doubles4 squareRoot(Doubles4 x) { return {_mm256_sqrt_pd(x.v)}; }
 inline double squareRoot(double x) { return _mm_cvtsd_f64(_mm_sqrt_sd(_mm_setzero_pd(), _mm_set_sd(x))); }
 
+// As the processor estimates 1 / sqrt(x).
+inline float approximateInverseRoot(float x) { return _mm_cvtss_f32(_mm_rsqrt_ss(_mm_set_ss(x))); }
+
 // The nearest integer, as a float, ties to even.
 inline Floats4 nearest(Floats4 x) { return {_mm_round_ps(x.v, kTiesToEven)}; }
 inline Floats8 nearest(Floats8 x) { return {_mm256_round_ps(x.v, kTiesToEven)}; }
