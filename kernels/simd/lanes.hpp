@@ -61,6 +61,12 @@ inline void storeFours(Byte* p, Byte* q, Floats8 x) {
   store16(q, bytesOf(highHalf(x)));
 }
 
+// Floats p[0], p[1], c and d.
+inline Floats4 pairOf(const Byte* p, float c, float d) {
+  const __m128 first = _mm_castsi128_ps(loadFew<8>(p));
+  return {_mm_movelh_ps(first, _mm_unpacklo_ps(_mm_set_ss(c), _mm_set_ss(d)))};
+}
+
 // From the last lane to the first.
 inline Floats8 reversed(Floats8 x) {
   return {_mm256_permute_ps(_mm256_permute2f128_ps(x.v, x.v, 0x01), 0x1B)};

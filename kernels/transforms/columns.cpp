@@ -24,6 +24,11 @@ struct PairsOf;
 template <>
 struct PairsOf<C1> {
   static constexpr size_t kPairs = 8;
+  // The lane of a pair's first sample.
+  static constexpr size_t laneOf(size_t pair) {
+    constexpr size_t kLaneOf[] = {0, 1, 4, 5, 2, 3, 6, 7};
+    return kLaneOf[pair];
+  }
   static Complex<Lanes> load(const Byte* p) {
     const Floats8 a = loadFloats8(p), b = loadFloats8(p + 32);
     return {evenLanes(a, b), oddLanes(a, b)};
@@ -32,11 +37,23 @@ struct PairsOf<C1> {
     store32(p, bytesOf(interleaveLowLanes(x.re, x.im)));
     store32(p + 32, bytesOf(interleaveHighLanes(x.re, x.im)));
   }
+  // Seven pairs, and one that is not in memory behind them.
+  static Complex<Lanes> loadSeven(const Byte* p, float re, float im) {
+    const Floats8 a = loadFloats8(p), b = joined(loadFloats4(p + 32), pairOf(p + 48, re, im));
+    return {evenLanes(a, b), oddLanes(a, b)};
+  }
+  static void storeSeven(Byte* p, Complex<Lanes> x) {
+    const Bytes32 last = bytesOf(interleaveHighLanes(x.re, x.im));
+    store32(p, bytesOf(interleaveLowLanes(x.re, x.im)));
+    store16(p + 32, lowHalf(last));
+    storeFirst8(p + 48, highHalf(last));
+  }
 };
 
 template <>
 struct PairsOf<C4> {
   static constexpr size_t kPairs = 2;
+  static constexpr size_t laneOf(size_t pair) { return 4 * pair; }
   static Complex<Lanes> load(const Byte* p) {
     return {loadTwoFours(p, p + 32), loadTwoFours(p + 16, p + 48)};
   }
@@ -66,6 +83,7 @@ struct PairsOf<AC4> : PairsOf<C4> {
 template <>
 struct PairsOf<C3> {
   static constexpr size_t kPairs = 2;
+  static constexpr size_t laneOf(size_t pair) { return 4 * pair; }
   static Complex<Lanes> load(const Byte* p) {
     const Bytes16 last = permuteDwords<1, 2, 3, 3>(load16(p + 32));
     return {loadTwoFours(p, p + 24), joined(loadFloats4(p + 12), samplesOf<float>(last))};
@@ -164,14 +182,21 @@ class FewColumns {
   const Byte* sourceRow(size_t n) const { return src_.first + static_cast<ptrdiff_t>(n) * src_.step; }
   Byte* targetRow(size_t n) const { return dst_.first + static_cast<ptrdiff_t>(n) * dst_.step; }
 
+  // What power-of-two widths leave.
+  bool areSeven() const { return Layout::kStored == 1 && pairs_ == 7 && columns_.realColumns != 0; }
+
   void fill(size_t n) {
+    const Byte* const row = sourceRow(n) + offset_;
+    Pair<Layout> edges = {};
+    if (columns_.realColumns != 0) edges = inverse ? mixed(n) : loadEdges(n);
+    float* const point = points_ + transform_.slotOfPlace(n) * kPointFloats;
+    if constexpr (Layout::kStored == 1)
+      if (areSeven())
+        return storePoint(point, inTurn<inverse>(Group::loadSeven(row, edges.re[0], edges.im[0])));
     Bytes bytes = {};
-    std::memcpy(bytes, sourceRow(n) + offset_, pairs_ * kPair<Layout>);
-    if (columns_.realColumns != 0) {
-      const Pair<Layout> edges = inverse ? mixed(n) : loadEdges(n);
-      std::memcpy(bytes + pairs_ * kPair<Layout>, &edges, sizeof(edges));
-    }
-    storePoint(points_ + transform_.slotOfPlace(n) * kPointFloats, inTurn<inverse>(Group::load(bytes)));
+    std::memcpy(bytes, row, pairs_ * kPair<Layout>);
+    if (columns_.realColumns != 0) std::memcpy(bytes + pairs_ * kPair<Layout>, &edges, sizeof(edges));
+    storePoint(point, inTurn<inverse>(Group::load(bytes)));
   }
 
   Complex<Lanes> resultAt(size_t k) const {
@@ -181,9 +206,11 @@ class FewColumns {
   }
 
   void drain(size_t k) {
+    Byte* const row = targetRow(k) + offset_;
+    if constexpr (Layout::kStored == 1)
+      if (areSeven()) return Group::storeSeven(row, resultAt(k));
     Bytes bytes;
     PairsOf<WithAlpha>::store(bytes, resultAt(k));
-    Byte* const row = targetRow(k) + offset_;
     if constexpr (Layout::kUsed == Layout::kStored) {
       std::memcpy(row, bytes, pairs_ * kPair<Layout>);
     } else {
@@ -194,10 +221,12 @@ class FewColumns {
   using WithAlpha = std::conditional_t<std::is_same_v<Layout, AC4>, C4, Layout>;
 
   Pair<Layout> edgesAt(size_t k) const {
-    Bytes bytes;
-    PairsOf<WithAlpha>::store(bytes, resultAt(k));
+    const float* const point = points_ + transform_.slotOfFrequency(k) * kPointFloats + Group::laneOf(pairs_);
     Pair<Layout> edges;
-    std::memcpy(&edges, bytes + pairs_ * kPair<Layout>, sizeof(edges));
+    for (int c = 0; c < Layout::kStored; ++c) {
+      edges.re[c] = point[c + (inverse ? kLanes : 0)] * scale_;
+      edges.im[c] = point[c + (inverse ? 0 : kLanes)] * scale_;
+    }
     return edges;
   }
 
