@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <limits>
 #include <type_traits>
 
@@ -32,36 +33,41 @@ inline PackedNumber packedNumber(LumiSize roi, int row, int column) {
   return {{from, 2 * k - 1}, {from, 2 * k}, false, isRight};
 }
 
+// Samples are moved as integers: a 32-bit processor's float registers change what is no number.
 template <typename T>
-T negative(T x) {
-  if constexpr (std::is_integral_v<T>)
-    if (x == std::numeric_limits<T>::min()) return std::numeric_limits<T>::max();
-  return static_cast<T>(-x);
+using Moved = std::conditional_t<std::is_floating_point_v<T>, uint32_t, T>;
+
+template <typename T>
+Moved<T> negative(Moved<T> x) {
+  if constexpr (std::is_floating_point_v<T>)
+    return x ^ 0x80000000;
+  else
+    return x == std::numeric_limits<T>::min() ? std::numeric_limits<T>::max() : static_cast<T>(-x);
 }
 
 template <typename T>
 void extendPack(Image src, Image dst, LumiSize roi) {
-  const PackedChannel<T> pack{src, 1, 0};
+  const PackedChannel<Moved<T>> pack{src, 1, 0};
   for (int row = 0; row < roi.height; ++row)
     for (int column = 0; column < roi.width; ++column) {
       const PackedNumber n = packedNumber(roi, row, column);
-      const T imaginary = n.isReal ? T{0} : pack.at(n.imaginary);
-      store<T>(dst.row(row), 2 * column, pack.at(n.real));
-      store<T>(dst.row(row), 2 * column + 1, n.isConjugate ? negative(imaginary) : imaginary);
+      const Moved<T> imaginary = n.isReal ? 0 : pack.at(n.imaginary);
+      store<Moved<T>>(dst.row(row), 2 * column, pack.at(n.real));
+      store<Moved<T>>(dst.row(row), 2 * column + 1, n.isConjugate ? negative<T>(imaginary) : imaginary);
     }
 }
 
 template <typename T>
 void packSpectrum(Image src, Image dst, LumiSize roi, int channels) {
   for (int c = 0; c < channels; ++c) {
-    const PackedChannel<T> pack{dst, channels, c};
+    const PackedChannel<Moved<T>> pack{dst, channels, c};
     for (int row = 0; row < roi.height; ++row)
       for (int column = 0; column < roi.width; ++column) {
         const PackedNumber n = packedNumber(roi, row, column);
         if (n.isConjugate) continue;
         const int at = 2 * (column * channels + c);
-        pack.set(n.real, load<T>(src.row(row), at));
-        if (!n.isReal) pack.set(n.imaginary, load<T>(src.row(row), at + 1));
+        pack.set(n.real, load<Moved<T>>(src.row(row), at));
+        if (!n.isReal) pack.set(n.imaginary, load<Moved<T>>(src.row(row), at + 1));
       }
   }
 }
