@@ -3,7 +3,6 @@
 #include "transforms/dct_spec.hpp"
 
 #include "kernels/simd/elementary.hpp"
-#include "kernels/transforms/roots.hpp"
 
 namespace lumi {
 namespace {
@@ -11,17 +10,13 @@ namespace {
 using namespace check;
 using transforms::anyLength;
 using transforms::AnyLength;
-using transforms::CosineTransform;
+using transforms::isPowerOfTwo;
 
 constexpr int kMostPower = 0xfffffff, kMostOther = 0x3ffffff;
 constexpr Lum32s kAxis = 21;
 constexpr int kBlock = 8;
 
-constexpr bool isPowerOfTwo(int n) { return (n & (n - 1)) == 0; }
 constexpr bool isBlock(int width, int height) { return width == kBlock && height == kBlock; }
-
-// Of an even length that of the half.
-constexpr int64_t complexLength(int64_t n) { return n % 2 == 0 ? n / 2 : n; }
 
 TransformBytes axisBytes(int length) {
   const int64_t n = length, half = complexLength(n);
@@ -45,21 +40,6 @@ TransformBytes bytesOf(int width, int height) {
   const int64_t init = isBlock(width, height) ? 0 : aligned(row.init) + differ * aligned(column.init);
   return {withRoom(64 + aligned(row.object) + differ * aligned(column.object)), withRoom(init),
           aligned(std::max(16 * int64_t{width} + row.work, 32 * int64_t{height} + column.work))};
-}
-
-// exp(-2 pi i k / n) for k < count, real parts and imaginary ones apart.
-struct RootTable {
-  const float *re, *im;
-};
-RootTable makeRoots(int64_t count, int64_t n, Tables& memory) {
-  auto* const re = memory.take<float>(count);
-  auto* const im = memory.take<float>(count);
-  for (int64_t k = 0; k < count; ++k) {
-    const transforms::Root w = transforms::root(k, n);
-    re[k] = static_cast<float>(w.re);
-    im[k] = static_cast<float>(w.im);
-  }
-  return {re, im};
 }
 
 // 1 / sqrt(n) from the processor's estimate by one step of Newton's in single precision, as it is told.
@@ -100,9 +80,6 @@ void make(int width, int height, Spec* object, void* scratch) {
   words->column = width == height ? nullptr : makeAxis(height, memory, floats);
 }
 
-// What a size cannot tell, no memory holds.
-LumStatus isTold(int64_t bytes) { return bytes < INT_MAX ? lumStatusOk : lumStatusNoMemory; }
-
 }  // namespace
 
 template <typename Spec>
@@ -125,7 +102,8 @@ LumStatus initDct(int width, int height, Spec* object, Lum8u* scratch) {
   if (LumStatus fault = firstFault(
           pointers(object), size(LumiSize{width, height}),
           isBlock(width, height) ? lumStatusOk : pointers(scratch),
-          [=] { return lengthFaults(width, height); }, [=] { return isTold(bytesOf(width, height).object); }))
+          [=] { return lengthFaults(width, height); }, [=] { return isTold(bytesOf(width, height).object); },
+          [=] { return isTold(bytesOf(width, height).init); }))
     return fault;
   make(width, height, object, alignedUp(scratch, kObjectAlignment));
   return lumStatusOk;

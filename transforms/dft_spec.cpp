@@ -3,25 +3,20 @@
 #include "transforms/dft_spec.hpp"
 
 #include "frame/check.hpp"
-#include "kernels/transforms/roots.hpp"
 #include "transforms/fft_spec.hpp"
 
 namespace lumi {
 
 using transforms::anyLength;
 using transforms::AnyLength;
+using transforms::isPowerOfTwo;
+using transforms::orderOf;
 
 namespace {
 
 constexpr int kMostLength = 0x7ffffff, kMostChirpLength = 0x3ffffff;
 constexpr int kStraightLine = 17;  // lengths below it have no tables of their own
 constexpr Lum32s kComplexAxis = 13, kRealAxis = 15;
-
-constexpr bool isPowerOfTwo(int64_t n) { return (n & (n - 1)) == 0; }
-int orderOf(int64_t n) { return n <= 1 ? 0 : 1 + orderOf(n / 2); }
-
-// Of a real transform, that of its half where the length is even.
-constexpr int64_t complexLength(int64_t length) { return length % 2 == 0 ? length / 2 : length; }
 
 // Mixed radices and convolutions take scratch; of passes none is used.
 int64_t initBytes(int64_t length, const AnyLength& any) {
@@ -76,16 +71,10 @@ DftAxis* makeRealDft(int length, Lum32s flag, Tables& memory, float* scratch) {
     if (fft.rows().isSplit()) axis->method = RowMethod::single;
     return axis;
   }
-  const int64_t half = complexLength(length), quarter = half / 2;
-  auto* const re = memory.take<float>(quarter + 1);
-  auto* const im = memory.take<float>(quarter + 1);
-  for (int64_t k = 0; k <= quarter; ++k) {
-    const transforms::Root w = transforms::root(k, length);
-    re[k] = static_cast<float>(w.re);
-    im[k] = static_cast<float>(w.im);
-  }
+  const int64_t half = complexLength(length);
+  const RootTable split = makeRoots(half / 2 + 1, length, memory);
   void* const tables = memory.take<Lum8u>(anyLength(half).tableBytes, 64);
-  axis->rows = {transforms::anyTransform(half, tables, scratch), re, im};
+  axis->rows = {transforms::anyTransform(half, tables, scratch), split.re, split.im};
   return axis;
 }
 
@@ -162,9 +151,6 @@ void make(int width, int height, Lum32s flag, LumAlgorithmHint hint, Spec* objec
   }
 }
 
-// What a size cannot tell, no memory holds.
-LumStatus isTold(int64_t bytes) { return bytes < INT_MAX ? lumStatusOk : lumStatusNoMemory; }
-
 }  // namespace
 
 SpectrumPlan planOf(const LumiDFTSpec_C_32fc* object, bool inverse) {
@@ -194,7 +180,8 @@ LumStatus initDft(int width, int height, Lum32s flag, LumAlgorithmHint hint, Spe
   constexpr bool kReal = isReal<Spec>;
   if (LumStatus fault = firstFault(pointers(object), axesFault<kReal>(width, height, flag))) return fault;
   const TransformBytes bytes = bytesOf<kReal>(width, height);
-  if (LumStatus fault = firstFault(bytes.init > 0 ? pointers(scratch) : lumStatusOk, isTold(bytes.object)))
+  if (LumStatus fault = firstFault(bytes.init > 0 ? pointers(scratch) : lumStatusOk, isTold(bytes.object),
+                                   isTold(bytes.init)))
     return fault;
   make(width, height, flag, hint, object, alignedUp(scratch, kObjectAlignment));
   return lumStatusOk;

@@ -20,6 +20,17 @@ float scaleOf(Lum32s flag, bool inverse, int64_t n) {
   return flag == (inverse ? kScaleInverse : kScaleForward) ? 1 / static_cast<float>(n) : 1.0f;
 }
 
+RootTable makeRoots(int64_t count, int64_t n, Tables& memory) {
+  auto* const re = memory.take<float>(count);
+  auto* const im = memory.take<float>(count);
+  for (int64_t k = 0; k < count; ++k) {
+    const transforms::Root w = transforms::root(k, n);
+    re[k] = static_cast<float>(w.re);
+    im[k] = static_cast<float>(w.im);
+  }
+  return {re, im};
+}
+
 namespace {
 
 // Orders from which a transform is split along rows, and down columns.
@@ -89,35 +100,18 @@ void makeTables(FftAxis& axis, int half, Tables& memory) {
 
 FftAxis* makeComplexAxis(int order, Lum32s flag, Tables& memory) {
   auto* const axis = memory.take<FftAxis>(1, kObjectAlignment);
-  *axis = {kFftComplexAxis,
-           order,
-           flag,
-           static_cast<Lum32s>(std::min<int64_t>(complexAxisBytes(order).work, INT_MAX)),
-           nullptr,
-           nullptr,
-           nullptr,
-           nullptr};
+  *axis = {kFftComplexAxis, order, flag, nullptr, nullptr, nullptr, nullptr};
   makeTables(*axis, order, memory);
   return axis;
 }
 
 FftAxis* makeRealAxis(int order, Lum32s flag, Tables& memory) {
   auto* const axis = memory.take<FftAxis>(1, kObjectAlignment);
-  *axis = {kFftRealAxis, order,
-           flag,         static_cast<Lum32s>(std::min<int64_t>(realAxisBytes(order).work, INT_MAX)),
-           nullptr,      nullptr,
-           nullptr,      nullptr};
+  *axis = {kFftRealAxis, order, flag, nullptr, nullptr, nullptr, nullptr};
   if (order == 0) return axis;
-  const int64_t quarter = lengthOf(order) / 4;
-  auto* const re = memory.take<float>(quarter + 1);
-  auto* const im = memory.take<float>(quarter + 1);
-  for (int64_t k = 0; k <= quarter; ++k) {
-    const transforms::Root w = transforms::root(k, lengthOf(order));
-    re[k] = static_cast<float>(w.re);
-    im[k] = static_cast<float>(w.im);
-  }
-  axis->splitRe = re;
-  axis->splitIm = im;
+  const RootTable split = makeRoots(lengthOf(order) / 4 + 1, lengthOf(order), memory);
+  axis->splitRe = split.re;
+  axis->splitIm = split.im;
   makeTables(*axis, order - 1, memory);
   return axis;
 }

@@ -9,7 +9,7 @@ namespace lumi {
 
 // The transform of one axis. Its tables lie behind it.
 struct FftAxis {
-  Lum32s identifier, order, flag, workBytes;
+  Lum32s identifier, order, flag;
   const float* roots;                  // of a split transform
   const float *splitRe, *splitIm;      // of a real one
   const transforms::Transform* large;  // beyond tables of its length

@@ -36,6 +36,17 @@ constexpr int64_t withRoom(int64_t bytes) { return bytes > 0 ? bytes + kObjectAl
 // No memory is as large as what 31 bits do not tell; runs then have none.
 inline Lum32s told(int64_t bytes) { return static_cast<Lum32s>(std::min<int64_t>(bytes, INT_MAX)); }
 
+inline LumStatus isTold(int64_t bytes) { return bytes < INT_MAX ? lumStatusOk : lumStatusNoMemory; }
+
+// Of a real transform of an even length, which is complex and half as long.
+constexpr int64_t complexLength(int64_t length) { return length % 2 == 0 ? length / 2 : length; }
+
+// exp(-2 pi i k / n) for k < count, real parts and imaginary ones apart.
+struct RootTable {
+  const float *re, *im;
+};
+RootTable makeRoots(int64_t count, int64_t n, Tables& memory);
+
 // Width and height are orders where lengths are powers of two.
 struct SpectrumObject {
   Lum32s identifier, width, height, hint, workBytes, reserved;

@@ -12,11 +12,12 @@
 
 namespace lumi {
 
-// Calls run(scratch) with the caller's buffer, which may be null: then there is memory for the call.
+// Calls run(scratch) with the caller's buffer, which may be null: then there is memory for the call. What no
+// size could tell of is more than either has.
 template <typename Run>
 LumStatus withScratch(Lum8u* buffer, int64_t bytes, const Run& run) {
+  if (bytes >= INT_MAX - kObjectAlignment) return lumStatusNoMemory;
   if (buffer) {
-    if (bytes >= INT_MAX - 64) return lumStatusNoMemory;  // no size could tell of as much
     run(reinterpret_cast<float*>(alignedUp(buffer, kObjectAlignment)));
     return lumStatusOk;
   }

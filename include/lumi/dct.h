@@ -39,7 +39,7 @@ LumStatus lumiDCTFwdGetSize_32f(int width, int height, Lum32s* objectSize, Lum32
  *   lumStatusBadSize (-6)      width or height is below 1
  *   lumStatusNullPointer (-8)  scratch is null, and the size is not 8 x 8
  *   lumStatusBadSize (-6)      one of them is above its limit
- *   lumStatusNoMemory (-9)     the object is larger than 31 bits tell
+ *   lumStatusNoMemory (-9)     the object or the scratch is larger than 31 bits tell
  *
  *   width      columns of the images
  *   height     rows of the images
@@ -115,7 +115,7 @@ LumStatus lumiDCTInvGetSize_32f(int width, int height, Lum32s* objectSize, Lum32
  *   lumStatusBadSize (-6)      width or height is below 1
  *   lumStatusNullPointer (-8)  scratch is null, and the size is not 8 x 8
  *   lumStatusBadSize (-6)      one of them is above its limit
- *   lumStatusNoMemory (-9)     the object is larger than 31 bits tell
+ *   lumStatusNoMemory (-9)     the object or the scratch is larger than 31 bits tell
  *
  *   width      columns of the images
  *   height     rows of the images

@@ -57,7 +57,7 @@ LumStatus lumiDFTGetSize_R_32f(int width, int height, Lum32s flag, LumAlgorithmH
  *   lumStatusNullPointer (-8)   object is null
  *   the tests of sizes and flag that lumiDFTGetSize_C_32fc makes
  *   lumStatusNullPointer (-8)   scratch is null, and lumiDFTGetSize_C_32fc tells that some is needed
- *   lumStatusNoMemory (-9)      the object is larger than 31 bits tell
+ *   lumStatusNoMemory (-9)      the object or the scratch is larger than 31 bits tell
  *
  *   width      columns of the images
  *   height     rows of the images

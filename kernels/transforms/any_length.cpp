@@ -10,9 +10,6 @@ namespace {
 
 constexpr int kMostFactors = 32;
 
-bool isPowerOfTwo(int64_t n) { return (n & (n - 1)) == 0; }
-int orderOf(int64_t n) { return n <= 1 ? 0 : 1 + orderOf(n / 2); }
-
 // Radices in the order of the passes: large ones first, whose roots would cost most; of the twos, an 8 first
 // where their number is odd, and fours.
 struct Factors {

@@ -65,6 +65,10 @@ void fillRoots(int order, float* roots);
 int64_t largeTransformBytes(int order);
 Transform largeTransform(int order, void* memory);
 
+constexpr bool isPowerOfTwo(int64_t n) { return (n & (n - 1)) == 0; }
+// The logarithm of a power of two.
+constexpr int orderOf(int64_t n) { return n <= 1 ? 0 : 1 + orderOf(n / 2); }
+
 // Of any length: bytes of memory for tables, floats of scratch while they are made, and localFloats().
 // Lengths that passes make have prime factors up to kLargestRadix; which they are is the interface's rule.
 struct AnyLength {

@@ -30,6 +30,7 @@ TEST_P(DftWidth, RunsAsTheDefinition) {
     ASSERT_NO_FATAL_FAILURE(expectRun(kDft, member, {GetParam(), other}, random, &worst));
     ASSERT_NO_FATAL_FAILURE(expectRun(kDft, member, {other, GetParam()}, random, &worst));
   }
+  // The bound of one run is 1: what comes near to it is to be looked at before it fails.
   EXPECT_LT(worst, 0.9);
 }
 INSTANTIATE_TEST_SUITE_P(UpTo67, DftWidth, testing::Range(1, 68), testing::PrintToStringParamName());
@@ -107,6 +108,18 @@ TEST(DftStatus, OfInit) {
       EXPECT_EQ(right.run(), lumStatusOk);
     }
   }
+}
+
+// A prime whose convolution has 2^25 points: memory to make it is more than 31 bits tell, and is not asked
+// for.
+TEST(DftStatus, OfScratchThatNoSizeTells) {
+  int told[3];
+  constexpr LumiSize size{16777213, 1};
+  ASSERT_EQ(kDft.getSize("C_32fc", size, 8, told).run(), lumStatusOk);
+  EXPECT_EQ(told[1], INT32_MAX);
+  Byte object[64] = {}, scratch[64] = {};
+  NamedCall call = kDft.init("C_32fc", size, 8, scratch);
+  EXPECT_EQ(call.pointer("object", object).run(), lumStatusNoMemory);
 }
 
 TEST(DftStatus, OfAllocatedObjects) {
