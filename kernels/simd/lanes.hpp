@@ -14,11 +14,6 @@ struct LanesOf<Floats8> {
   using Scalar = float;
   static constexpr size_t kCount = 8;
 };
-template <>
-struct LanesOf<Doubles4> {
-  using Scalar = double;
-  static constexpr size_t kCount = 4;
-};
 template <typename V>
 using ScalarOf = typename LanesOf<V>::Scalar;
 
@@ -28,12 +23,7 @@ template <>
 inline Floats8 loadLanes<Floats8>(const float* p) {
   return {_mm256_loadu_ps(p)};
 }
-template <>
-inline Doubles4 loadLanes<Doubles4>(const double* p) {
-  return {_mm256_loadu_pd(p)};
-}
 inline void storeLanes(float* p, Floats8 x) { _mm256_storeu_ps(p, x.v); }
-inline void storeLanes(double* p, Doubles4 x) { _mm256_storeu_pd(p, x.v); }
 
 // The same number in all lanes.
 template <typename V>
@@ -41,10 +31,6 @@ V broadcastLane(const ScalarOf<V>* p);
 template <>
 inline Floats8 broadcastLane<Floats8>(const float* p) {
   return {_mm256_broadcast_ss(p)};
-}
-template <>
-inline Doubles4 broadcastLane<Doubles4>(const double* p) {
-  return {_mm256_broadcast_sd(p)};
 }
 
 // Of sixteen floats in the order of memory, those at even and at odd places. Lanes are in the order 0 1 4 5 2

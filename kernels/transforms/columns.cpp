@@ -3,6 +3,7 @@
 
 #include <cstring>
 
+#include "kernels/simd/pairs.hpp"
 #include "kernels/transforms/split_transform.hpp"
 
 namespace lumi::transforms {
@@ -19,82 +20,35 @@ using C4 = Pixel<4, 4>;
 using AC4 = Pixel<4, 3>;
 
 template <typename Layout>
-struct PairsOf;
+struct PairsOf {
+  using Form = DwordPairs<Layout::kStored, Layout::kUsed, 32>;
+  static constexpr size_t kPairs = Form::kBytes / (2 * sizeof(float) * Layout::kStored);
 
-template <>
-struct PairsOf<C1> {
-  static constexpr size_t kPairs = 8;
   // The lane of a pair's first sample.
   static constexpr size_t laneOf(size_t pair) {
     constexpr size_t kLaneOf[] = {0, 1, 4, 5, 2, 3, 6, 7};
-    return kLaneOf[pair];
+    return kPairs == 8 ? kLaneOf[pair] : 4 * pair;
   }
-  static Complex<Lanes> load(const Byte* p) {
-    const Floats8 a = loadFloats8(p), b = loadFloats8(p + 32);
-    return {evenLanes(a, b), oddLanes(a, b)};
-  }
-  static void store(Byte* p, Complex<Lanes> x) {
-    store32(p, bytesOf(interleaveLowLanes(x.re, x.im)));
-    store32(p + 32, bytesOf(interleaveHighLanes(x.re, x.im)));
-  }
-  // Seven pairs, and one that is not in memory behind them.
-  static Complex<Lanes> loadSeven(const Byte* p, float re, float im) {
-    const Floats8 a = loadFloats8(p), b = joined(loadFloats4(p + 32), pairOf(p + 48, re, im));
-    return {evenLanes(a, b), oddLanes(a, b)};
-  }
-  static void storeSeven(Byte* p, Complex<Lanes> x) {
-    const Bytes32 last = bytesOf(interleaveHighLanes(x.re, x.im));
-    store32(p, bytesOf(interleaveLowLanes(x.re, x.im)));
-    store16(p + 32, lowHalf(last));
-    storeFirst8(p + 48, highHalf(last));
+  static Complex<Lanes> load(const Byte* p) { return lanesOf(Form::load(p)); }
+  static void store(Byte* p, Complex<Lanes> x) { Form::store(p, {bytesOf(x.re), bytesOf(x.im)}); }
+
+ private:
+  static Complex<Lanes> lanesOf(const Parts<32>& x) {
+    return {samplesOf<float>(x.real), samplesOf<float>(x.imaginary)};
   }
 };
 
-template <>
-struct PairsOf<C4> {
-  static constexpr size_t kPairs = 2;
-  static constexpr size_t laneOf(size_t pair) { return 4 * pair; }
-  static Complex<Lanes> load(const Byte* p) {
-    return {loadTwoFours(p, p + 32), loadTwoFours(p + 16, p + 48)};
-  }
-  static void store(Byte* p, Complex<Lanes> x) {
-    storeFours(p, p + 32, x.re);
-    storeFours(p + 16, p + 48, x.im);
-  }
-};
-
-inline void storeThree(Byte* p, Floats4 x) {
-  storeFirst8(p, bytesOf(x));
-  const uint32_t third = firstDword(permuteDwords<2, 2, 2, 2>(bytesOf(x)));
-  std::memcpy(p + 8, &third, sizeof(third));
+// Seven pairs of one channel, and one that is not in memory behind them.
+Complex<Lanes> loadSeven(const Byte* p, float re, float im) {
+  const Floats8 a = loadFloats8(p), b = joined(loadFloats4(p + 32), pairOf(p + 48, re, im));
+  return {evenLanes(a, b), oddLanes(a, b)};
 }
-
-template <>
-struct PairsOf<AC4> : PairsOf<C4> {
-  static void store(Byte* p, Complex<Lanes> x) {
-    storeThree(p, lowHalf(x.re));
-    storeThree(p + 16, lowHalf(x.im));
-    storeThree(p + 32, highHalf(x.re));
-    storeThree(p + 48, highHalf(x.im));
-  }
-};
-
-// Four floats are loaded and stored for three: what is one too many is stored over by the next ones.
-template <>
-struct PairsOf<C3> {
-  static constexpr size_t kPairs = 2;
-  static constexpr size_t laneOf(size_t pair) { return 4 * pair; }
-  static Complex<Lanes> load(const Byte* p) {
-    const Bytes16 last = permuteDwords<1, 2, 3, 3>(load16(p + 32));
-    return {loadTwoFours(p, p + 24), joined(loadFloats4(p + 12), samplesOf<float>(last))};
-  }
-  static void store(Byte* p, Complex<Lanes> x) {
-    store16(p, bytesOf(lowHalf(x.re)));
-    store16(p + 12, bytesOf(lowHalf(x.im)));
-    store16(p + 24, bytesOf(highHalf(x.re)));
-    storeThree(p + 36, highHalf(x.im));
-  }
-};
+void storeSeven(Byte* p, Complex<Lanes> x) {
+  const Bytes32 last = bytesOf(interleaveHighLanes(x.re, x.im));
+  store32(p, bytesOf(interleaveLowLanes(x.re, x.im)));
+  store16(p + 32, lowHalf(last));
+  storeFirst8(p + 48, highHalf(last));
+}
 
 template <typename Layout>
 constexpr size_t kPixel = sizeof(float) * Layout::kStored;
@@ -191,8 +145,7 @@ class FewColumns {
     if (columns_.realColumns != 0) edges = inverse ? mixed(n) : loadEdges(n);
     float* const point = points_ + transform_.slotOfPlace(n) * kPointFloats;
     if constexpr (Layout::kStored == 1)
-      if (areSeven())
-        return storePoint(point, inTurn<inverse>(Group::loadSeven(row, edges.re[0], edges.im[0])));
+      if (areSeven()) return storePoint(point, inTurn<inverse>(loadSeven(row, edges.re[0], edges.im[0])));
     Bytes bytes = {};
     std::memcpy(bytes, row, pairs_ * kPair<Layout>);
     if (columns_.realColumns != 0) std::memcpy(bytes + pairs_ * kPair<Layout>, &edges, sizeof(edges));
@@ -208,7 +161,7 @@ class FewColumns {
   void drain(size_t k) {
     Byte* const row = targetRow(k) + offset_;
     if constexpr (Layout::kStored == 1)
-      if (areSeven()) return Group::storeSeven(row, resultAt(k));
+      if (areSeven()) return storeSeven(row, resultAt(k));
     Bytes bytes;
     PairsOf<WithAlpha>::store(bytes, resultAt(k));
     if constexpr (Layout::kUsed == Layout::kStored) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // One row at a time, as a matrix whose rows are as long as the inner transform: eight of its columns fill the
 // lanes of an outer transform, then, transposed, eight of its rows those of an inner one.
+#include "kernels/simd/complex.hpp"
 #include "kernels/transforms/rows.hpp"
 #include "kernels/transforms/split_transform.hpp"
 
@@ -34,14 +35,10 @@ struct Blocks {
 
 // Eight complex numbers that lie in turn, with lanes in their order.
 Complex<Lanes> loadInOrder(const Byte* p) {
-  const Floats8 a = loadTwoFours(p, p + 32), b = loadTwoFours(p + 16, p + 48);
-  return {evenLanes(a, b), oddLanes(a, b)};
+  const ComplexParts<Floats8> x = loadComplexFloats8(p);
+  return {x.real, x.imaginary};
 }
-void storeInOrder(Byte* p, Complex<Lanes> x) {
-  const Floats8 a = interleaveLowLanes(x.re, x.im), b = interleaveHighLanes(x.re, x.im);
-  storeFours(p, p + 32, a);
-  storeFours(p + 16, p + 48, b);
-}
+void storeInOrder(Byte* p, Complex<Lanes> x) { storeComplexDwords8(p, bytesOf(x.re), bytesOf(x.im)); }
 
 // The outer transforms: numbers 8i to 8i + 7 of the row come from load(i), and go to block i of `matrix`,
 // which may be where they came from.
