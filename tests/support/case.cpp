@@ -31,10 +31,10 @@ int heightOf(const Member& member, int width, Random& random) {
   return height == Member::kAsWide ? width : height;
 }
 
-int anyStep(Random& random, int tight, int height) {
+int anyStep(Random& random, int tight, bool singleRow) {
   if (tight == 0) return 0;  // there is no such image
   constexpr int extremes[] = {INT_MIN, INT_MIN + 1, -1, 0, 1, INT_MAX - 1, INT_MAX};
-  if (height == 1 && random.oneIn(4)) return random.pick(extremes);
+  if (singleRow && random.oneIn(4)) return random.pick(extremes);
   const auto length = [&] {
     switch (random.below(6)) {
       case 0:
@@ -137,9 +137,9 @@ Case makeCase(const Member& member, uint64_t seed, int index) {
   const LumiSize dstSize = member.dstSize(c.roi);
   const int dstTight = member.dst.tightStep(dstSize.width, c.numbers[0]);
   const bool allTight = random.oneIn(3);
-  const auto step = [&](int tight) { return allTight ? tight : anyStep(random, tight, c.roi.height); };
-  c.srcStep = step(srcTight);
-  c.dstStep = allTight ? dstTight : anyStep(random, dstTight, dstSize.height);
+  const auto step = [&](int tight) { return allTight ? tight : anyStep(random, tight, c.roi.height == 1); };
+  c.srcStep = member.surroundings && !allTight ? anyStep(random, srcTight, false) : step(srcTight);
+  c.dstStep = allTight ? dstTight : anyStep(random, dstTight, dstSize.height == 1);
   c.maskStep = step(c.roi.width);
   c.src2Step = step(src2Tight);
   const bool separateRows = member.floatResults || member.separateRows;

@@ -172,13 +172,17 @@ const Argument& argumentOf(const ExportRow& row, const std::string& name) {
 
 void Member::results(const std::string& argument, const std::string& type) {
   const Argument& its = argumentOf(*row, argument);
-  blocks.push_back({its.name, nullptr, type, true, {std::max(1, its.count)}, {}});
+  blocks.push_back({its.name, nullptr, type, true, {std::max(1, its.count)}, {}, {}});
 }
 
 void Member::array(const std::string& argument, const std::string& type, const std::vector<int>& lengths,
                    std::function<void(Random&, Byte*, int)> fill) {
   const Argument& its = argumentOf(*row, argument);
-  blocks.push_back({its.name, its.length, type, false, lengths, std::move(fill)});
+  blocks.push_back({its.name, its.length, type, false, lengths, std::move(fill), {}});
+}
+
+void Member::scratch(const std::string& argument, std::function<int(const Call&)> bytes) {
+  blocks.push_back({argumentOf(*row, argument).name, nullptr, "8u", false, {0}, {}, std::move(bytes)});
 }
 
 void Member::choose(const std::string& argument, const std::vector<Value>& among) {

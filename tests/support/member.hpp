@@ -145,7 +145,13 @@ struct Member {
   bool floatResults = false;      // NaNs need not have equal bits, and rows of the destination are apart
   bool sharesStep = false;        // one step is that of both sources
   bool separateRows = false;      // rows of the destination must not overlap one another
-  bool transposes = false;        // the destination is as wide as the ROI is high, and as high as it is wide
+  // Pixels around those of the first source that a call reads: as many as there are in memory. They follow
+  // from the call's numbers, choices and lengths of arrays.
+  struct Surroundings {
+    int left, top, right, bottom;
+  };
+  std::function<Surroundings(const Call&)> surroundings;
+  bool transposes = false;  // the destination is as wide as the ROI is high, and as high as it is wide
   std::vector<int> heights = {1, 1, 2, 3, 5};  // kAsWide: those of a square; above 5 beside small widths only
   static constexpr int kAsWide = 0;
   int values = 0;                                      // samples of all constants, one behind the other
@@ -169,6 +175,7 @@ struct Member {
     bool isResult;
     std::vector<int> counts;  // how many samples, chosen from these
     std::function<void(Random&, Byte*, int)> fill;
+    std::function<int(const Call&)> size;  // of scratch
   };
   struct Choice {
     const char* name;
@@ -182,6 +189,9 @@ struct Member {
   // An array of one of these lengths. Its values are any of the type where fill does not make others.
   void array(const std::string& argument, const std::string& type, const std::vector<int>& lengths,
              std::function<void(Random&, Byte*, int)> fill = {});
+  // Scratch of so many bytes, by the call's ROI, numbers and choices: exactly that memory, of any alignment.
+  // Nothing is expected of what is left there.
+  void scratch(const std::string& argument, std::function<int(const Call&)> bytes);
   // What a number, a size, a point or a rectangle is chosen from.
   void choose(const std::string& argument, const std::vector<Value>& among);
   // Ends the program where an argument is not described: a default could hide that it is not tested.

@@ -86,9 +86,8 @@ Stage::Stage(size_t largestImage) {
 }
 
 Stage::Placed Stage::place(std::string role, const Arena& arena, const Placement& where, int step,
-                           LumiSize roi, int bitOffset, const Operand& operand) const {
-  const int rowBytes = operand.rowBytes(roi.width, bitOffset);
-  const Extent extent(step, rowBytes, roi.height);
+                           int rowBytes, int rows) const {
+  const Extent extent(step, rowBytes, rows);
   Byte* first = nullptr;
   switch (where.kind) {
     case Placement::End:
@@ -112,9 +111,19 @@ Stage::Placed Stage::place(std::string role, const Arena& arena, const Placement
           first,
           step,
           rowBytes,
-          roi.height,
+          rows,
           std::max(low - kMargin, arena.begin()),
           std::min(high + kMargin, arena.end())};
+}
+
+// The first pixel of the ROI; what a call reads around it belongs to the image.
+Byte* Stage::placeSource(const Member& member, const Case& c, const Call& call, int plane) {
+  const auto around = member.surroundings ? member.surroundings(call) : Member::Surroundings{};
+  const int before = around.left * member.src.pixelBytes, behind = around.right * member.src.pixelBytes;
+  const int rowBytes = before + member.src.rowBytes(c.roi.width, c.numbers[0]) + behind;
+  placed_.push_back(place("source", *src_[plane], c.src[plane], c.srcStep, rowBytes,
+                          around.top + c.roi.height + around.bottom));
+  return placed_.back().first + static_cast<ptrdiff_t>(around.top) * c.srcStep + before;
 }
 
 void Stage::placeImages(const Member& member, const Case& c, Call& call) {
@@ -128,7 +137,8 @@ void Stage::placeImages(const Member& member, const Case& c, Call& call) {
   const auto add = [&](const char* role, const Arena& arena, const Placement& where, int step,
                        const Operand& operand) {
     const LumiSize size = &operand == &dst ? member.dstSize(c.roi) : c.roi;
-    placed_.push_back(place(role, arena, where, step, size, c.numbers[0], operand));
+    placed_.push_back(
+        place(role, arena, where, step, operand.rowBytes(size.width, c.numbers[0]), size.height));
     return placed_.back().first;
   };
   for (int p = 0; p < dst.planes; ++p) {
@@ -138,8 +148,7 @@ void Stage::placeImages(const Member& member, const Case& c, Call& call) {
   }
   if (c.src2IsDst) call.src2 = call.dst[0];
   if (!c.srcIsDst)
-    for (int p = 0; p < member.src.planes; ++p)
-      call.src[p] = add("source", *src_[p], c.src[p], c.srcStep, member.src);
+    for (int p = 0; p < member.src.planes; ++p) call.src[p] = placeSource(member, c, call, p);
   if (!c.src2IsDst && member.src2.planes > 0)
     call.src2 = add("second source", *src2_, c.src2, c.src2Step, member.src2);
   if (member.masked) call.mask = add("mask", *mask_, c.mask, c.maskStep, Operand::pixels(1, 1));
@@ -171,10 +180,18 @@ void Stage::placeValues(const Member& member, const Case& c, Call& call, Random&
   placed_.push_back({"values", values_, values, 0, bytes, 1, values_->begin(), values_->end()});
 }
 
+void Stage::nameChoices(const Member& member, const Case& c, Call& call) const {
+  for (size_t i = 0; i < member.choices.size(); ++i)
+    call.chosen.push_back({member.choices[i].name, c.chosen[i]});
+  for (size_t i = 0; i < member.blocks.size(); ++i)
+    call.blocks.push_back({member.blocks[i].name, nullptr, c.blocks[i].count, nullptr});
+}
+
 void Stage::placeBlocks(const Member& member, const Case& c, Call& call, Random& random) {
   for (size_t i = 0; i < member.blocks.size(); ++i) {
     const Member::Block& block = member.blocks[i];
-    const auto [count, atEnd, phase] = c.blocks[i];
+    const auto [chosen, atEnd, phase] = c.blocks[i];
+    const int count = block.size ? block.size(call) : chosen;
     const int bytes = count * sampleBytes(block.type);
     if (i == blocks_.size()) {
       arenas_.push_back(std::make_unique<Arena>(kLargestBlock));
@@ -190,18 +207,17 @@ void Stage::placeBlocks(const Member& member, const Case& c, Call& call, Random&
                         bytes,
                         1,
                         std::max(first - kMargin, arena.begin()),
-                        std::min(first + bytes + kMargin, arena.end())};
+                        std::min(first + bytes + kMargin, arena.end()),
+                        static_cast<bool>(block.size)};
     random.fill(placed.low, static_cast<size_t>(placed.high - placed.low));
     if (block.fill)
       block.fill(random, first, count);
-    else if (!block.isResult)
+    else if (!block.isResult && !block.size)
       fillSamples(block.type, first, bytes, c.inputs, random);
-    call.blocks.push_back(
-        {block.name, first, count, std::make_shared<std::vector<double>>(static_cast<size_t>(count))});
+    call.blocks[i] = {block.name, first, count,
+                      std::make_shared<std::vector<double>>(static_cast<size_t>(count))};
     placed_.push_back(placed);
   }
-  for (size_t i = 0; i < member.choices.size(); ++i)
-    call.chosen.push_back({member.choices[i].name, c.chosen[i]});
 }
 
 void Stage::fillMask(const Call& call, MaskKind kind, Random& random) const {
@@ -239,6 +255,7 @@ std::optional<std::string> Stage::run(const Member& member, const Case& c, std::
   call.lower = c.bounds.first;
   call.upper = c.bounds.second;
   placed_.clear();
+  nameChoices(member, c, call);
   placeImages(member, c, call);
   for (const Placed& p : placed_) random.fill(p.low, static_cast<size_t>(p.high - p.low));
   // Floats are filled sample by sample in any case, for the sake of their NaNs.
@@ -270,6 +287,7 @@ std::optional<std::string> Stage::run(const Member& member, const Case& c, std::
 
 std::optional<std::string> Stage::compare(const Member& member) const {
   for (const Placed& p : placed_) {
+    if (p.isScratch) p.arena->copyToTwin(p.first, p.first + p.rowBytes);
     if (member.floatResults && p.role != "source") equateNaNs(member, p);
     const Byte* at = p.arena->firstDifference(p.low, p.high);
     if (!at) continue;

@@ -32,12 +32,15 @@ class Stage {
     Byte* first;
     int step, rowBytes, rows;
     Byte *low, *high;
+    bool isScratch = false;
   };
 
-  Placed place(std::string role, const Arena& arena, const Placement& where, int step, LumiSize roi,
-               int bitOffset, const Operand& operand) const;
+  Placed place(std::string role, const Arena& arena, const Placement& where, int step, int rowBytes,
+               int rows) const;
+  Byte* placeSource(const Member& member, const Case& c, const Call& call, int plane);
   void placeImages(const Member& member, const Case& c, Call& call);
   void placeValues(const Member& member, const Case& c, Call& call, Random& random);
+  void nameChoices(const Member& member, const Case& c, Call& call) const;
   void placeBlocks(const Member& member, const Case& c, Call& call, Random& random);
   void fillMask(const Call& call, MaskKind kind, Random& random) const;
   Call onTwins(const Member& member, const Call& call) const;
