@@ -87,6 +87,17 @@ enum {
   lumiBorderInMemoryRight = 0x80   /**< flag: columns to the right are in memory */
 };
 
+/** The window of a filter: ten times its width plus its height. Each operation tells which ones it takes. */
+typedef int32_t LumiMaskSize;
+enum {
+  lumiMask1x3 = 13, /**< one column, three rows */
+  lumiMask1x5 = 15,
+  lumiMask3x1 = 31, /**< three columns, one row */
+  lumiMask3x3 = 33,
+  lumiMask5x1 = 51,
+  lumiMask5x5 = 55
+};
+
 /** A sample type as an argument. Each operation tells which ones it takes. */
 typedef int32_t LumiDataType;
 enum {
