@@ -15,7 +15,8 @@ namespace lumi {
 // which stands for the constant.
 inline constexpr int kConstantPlace = INT_MIN;
 
-// Any n, and any count above 0: reflections go to and fro in an image that is smaller than the window's reach.
+// Any n, and any count above 0: reflections go to and fro in an image that is smaller than the window's
+// reach.
 inline int borderPlace(int n, int count, BorderMode border) {
   // Every place, and every place but the ends, stands there once on the way back.
   const int64_t period = 2 * int64_t{count} - (border.type() == lumiBorderMirror ? 2 : 0);
@@ -71,7 +72,8 @@ class BorderedImage {
   }
 
   void fill(Byte* to, int pixels) const {
-    for (int x = 0; x < pixels; ++x) std::memcpy(to + static_cast<ptrdiff_t>(x) * pixelBytes, value_, pixelBytes);
+    for (int x = 0; x < pixels; ++x)
+      std::memcpy(to + static_cast<ptrdiff_t>(x) * pixelBytes, value_, pixelBytes);
   }
 
  private:

@@ -10,9 +10,14 @@ constexpr int kMostRows = kBandRows + 2 * kMostReach;  // of source
 constexpr int kPiecePixels = 64;                       // that are made at a time where alpha stays
 constexpr int kMostBlock = 32;
 
-// Rows of source that lie whole pages apart fall into one set of the nearest cache, which holds so many.
-constexpr int kBandRowsOfOneSet = 4;
-int bandRows(ptrdiff_t step) { return step % 2048 == 0 ? kBandRowsOfOneSet : kBandRows; }
+// Rows that are done together: as many as the nearest cache holds with what is made of them. Those of larger
+// images come from farther away, which processors foresee for a few rows at a time. Where rows lie whole
+// pages apart they fall into one set of the cache.
+int bandRows(const WindowFilter& filter, ptrdiff_t step, size_t samples) {
+  if (step % 2048 == 0) return 4;
+  const size_t bytes = samples * static_cast<size_t>(filter.srcBytes + filter.dstBytes);
+  return bytes <= 1536 ? kBandRows : kBandRows / 2;
+}
 
 // So many rows on the stack, one behind the other.
 template <int bytes, int rows>
@@ -92,16 +97,18 @@ void inBands(int height, int most, const Run& band) {
 
 }  // namespace
 
-void filterWindows(const WindowFilter& filter, SourceRows src, TargetRows dst, LumiSize roi, PixelShape pixel) {
+void filterWindows(const WindowFilter& filter, SourceRows src, TargetRows dst, LumiSize roi,
+                   PixelShape pixel) {
   const ptrdiff_t column = static_cast<ptrdiff_t>(pixel.stored) * filter.srcBytes;
-  inBands(roi.height, bandRows(src.step), [&](int y, int rows) {
+  const size_t samples = static_cast<size_t>(roi.width) * static_cast<size_t>(pixel.stored);
+  inBands(roi.height, bandRows(filter, src.step, samples), [&](int y, int rows) {
     const Byte* window[kMostRows];
     for (int i = 0; i < rows + filter.above + filter.below; ++i) window[i] = src.row(y - filter.above + i);
     const Band band{window, {dst.row(y), dst.step}, rows};
     if (pixel.used < pixel.stored)
       runColours(filter, band, roi.width, column);
     else
-      runBand(filter, band, static_cast<size_t>(roi.width) * static_cast<size_t>(pixel.stored), column);
+      runBand(filter, band, samples, column);
   });
 }
 
@@ -144,7 +151,8 @@ class BorderedBands {
     const Byte* window[kMostRows];
     for (int i = 0; i < windowRows(rows); ++i) {
       const Byte* const row = src_.row(y - filter_.above + i);
-      window[i] = row ? row + static_cast<ptrdiff_t>(first) * sampleBytes : constants_ + filter_.left * sampleBytes;
+      window[i] =
+          row ? row + static_cast<ptrdiff_t>(first) * sampleBytes : constants_ + filter_.left * sampleBytes;
     }
     runBand(filter_, {window, results(first, y), rows}, static_cast<size_t>(end - first), sampleBytes);
   }
@@ -169,11 +177,13 @@ class BorderedBands {
 template <int sampleBytes>
 void filterWindows(const WindowFilter& filter, const BorderedImage<sampleBytes>& src, TargetRows dst,
                    Byte* constants) {
-  const bool needsConstants =
-      src.border().type() == lumiBorderConst && !src.border().isAllInMemory() && src.size().width > kMostBlock;
+  const bool needsConstants = src.border().type() == lumiBorderConst && !src.border().isAllInMemory() &&
+                              src.size().width > kMostBlock;
   if (needsConstants) src.fill(constants, filter.left + src.size().width + filter.right);
   const BorderedBands<sampleBytes> bands(filter, src, dst, constants);
-  inBands(src.size().height, bandRows(src.step()), [&](int y, int rows) { bands.run(y, rows); });
+  const auto samples = static_cast<size_t>(src.size().width);
+  inBands(src.size().height, bandRows(filter, src.step(), samples),
+          [&](int y, int rows) { bands.run(y, rows); });
 }
 
 template void filterWindows(const WindowFilter&, const BorderedImage<1>&, TargetRows, Byte*);

@@ -17,7 +17,8 @@ template <typename Layout>
 inline constexpr PixelShape kShape{Layout::kStored, Layout::kUsed};
 
 // An image whose surroundings are in memory.
-void filterWindows(const WindowFilter& filter, SourceRows src, TargetRows dst, LumiSize roi, PixelShape pixel);
+void filterWindows(const WindowFilter& filter, SourceRows src, TargetRows dst, LumiSize roi,
+                   PixelShape pixel);
 
 // An image of one channel of samples of so many bytes. `constants` is a row as wide as the ROI and what the
 // window covers beside it, for constant borders.

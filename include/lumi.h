@@ -25,6 +25,8 @@
 #include "lumi/extremes.h"
 #include "lumi/fft.h"
 #include "lumi/filter_border.h"
+#include "lumi/filter_fixed.h"
+#include "lumi/filter_gradient_border.h"
 #include "lumi/histogram.h"
 #include "lumi/image_memory.h"
 #include "lumi/logic.h"

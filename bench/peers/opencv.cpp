@@ -376,6 +376,29 @@ Peer filter(View src, View dst, std::vector<float> taps, LumiSize size) {
   });
 }
 
+Peer gradient(View around, View dst, int reach, Gradient kind, int side) {
+  const cv::Mat s = mat(around)(cv::Rect(reach, reach, dst.roi.width, dst.roi.height));
+  return peer("opencv", [=, d = mat(dst)]() mutable {
+    const bool across = kind == Gradient::sobelX || kind == Gradient::scharrX;
+    if (kind == Gradient::laplace)
+      cv::Laplacian(s, d, d.depth(), side);
+    else if (kind == Gradient::scharrX || kind == Gradient::scharrY)
+      cv::Scharr(s, d, d.depth(), across, !across);
+    else
+      cv::Sobel(s, d, d.depth(), across, !across, side);
+  });
+}
+
+Peer gauss(View around, View dst, int reach, int side) {
+  const cv::Mat s = mat(around)(cv::Rect(reach, reach, dst.roi.width, dst.roi.height));
+  return peer("opencv", [=, d = mat(dst)]() mutable { cv::GaussianBlur(s, d, {side, side}, 0); });
+}
+
+Peer box(View around, View dst, int reach, int side) {
+  const cv::Mat s = mat(around)(cv::Rect(reach, reach, dst.roi.width, dst.roi.height));
+  return peer("opencv", [=, d = mat(dst)]() mutable { cv::blur(s, d, {side, side}); });
+}
+
 Peer resizeNearest(View src, View dst) {
   return peer("opencv", [s = mat(src), d = mat(dst)]() mutable {
     cv::resize(s, d, d.size(), 0, 0, cv::INTER_NEAREST);

@@ -86,6 +86,12 @@ enum class Flip { horizontal, vertical, both };
 [[gnu::weak]] Peer swapRedBlue(View src, View dst);
 // Correlation with a kernel of floats, to the type of dst; the nearest pixel is repeated outside.
 [[gnu::weak]] Peer filter(View src, View dst, std::vector<float> taps, LumiSize size);
+// The ROI of dst lies `reach` pixels inside `around`, whose other pixels are read. Gradients are those of
+// rising samples.
+enum class Gradient { sobelX, sobelY, scharrX, scharrY, laplace };
+[[gnu::weak]] Peer gradient(View around, View dst, int reach, Gradient kind, int side);
+[[gnu::weak]] Peer gauss(View around, View dst, int reach, int side);
+[[gnu::weak]] Peer box(View around, View dst, int reach, int side);
 // To the destination's size.
 [[gnu::weak]] Peer resizeNearest(View src, View dst);
 [[gnu::weak]] Peer resizeLinear(View src, View dst);

@@ -6,12 +6,12 @@
 #include <cstddef>
 
 #include "kernels/rows.hpp"
-#include "kernels/simd/bytes.hpp"
+#include "kernels/simd/window.hpp"
 
 namespace lumi {
 
 // The most rows of a band, and how far a window reaches in any direction, in pixels.
-inline constexpr int kBandRows = 8, kMostReach = 2;
+inline constexpr int kBandRows = 16, kMostReach = 2;
 
 // Rows of source are given one by one, since a border's lie elsewhere: `above` rows before the first row of
 // results, those of the band, and `below` behind it. Each is given by its sample under the first result.
@@ -40,26 +40,36 @@ struct WindowRows {
   size_t at;
   ptrdiff_t column;
 
-  const Byte* operator()(int row, int pixel = 0) const { return newest[row] + at + pixel * column; }
+  const Byte* operator()(int row, int pixel) const { return newest[row] + at + pixel * column; }
 };
 
-// A filter goes down a column of blocks. It is an object that keeps what it needs of the rows above:
-//   Source, Result  sample types
-//   kRows, kBlock   rows of the window, and samples that are made at a time
-//   take(rows)      takes the next row
-//   store(dst)      stores the results of the window that ends with the row taken last
+// A filter goes down a column of vectors. It is an object that keeps what it needs of the rows above:
+//   Source, Result   sample types
+//   kRows, kVectors  rows of the window, and columns that are done side by side
+//   take(rows)       takes the next row
+//   result(rows)     the sums of the window that ends with the row taken last, finished but not limited
 template <typename Filter>
 void filterBand(const Band& band, size_t samples, ptrdiff_t column) {
-  constexpr size_t block = Filter::kBlock;
+  using Source = typename Filter::Source;
+  using Result = typename Filter::Result;
+  constexpr int n = Filter::kVectors;
+  constexpr size_t each = kSumSamples<Source>, block = n * each;
   for (size_t i = 0;; i = std::min(i + block, samples - block)) {
-    Filter filter;
-    WindowRows rows{band.src, i * sizeof(typename Filter::Source), column};
-    const Byte* const* const end = band.src + band.rows + Filter::kRows - 1;
-    for (int y = 1; y < Filter::kRows; ++y, ++rows.newest) filter.take(rows);
-    Byte* dst = band.dst.first + i * sizeof(typename Filter::Result);
-    for (; rows.newest != end; ++rows.newest, dst += band.dst.step) {
-      filter.take(rows);
-      filter.store(dst, rows);
+    Filter filters[n]{};
+    const Byte* const* row = band.src;
+    const auto rowsOf = [&](int v) {
+      return WindowRows{row, (i + each * static_cast<size_t>(v)) * sizeof(Source), column};
+    };
+    const auto take = [&] {
+      for (int v = 0; v < n; ++v) filters[v].take(rowsOf(v));
+    };
+    for (const Byte* const* const first = row + Filter::kRows - 1; row != first; ++row) take();
+    Byte* dst = band.dst.first + i * sizeof(Result);
+    for (const Byte* const* const end = row + band.rows; row != end; ++row, dst += band.dst.step) {
+      take();
+      Sums<Source> results[n];
+      for (int v = 0; v < n; ++v) results[v] = filters[v].result(rowsOf(v));
+      storeResults<Result>(dst, results);
     }
     if (i + block == samples) return;
   }
@@ -74,7 +84,7 @@ constexpr WindowFilter windowFilter() {
           reach,
           reach,
           reach,
-          Filter::kBlock,
+          static_cast<int>(kSumSamples<typename Filter::Source>) * Filter::kVectors,
           sizeof(typename Filter::Source),
           sizeof(typename Filter::Result)};
 }

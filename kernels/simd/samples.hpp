@@ -146,9 +146,14 @@ inline S32 min(S32 a, S32 b) { return {_mm_min_epi32(a.v, b.v)}; }
 // Products of words, added up in pairs of neighbours.
 inline S32 multiplyAddPairs(S16 a, S16 b) { return {_mm_madd_epi16(a.v, b.v)}; }
 
-// (a * b) >> 16, and (a * b + 2^14) >> 15.
+// (a * b) shifted right by the bits of a sample; and (a * b + 2^14) >> 15.
 inline S16 multiplyHigh(S16 a, S16 b) { return {_mm_mulhi_epi16(a.v, b.v)}; }
 inline U16 multiplyHigh(U16 a, U16 b) { return {_mm_mulhi_epu16(a.v, b.v)}; }
+inline U32 multiplyHigh(U32 a, U32 b) {
+  const Bytes16 even = _mm_mul_epu32(a.v, b.v);
+  const Bytes16 odd = _mm_mul_epu32(_mm_srli_epi64(a.v, 32), _mm_srli_epi64(b.v, 32));
+  return {_mm_blend_epi16(_mm_srli_epi64(even, 32), odd, 0xCC)};
+}
 inline S16 multiplyHighRounded(S16 a, S16 b) { return {_mm_mulhrs_epi16(a.v, b.v)}; }
 
 // Products of unsigned and signed bytes, added up in pairs of neighbours, limited to words.

@@ -96,6 +96,11 @@ inline Samples32<int16_t> multiplyHigh(Samples32<int16_t> a, Samples32<int16_t> 
 inline Samples32<uint16_t> multiplyHigh(Samples32<uint16_t> a, Samples32<uint16_t> b) {
   return {_mm256_mulhi_epu16(a.v, b.v)};
 }
+inline Samples32<uint32_t> multiplyHigh(Samples32<uint32_t> a, Samples32<uint32_t> b) {
+  const Bytes32 even = _mm256_mul_epu32(a.v, b.v);
+  const Bytes32 odd = _mm256_mul_epu32(_mm256_srli_epi64(a.v, 32), _mm256_srli_epi64(b.v, 32));
+  return {_mm256_blend_epi16(_mm256_srli_epi64(even, 32), odd, 0xCC)};
+}
 inline Samples32<int16_t> multiplyHighRounded(Samples32<int16_t> a, Samples32<int16_t> b) {
   return {_mm256_mulhrs_epi16(a.v, b.v)};
 }

@@ -183,6 +183,10 @@ Case makeCase(const Member& member, uint64_t seed, int index) {
   if (member.refusesZeroSteps)
     for (int* each : {&c.srcStep, &c.src2Step, &c.dstStep})
       if (*each == 0) *each = -1;
+  if (member.wholeSteps) {
+    c.srcStep -= c.srcStep % member.sampleBytes;
+    c.dstStep -= c.dstStep % sampleBytes(member.types.back());
+  }
   if (member.sharesStep) c.src2Step = c.srcStep;
   if (c.srcIsDst) c.srcStep = c.dstStep;
   if (c.src2IsDst) c.src2Step = c.dstStep;

@@ -143,6 +143,7 @@ struct Member {
   int64_t streamsFrom = 2 << 20;  // bytes moved from which on a path may depend on them, at the most
   int64_t asksFrom = 1 << 20;     // bytes moved up to which nothing asks for the cache's size
   bool floatResults = false;      // NaNs need not have equal bits, and rows of the destination are apart
+  bool wholeSteps = false;        // refuses steps that are no multiple of their samples
   bool sharesStep = false;        // one step is that of both sources
   bool separateRows = false;      // rows of the destination must not overlap one another
   // Pixels around those of the first source that a call reads: as many as there are in memory. They follow
