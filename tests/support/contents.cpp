@@ -66,8 +66,8 @@ std::vector<T> makeStock(Contents contents, size_t count) {
   Random random(count);
   std::vector<T> stock(count);
   for (T& sample : stock) {
-    if constexpr (std::is_same_v<T, float>)
-      sample = anyFloat(contents, random);
+    if constexpr (std::is_floating_point_v<T>)
+      sample = static_cast<T>(anyFloat(contents, random));
     else
       sample = anyOf<T>(contents, random);
   }
@@ -95,6 +95,7 @@ void fillSamples(const std::string& type, unsigned char* first, int bytes, Conte
                  Random& random) {
   const bool isFloat = type == "32f" || type == "32fc";
   if (isFloat) return fill<float>(first, bytes, contents, random);
+  if (type == "64f") return fill<double>(first, bytes, contents, random);
   if (contents == Contents::Bytes || type == "1u") return random.fill(first, static_cast<size_t>(bytes));
   if (type == "8u") return fill<uint8_t>(first, bytes, contents, random);
   if (type == "8s") return fill<int8_t>(first, bytes, contents, random);

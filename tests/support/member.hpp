@@ -147,7 +147,8 @@ struct Member {
   bool sharesStep = false;        // one step is that of both sources
   bool separateRows = false;      // rows of the destination must not overlap one another
   // Pixels around those of the first source that a call reads: as many as there are in memory. They follow
-  // from the call's numbers, choices and lengths of arrays.
+  // from the call's numbers, choices and lengths of arrays. Less than none are pixels of the ROI that are not
+  // read. Where rows are checked, a row of the source is one with its surroundings.
   struct Surroundings {
     int left, top, right, bottom;
   };

@@ -117,13 +117,14 @@ Stage::Placed Stage::place(std::string role, const Arena& arena, const Placement
 }
 
 // The first pixel of the ROI; what a call reads around it belongs to the image.
-Byte* Stage::placeSource(const Member& member, const Case& c, const Call& call, int plane) {
+Byte* Stage::placeSource(const Member& member, const Case& c, Call& call, int plane) {
   const auto around = member.surroundings ? member.surroundings(call) : Member::Surroundings{};
   const int before = around.left * member.src.pixelBytes, behind = around.right * member.src.pixelBytes;
   const int rowBytes = before + member.src.rowBytes(c.roi.width, c.numbers[0]) + behind;
-  placed_.push_back(place("source", *src_[plane], c.src[plane], c.srcStep, rowBytes,
+  if (member.checksRows) call.srcStep = std::max(c.srcStep, rowBytes);
+  placed_.push_back(place("source", *src_[plane], c.src[plane], call.srcStep, rowBytes,
                           around.top + c.roi.height + around.bottom));
-  return placed_.back().first + static_cast<ptrdiff_t>(around.top) * c.srcStep + before;
+  return placed_.back().first + static_cast<ptrdiff_t>(around.top) * call.srcStep + before;
 }
 
 void Stage::placeImages(const Member& member, const Case& c, Call& call) {
@@ -233,7 +234,9 @@ Byte* Stage::twin(const Byte* at) const {
 
 Call Stage::onTwins(const Member& member, const Call& call) const {
   Call result = call;
-  for (int p = 0; p < std::max(1, member.src.planes); ++p) result.src[p] = twin(call.src[p]);
+  // The ROI may lie apart from what is read for it, and outside of all memory.
+  for (int p = 0; p < std::max(1, member.src.planes); ++p)
+    result.src[p] = member.surroundings ? src_[p]->twin(call.src[p]) : twin(call.src[p]);
   result.src2 = twin(call.src2);
   for (int p = 0; p < member.dst.planes; ++p) result.dst[p] = twin(call.dst[p]);
   if (call.mask) result.mask = twin(call.mask);

@@ -37,7 +37,7 @@ class Stage {
 
   Placed place(std::string role, const Arena& arena, const Placement& where, int step, int rowBytes,
                int rows) const;
-  Byte* placeSource(const Member& member, const Case& c, const Call& call, int plane);
+  Byte* placeSource(const Member& member, const Case& c, Call& call, int plane);
   void placeImages(const Member& member, const Case& c, Call& call);
   void placeValues(const Member& member, const Case& c, Call& call, Random& random);
   void nameChoices(const Member& member, const Case& c, Call& call) const;
