@@ -2,9 +2,9 @@
 #include "filters/filter_border_object.hpp"
 
 #include <algorithm>
-#include <cmath>
 #include <cstring>
 
+#include "filters/filter_rounding.hpp"
 #include "frame/check.hpp"
 
 namespace lumi {
@@ -35,8 +35,6 @@ LumStatus channelCount(int channels) {
 LumStatus roundingMode(LumRoundMode mode) {
   return mode < lumRoundTowardZero || mode > lumRoundHalfAway ? lumStatusBadRoundMode : lumStatusOk;
 }
-
-bool isPowerOfTwo(int n) { return n > 0 && (n & (n - 1)) == 0; }
 
 uint64_t scratchOfIntegerTaps(LumiDataType dataType, int channels, uint64_t taps, uint64_t width) {
   if (dataType == lumiData8u) {
@@ -96,23 +94,17 @@ int64_t sumOfMagnitudes(const int16_t* kernel, uint64_t taps) {
   return sum;
 }
 
+// The scale of a power of two is exact, and stands for its divisor too.
 void setDivisor(FilterBorderObject& o, int divisor) {
+  const FilterRounding r = roundingBy(divisor, o.roundMode);
+  o.divisorClass = r.divisorClass;
   o.divisor = divisor;
-  o.divisorF = static_cast<float>(divisor);
-  o.divisorD = divisor;
-  o.divisorClass = DivisorClass::Other;
-  o.scale = 1.0F / static_cast<float>(divisor);
-  if (divisor == 1) {
-    o.divisorClass = DivisorClass::One;
-  } else if (isPowerOfTwo(divisor)) {
-    o.divisorClass = DivisorClass::PowerOfTwo;
-    while (divisor >> o.shift > 1) ++o.shift;
-    o.half = 1 << (o.shift - 1);
-    o.mask = divisor - 1;
-    o.scale = std::ldexp(1.0F, -o.shift);
-    o.divisorF = o.scale;
-    o.divisorD = o.scale;
-  }
+  o.shift = r.shift;
+  o.half = r.half;
+  o.mask = r.mask;
+  o.scale = r.scale;
+  o.divisorF = static_cast<float>(r.divisorD);
+  o.divisorD = r.divisorD;
 }
 
 void setFloatPath(FilterBorderObject& o, LumiDataType dataType) {

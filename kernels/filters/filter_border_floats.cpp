@@ -7,7 +7,7 @@
 #include "kernels/filters/filter_blocks.hpp"
 #include "kernels/filters/filter_border.hpp"
 #include "kernels/filters/filter_columns.hpp"
-#include "kernels/simd/filter.hpp"
+#include "kernels/filters/filter_floats.hpp"
 
 namespace lumi {
 namespace {
@@ -80,40 +80,6 @@ struct Piece {
   alignas(32) float sums[kPiece];
   alignas(32) float others[kPiece];
 };
-
-template <typename T>
-Floats8 floatsAt(const Byte* p) {
-  if constexpr (sizeof(T) == 1) {
-    const U8 x{loadFew<8>(p)};
-    const U32 low = widen<uint32_t>(x), high = widen<uint32_t>(upperDword(x));
-    return floatsOf(joined(S32{low.v}, S32{high.v}));
-  } else {
-    const auto half = [](const Byte* q) {
-      return S32{
-          widen<std::conditional_t<std::is_signed_v<T>, int32_t, uint32_t>>(Samples16<T>{loadFew<8>(q)}).v};
-    };
-    return floatsOf(joined(half(p), half(p + 8)));
-  }
-}
-
-template <typename T>
-void storeAs(Byte* dst, Floats8 sums) {
-  constexpr float highest = std::numeric_limits<T>::max();
-  const Ints8 integers = roundedToEven(min(broadcastFloat<Floats8>(highest), sums));
-  if constexpr (sizeof(T) == 1) {
-    const S16 words = narrowSaturated<int16_t>(lowHalf(integers), highHalf(integers));
-    storeFirst8(dst, narrowSaturated<uint8_t>(words, words).v);
-  } else {
-    store16(dst, narrowSaturated<T>(lowHalf(integers), highHalf(integers)).v);
-  }
-}
-
-template <typename T>
-void toFloats(const Byte* src, float* dst, size_t samples) {
-  inBlocks<8, 8>(samples, [&](auto, size_t i) {
-    storeFloats(reinterpret_cast<Byte*>(dst + i), floatsAt<T>(src + i * sizeof(T)));
-  });
-}
 
 template <int vectors>
 void addToSums(float* sums, const float* samples, int channels, const float* tap, int count) {
