@@ -48,6 +48,7 @@
 #include "lumi/resize.h"
 #include "lumi/sad.h"
 #include "lumi/scale.h"
+#include "lumi/separable.h"
 #include "lumi/set.h"
 #include "lumi/shift.h"
 #include "lumi/ssim.h"
