@@ -8,7 +8,7 @@ namespace lumi {
 
 // The divisor is not 0. The mode is that of the narrow form.
 inline FilterRounding roundingBy(int divisor, int mode) {
-  FilterRounding r{DivisorClass::Other, divisor, 0, 0, 0, 1.0F / static_cast<float>(divisor),
+  FilterRounding r{DivisorClass::Other,          divisor, 0, 0, 0, 1.0F / static_cast<float>(divisor),
                    static_cast<double>(divisor), mode};
   if (divisor == 1) {
     r.divisorClass = DivisorClass::One;

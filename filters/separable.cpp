@@ -49,12 +49,11 @@ struct Images {
   LumiSize roi;
   int kernelSize, anchor;
 
-  LumStatus sizes() const {
-    return firstFault(size(roi), kernelSize < 1 ? lumStatusBadSize : lumStatusOk);
-  }
+  LumStatus sizes() const { return firstFault(size(roi), kernelSize < 1 ? lumStatusBadSize : lumStatusOk); }
   LumStatus steps() const {
     const int64_t samples = int64_t{roi.width} * static_cast<int>(sizeof(T));  // channels do not count
-    const bool fit = srcStep >= Direction::template rowBytes<T, Layout>(roi, kernelSize) && dstStep >= samples;
+    const bool fit =
+        srcStep >= Direction::template rowBytes<T, Layout>(roi, kernelSize) && dstStep >= samples;
     return fit ? lumStatusOk : lumStatusBadStep;
   }
 
@@ -86,7 +85,8 @@ struct Images {
       for (int x = 0; x < roi.width; x += std::min(kPieceWidth, roi.width - x)) {
         const ptrdiff_t at = ptrdiff_t{std::min(x, roi.width - width)} * pixel;
         const int height = std::min(kPieceHeight, roi.height - y);
-        filter({s.row(y) + at, s.step}, tapStep, made, {static_cast<size_t>(width) * Layout::kStored, height});
+        filter({s.row(y) + at, s.step}, tapStep, made,
+               {static_cast<size_t>(width) * Layout::kStored, height});
         for (int i = 0; i < height; ++i)
           for (int k = 0; k < width; ++k)
             std::memcpy(d.row(y + i) + at + k * pixel, made.row(i) + k * pixel, kUsedBytes<T, Layout>);
@@ -123,8 +123,8 @@ template <typename Direction, typename T, typename Layout>
 LumStatus filterBytes(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, const Lum32s* kernel,
                       int kernelSize, int anchor, int divisor) {
   const Images<Direction, T, Layout> images{src, srcStep, dst, dstStep, roi, kernelSize, anchor};
-  if (LumStatus fault =
-          firstFault(pointers(src, dst, kernel), images.sizes(), isDivisor(divisor), [&] { return images.steps(); }))
+  if (LumStatus fault = firstFault(pointers(src, dst, kernel), images.sizes(), isDivisor(divisor),
+                                   [&] { return images.steps(); }))
     return fault;
   const FilterRounding rounding = roundingBy(divisor, lumRoundNearestEven);
   const bool inPairs = IntegerTaps::fitPairs(kernel, kernelSize);
@@ -149,8 +149,8 @@ template <typename Direction, typename T, typename Layout>
 LumStatus filterWords(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, const Lum32s* kernel,
                       int kernelSize, int anchor, int divisor) {
   const Images<Direction, T, Layout> images{src, srcStep, dst, dstStep, roi, kernelSize, anchor};
-  if (LumStatus fault =
-          firstFault(pointers(src, dst, kernel), images.sizes(), isDivisor(divisor), [&] { return images.steps(); }))
+  if (LumStatus fault = firstFault(pointers(src, dst, kernel), images.sizes(), isDivisor(divisor),
+                                   [&] { return images.steps(); }))
     return fault;
   const TapMemory memory(kernelSize, int64_t{kernelSize} * static_cast<int>(sizeof(Lum32f)));
   if (!memory) return lumStatusNoMemory;
@@ -169,7 +169,8 @@ template <typename Direction, typename T, typename Layout, typename Tap>
 LumStatus filterByFloats(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, const Tap* kernel,
                          int kernelSize, int anchor) {
   const Images<Direction, T, Layout> images{src, srcStep, dst, dstStep, roi, kernelSize, anchor};
-  if (LumStatus fault = firstFault(pointers(src, dst, kernel), images.sizes(), [&] { return images.steps(); }))
+  if (LumStatus fault =
+          firstFault(pointers(src, dst, kernel), images.sizes(), [&] { return images.steps(); }))
     return fault;
   runFloats(images, kernel);
   return lumStatusOk;

@@ -397,6 +397,15 @@ Peer gauss(View around, View dst, int reach, int side) {
 Peer box(View around, View dst, int reach, int side) {
   const cv::Mat s = mat(around)(cv::Rect(reach, reach, dst.roi.width, dst.roi.height));
   return peer("opencv", [=, d = mat(dst)]() mutable { cv::blur(s, d, {side, side}); });
+Peer filterLines(View whole, LumiPoint at, View dst, std::vector<float> taps, bool isColumn,
+                 bool separately) {
+  const cv::Mat src = mat(whole)(cv::Rect(at.x, at.y, dst.roi.width, dst.roi.height));
+  const cv::Mat line = cv::Mat(taps).clone(), kernel = isColumn ? line : cv::Mat(line.t()),
+                one = cv::Mat::ones(1, 1, CV_32F);
+  cv::Mat d = mat(dst);
+  if (!separately) return peer("opencv", [=] { cv::filter2D(src, d, d.depth(), kernel); });
+  return peer("sepFilter2D",
+              [=] { cv::sepFilter2D(src, d, d.depth(), isColumn ? one : line, isColumn ? line : one); });
 }
 
 Peer resizeNearest(View src, View dst) {

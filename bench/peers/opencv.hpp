@@ -92,6 +92,10 @@ enum class Gradient { sobelX, sobelY, scharrX, scharrY, laplace };
 [[gnu::weak]] Peer gradient(View around, View dst, int reach, Gradient kind, int side);
 [[gnu::weak]] Peer gauss(View around, View dst, int reach, int side);
 [[gnu::weak]] Peer box(View around, View dst, int reach, int side);
+// Symmetric taps along the rows or down the columns of an image inside a larger one, as one kernel or as two
+// kernels of one dimension.
+[[gnu::weak]] Peer filterLines(View whole, LumiPoint at, View dst, std::vector<float> taps, bool isColumn,
+                               bool separately);
 // To the destination's size.
 [[gnu::weak]] Peer resizeNearest(View src, View dst);
 [[gnu::weak]] Peer resizeLinear(View src, View dst);

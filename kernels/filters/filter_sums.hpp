@@ -35,8 +35,9 @@ struct WordSums {
 
 // How a block of so many samples is done: in vectors as wide as the build has where it fills four of them.
 template <int samples>
-inline constexpr size_t kBlockVector =
-    samples * sizeof(int32_t) >= 4 * simd::kVectorBytes ? simd::kVectorBytes : 16;
+inline constexpr size_t kBlockVector = samples * sizeof(int32_t) >= 4 * simd::kVectorBytes
+                                           ? simd::kVectorBytes
+                                           : 16;
 
 // A pair of taps, all over a vector.
 template <size_t bytes, typename Tap = int16_t>

@@ -41,8 +41,8 @@ void runPairs(const TapPairs& taps, const Divide& divide, SourceRows src, ptrdif
   if (src.step == tapStep)
     for (; y + 1 < samples.rows; y += 2) {
       const auto block = [&](auto size, size_t i) {
-        storeTapSums<Form, 2, decltype(size)::value>(taps, src.row(y) + i, tapStep, {dst.row(y) + i, dst.step},
-                                                     divide);
+        storeTapSums<Form, 2, decltype(size)::value>(taps, src.row(y) + i, tapStep,
+                                                     {dst.row(y) + i, dst.step}, divide);
       };
       if constexpr (Form::kSumBytes == 2)
         inBlocks<16, 8>(samples.length, block);
@@ -65,7 +65,8 @@ class Dwords {
 
   void run(const Byte* src, Byte* dst, size_t samples) const {
     if (samples < kFew) return few(src, dst, samples);
-    inBlocks<kFew, kFew>(samples, [&](auto, size_t i) { storeSums<uint8_t>(dst + i, sums(src + i), divide_); });
+    inBlocks<kFew, kFew>(samples,
+                         [&](auto, size_t i) { storeSums<uint8_t>(dst + i, sums(src + i), divide_); });
   }
 
  private:
@@ -133,13 +134,11 @@ void IntegerTaps::filterRows(SourceRows src, ptrdiff_t tapStep, TargetRows dst, 
           samples.rows, [&](const Byte* s, Byte* d) { line.run(s, d, samples.length); }, src, dst);
     });
   } else if (inWords_) {
-    withWordDivision(rounding_, [&](const auto& divide) {
-      runPairs<InWords>(pairs, divide, src, tapStep, dst, samples);
-    });
+    withWordDivision(
+        rounding_, [&](const auto& divide) { runPairs<InWords>(pairs, divide, src, tapStep, dst, samples); });
   } else {
-    withDivision(rounding_, [&](const auto& divide) {
-      runPairs<InDwords>(pairs, divide, src, tapStep, dst, samples);
-    });
+    withDivision(rounding_,
+                 [&](const auto& divide) { runPairs<InDwords>(pairs, divide, src, tapStep, dst, samples); });
   }
 }
 

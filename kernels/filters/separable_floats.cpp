@@ -128,7 +128,8 @@ constexpr size_t kPiece = 256, kMostChannels = 4;
 constexpr int kMostPieceTaps = 64;
 
 template <typename T>
-void filterPieces(const float* taps, int count, const Byte* src, ptrdiff_t tapStep, Byte* dst, size_t samples) {
+void filterPieces(const float* taps, int count, const Byte* src, ptrdiff_t tapStep, Byte* dst,
+                  size_t samples) {
   const size_t channels = static_cast<size_t>(tapStep) / sizeof(T);
   const FloatLine<float, T, float> line(taps, count, static_cast<ptrdiff_t>(channels * sizeof(float)));
   const size_t reach = static_cast<size_t>(count - 1) * channels;

@@ -53,8 +53,8 @@ model::LineKernel<Tap> kernelOf(const Call& c, bool isColumn) {
 
 const std::vector<int> kLengths = {1, 2, 3, 3, 4, 5, 7, 8, 11};
 const std::vector<Value> kAnchors = {{{0}}, {{1}}, {{2}}, {{3}}, {{7}}, {{-2}}, {{70}}};
-const std::vector<Value> kDivisors = {{{1}},  {{1}},  {{2}},       {{4}},  {{64}},     {{256}},
-                                      {{3}},  {{7}},  {{9}},       {{-1}}, {{-5}},     {{1 << 15}},
+const std::vector<Value> kDivisors = {{{1}},  {{1}},  {{2}},       {{4}},   {{64}},     {{256}},
+                                      {{3}},  {{7}},  {{9}},       {{-1}},  {{-5}},     {{1 << 15}},
                                       {{-2}}, {{10}}, {{1 << 30}}, {{100}}, {{INT_MIN}}};
 
 template <typename T>
