@@ -53,10 +53,10 @@ template <typename T, typename Sum>
 T sampleOf(Sum sum) {
   if constexpr (std::is_integral_v<T> && std::is_floating_point_v<Sum>) {
     using Limits = std::numeric_limits<T>;
-    return static_cast<T>(
-        std::nearbyint(std::clamp<Sum>(sum, Sum{Limits::min()}, Sum{Limits::max()})));
+    return static_cast<T>(std::nearbyint(std::clamp<Sum>(sum, Sum{Limits::min()}, Sum{Limits::max()})));
   } else if constexpr (std::is_integral_v<T>) {
-    return static_cast<T>(std::clamp<Sum>(sum, Sum{std::numeric_limits<T>::min()}, Sum{std::numeric_limits<T>::max()}));
+    return static_cast<T>(
+        std::clamp<Sum>(sum, Sum{std::numeric_limits<T>::min()}, Sum{std::numeric_limits<T>::max()}));
   } else {
     return static_cast<T>(sum);
   }
@@ -96,8 +96,10 @@ void addOpencv(Scene& s, const Source<T>& source, Image<T> dst, const std::vecto
                Direction direction, const char* differs) {
   if (opencv::filterLines == nullptr) return;
   for (const bool separately : {false, true})
-    addPeer(s, opencv::filterLines(source.whole, source.at, dst, taps, direction == Direction::columns, separately),
-            differs);
+    addPeer(
+        s,
+        opencv::filterLines(source.whole, source.at, dst, taps, direction == Direction::columns, separately),
+        differs);
 }
 
 constexpr auto kFloats = "sums of floats in another order";
@@ -117,10 +119,11 @@ Suite::Build integers(Direction direction, Whole<T, Lum32s> run, int count, bool
     std::vector<float> floats;
     for (const Lum32s tap : taps) floats.push_back(std::ldexp(static_cast<float>(tap), -shift));
     addOpencv(s, source, dst, floats, direction, keepsAlpha ? kAlpha : nullptr);
-    addPeer(s, loopLines(source.part, dst, C, taps, direction,
-                         [=](Lum32s sum) {
-                           return sampleOf<T>((sum + (1 << (shift - 1)) - 1 + ((sum >> shift) & 1)) >> shift);
-                         }),
+    addPeer(s,
+            loopLines(source.part, dst, C, taps, direction,
+                      [=](Lum32s sum) {
+                        return sampleOf<T>((sum + (1 << (shift - 1)) - 1 + ((sum >> shift) & 1)) >> shift);
+                      }),
             keepsAlpha ? kAlpha : nullptr);
   };
 }
@@ -131,12 +134,14 @@ Suite::Build floats(Direction direction, Plain<T, Lum32f> run, int count) {
     const auto source = sourceOf<T>(s, C, count, direction);
     const auto dst = s.output<T>(C);
     std::vector<float> taps;
-    for (const Lum32s tap : hill(count)) taps.push_back(std::ldexp(static_cast<float>(tap) * 1.01F, 1 - count));
+    for (const Lum32s tap : hill(count))
+      taps.push_back(std::ldexp(static_cast<float>(tap) * 1.01F, 1 - count));
     s.ours([=, src = source.part] {
       run(src.data(), src.step, dst.data(), dst.step, src.roi, taps.data(), count, count / 2);
     });
     addOpencv(s, source, dst, taps, direction, kFloats);
-    addPeer(s, loopLines(source.part, dst, C, taps, direction, [](float sum) { return sampleOf<T>(sum); }), kFloats);
+    addPeer(s, loopLines(source.part, dst, C, taps, direction, [](float sum) { return sampleOf<T>(sum); }),
+            kFloats);
   };
 }
 

@@ -100,7 +100,8 @@ template <int vectors, size_t bytes, typename Partner, typename Use>
 }
 
 // Divided by a power of two, to nearest, ties to even. The part below the quotient is rounded by itself: with
-// the whole sum the bias could leave the type. Words do for shifts of up to 14.
+// the whole sum the bias could leave the type. Words do for shifts of up to
+// kMostWordShift.
 template <typename T>
 class ByShift {
  public:
@@ -123,6 +124,20 @@ class ByShift {
 };
 
 inline constexpr int kMostWordShift = 14;
+
+// The same for sums that are not negative and may take all of a word.
+class ByShiftUnsigned {
+ public:
+  explicit ByShiftUnsigned(const FilterRounding& r) : divide_(r) {}
+
+  template <size_t bytes>
+  simd::SamplesOf<int16_t, bytes> operator()(simd::SamplesOf<int16_t, bytes> sum) const {
+    return simd::as<int16_t>(divide_(simd::as<uint16_t>(sum)));
+  }
+
+ private:
+  ByShift<uint16_t> divide_;
+};
 
 // Multiplied by the divisor's reciprocal. What is above every sample is limited, so that it fits an integer.
 class ByScale {
@@ -154,7 +169,8 @@ struct AsTheyAre {
 };
 
 template <typename T, int vectors, size_t bytes, typename Divide>
-void storeSums(simd::Byte* dst, const Sums<vectors, bytes>& sums, const Divide& divide) {
+[[gnu::always_inline]] inline void storeSums(simd::Byte* dst, const Sums<vectors, bytes>& sums,
+                                             const Divide& divide) {
   using namespace simd;
   const auto words = [&](int i) {
     return narrowInterleaved<int16_t>(divide(sums.at[i]), divide(sums.at[i + 1]));
@@ -169,7 +185,8 @@ void storeSums(simd::Byte* dst, const Sums<vectors, bytes>& sums, const Divide& 
 }
 
 template <typename T, int vectors, size_t bytes, typename Divide>
-void storeSums(simd::Byte* dst, const WordSums<vectors, bytes>& sums, const Divide& divide) {
+[[gnu::always_inline]] inline void storeSums(simd::Byte* dst, const WordSums<vectors, bytes>& sums,
+                                             const Divide& divide) {
   static_assert(sizeof(T) == 1);
   const auto first = divide(sums.at[0]);
   if constexpr (vectors == 2)

@@ -108,18 +108,30 @@ bool IntegerTaps::fitPairs(const int32_t* taps, int count) {
   return true;
 }
 
-IntegerTaps::IntegerTaps(const int32_t* taps, int count, const FilterRounding& rounding, uint8_t* memory)
-    : IntegerTaps(taps, count, rounding) {
+// Sums of words have 255 times the taps' magnitudes at the most, and so have their pairs, which are limited
+// to 2^15 - 1.
+IntegerTaps::Form IntegerTaps::formOf() const {
   int64_t magnitudes = 0;
-  int highest = 0;
-  for (int i = 0; i < count; ++i) {
-    const int tap = tapAt(taps, count, i);
+  int highest = 0, lowest = 0, highestPair = 0;
+  for (int i = 0, before = 0; i < count_; ++i) {
+    const int tap = tapAt(taps_, count_, i);
     magnitudes += std::abs(tap);
     highest = std::max(highest, tap);
+    lowest = std::min(lowest, tap);
+    highestPair = std::max(highestPair, before + tap);
+    before = tap;
   }
-  inWords_ = magnitudes <= 128 && highest < 128 && rounding.shift <= kMostWordShift;  // 128 * 255 < 2^15
+  if (highest > INT8_MAX || rounding_.shift > kMostWordShift) return Form::Dwords;
+  if (magnitudes <= 128) return Form::Words;
+  const bool fits = lowest == 0 && highestPair <= 128 && magnitudes <= 257 && rounding_.shift > 0;
+  return fits ? Form::UnsignedWords : Form::Dwords;
+}
+
+IntegerTaps::IntegerTaps(const int32_t* taps, int count, const FilterRounding& rounding, uint8_t* memory)
+    : IntegerTaps(taps, count, rounding) {
+  form_ = formOf();
   Byte* const second = memory + pairBytes(count) / 2;
-  const auto packBoth = inWords_ ? pack<int8_t> : pack<int16_t>;
+  const auto packBoth = form_ == Form::Dwords ? pack<int16_t> : pack<int8_t>;
   packBoth(taps, count, 0, memory);
   packBoth(taps, count, 1, second);
   first_ = memory, second_ = second;
@@ -127,19 +139,22 @@ IntegerTaps::IntegerTaps(const int32_t* taps, int count, const FilterRounding& r
 
 void IntegerTaps::filterRows(SourceRows src, ptrdiff_t tapStep, TargetRows dst, Extent samples) const {
   const TapPairs pairs{count_, first_, second_};
-  if (!first_ || samples.length < kFew) {
+  const auto inWords = [&](const auto& divide) {
+    runPairs<InWords>(pairs, divide, src, tapStep, dst, samples);
+  };
+  if (!first_ || samples.length < kFew)
     withDivision(rounding_, [&](const auto& divide) {
       const Dwords<std::decay_t<decltype(divide)>> line(taps_, count_, tapStep, divide);
       walkRows(
           samples.rows, [&](const Byte* s, Byte* d) { line.run(s, d, samples.length); }, src, dst);
     });
-  } else if (inWords_) {
-    withWordDivision(
-        rounding_, [&](const auto& divide) { runPairs<InWords>(pairs, divide, src, tapStep, dst, samples); });
-  } else {
+  else if (form_ == Form::Dwords)
     withDivision(rounding_,
                  [&](const auto& divide) { runPairs<InDwords>(pairs, divide, src, tapStep, dst, samples); });
-  }
+  else if (form_ == Form::UnsignedWords)
+    inWords(ByShiftUnsigned(rounding_));
+  else
+    withWordDivision(rounding_, inWords);
 }
 
 }  // namespace lumi

@@ -30,8 +30,11 @@ class IntegerTaps {
   const int32_t* taps_;
   int count_;
   FilterRounding rounding_;
-  bool inWords_ = false;  // whether taps are bytes, and no sum leaves 16 bits
+  // Whether taps are bytes, and sums stay in words: signed ones, or unsigned ones that are to be shifted.
+  enum class Form { Dwords, Words, UnsignedWords } form_ = Form::Dwords;
   const uint8_t *first_ = nullptr, *second_ = nullptr;
+
+  Form formOf() const;
 };
 
 // Taps of floats or doubles, which sums are made in too: one product after the other, starting from 0. Sums

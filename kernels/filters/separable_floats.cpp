@@ -2,7 +2,6 @@
 // Float taps. No product is fused with a sum: the order of the sums, and so each bit, is part of the result.
 #include <algorithm>
 #include <type_traits>
-#include <utility>
 
 #include "kernels/filters/filter_blocks.hpp"
 #include "kernels/filters/filter_floats.hpp"
@@ -54,11 +53,6 @@ void storeSamples(Byte* dst, V sums) {
   }
 }
 
-template <typename F, int... i>
-[[gnu::always_inline]] inline void eachOf(std::integer_sequence<int, i...>, [[maybe_unused]] F f) {
-  (f(std::integral_constant<int, i>()), ...);
-}
-
 // Taps over samples of type S, which lie a step apart, with results of type D.
 template <typename S, typename D, typename Tap>
 class FloatLine {
@@ -71,9 +65,11 @@ class FloatLine {
       return walkRows(
           samples.rows, [&](const Byte* s, Byte* d) { few(s, d, samples.length); }, src, dst);
     int y = 0;
-    if (src.step == step_ && count_ >= kShared - 1)
-      for (; y + kShared <= samples.rows; y += kShared)
-        inBlocks<kWide>(samples.length, [&](auto, size_t i) { block<Wide, kShared, 1>(src, dst, y, i); });
+    if (src.step == step_)
+      for (; y + 1 < samples.rows; y += 2)
+        inBlocks<2 * kWide, kWide>(samples.length, [&](auto size, size_t i) {
+          block<Wide, 2, decltype(size)::value / kWide>(src, dst, y, i);
+        });
     for (; y < samples.rows; ++y)
       inBlocks<4 * kWide, kWide>(samples.length, [&](auto size, size_t i) {
         block<Wide, 1, decltype(size)::value / kWide>(src, dst, y, i);
@@ -83,40 +79,55 @@ class FloatLine {
  private:
   using Wide = std::conditional_t<std::is_same_v<Tap, double>, Doubles4, Floats8>;
   static constexpr int kWide = static_cast<int>(32 / sizeof(Tap));
-  static constexpr int kShared = 4;  // rows of the result that share samples
 
   void few(const Byte* src, Byte* dst, size_t samples) const {
     for (size_t i = 0; i < samples; ++i) block<Tap, 1, 1>({src, 0}, {dst, 0}, 0, i);
   }
 
+  // One row of the result, or two that share their samples.
   template <typename V, int rows, int vectors>
   [[gnu::always_inline]] void block(SourceRows src, TargetRows dst, int y, size_t i) const {
-    constexpr size_t lanes = sizeof(V) / sizeof(Tap);
     V sums[rows][vectors] = {};
-    sum(sums, src.row(y) + i * sizeof(S));
+    const Byte* p = src.row(y) + i * sizeof(S);
+    if constexpr (rows == 1)
+      for (int k = 0; k < count_; ++k, p += step_) add(sums[0], p, broadcastTap<V>(last_ - k));
+    else
+      sumTwo(sums, p);
     for (int r = 0; r < rows; ++r)
       for (size_t v = 0; v < vectors; ++v)
-        storeSamples<D>(dst.row(y + r) + (i + v * lanes) * sizeof(D), sums[r][v]);
+        storeSamples<D>(dst.row(y + r) + (i + v * kLanes<V>)*sizeof(D), sums[r][v]);
   }
 
-  // The first samples are under no tap of the later rows, and the last ones under none of the earlier rows.
-  template <typename V, int rows, int vectors>
-  [[gnu::always_inline]] void sum(V (&sums)[rows][vectors], const Byte* p) const {
-    const std::make_integer_sequence<int, rows - 1> others;
-    ptrdiff_t at = 0;
-    eachOf(others, [&](auto i) { add<0, i + 1>(sums, p, at), p += step_, --at; });
-    for (int left = count_ - rows + 1; left > 0; --left, p += step_, --at) add<0, rows>(sums, p, at);
-    eachOf(others, [&](auto i) { add<i + 1, rows>(sums, p, at), p += step_, --at; });
-  }
-
-  // The products of the samples at p, for some of the rows; `at` tells which tap the first row has.
-  template <int first, int end, typename V, int rows, int vectors>
-  [[gnu::always_inline]] void add(V (&sums)[rows][vectors], const Byte* p, ptrdiff_t at) const {
-    for (int v = 0; v < vectors; ++v) {
-      const V x = loadAs<V, S>(p + v * static_cast<ptrdiff_t>(sizeof(V) / sizeof(Tap) * sizeof(S)));
-      for (int r = first; r < end; ++r) sums[r][v] = sums[r][v] + x * broadcastTap<V>(last_ + at + r);
+  // The second row has each sample under the tap that the first one had a step before.
+  template <typename V, int vectors>
+  [[gnu::always_inline]] void sumTwo(V (&sums)[2][vectors], const Byte* p) const {
+    V tap = broadcastTap<V>(last_);
+    add(sums[0], p, tap);
+    p += step_;
+    for (int k = 1; k < count_; ++k, p += step_) {
+      const V before = tap;
+      tap = broadcastTap<V>(last_ - k);
+      for (int v = 0; v < vectors; ++v) {
+        const V x = samplesAt<V>(p, v);
+        sums[0][v] = sums[0][v] + x * tap;
+        sums[1][v] = sums[1][v] + x * before;
+      }
     }
+    add(sums[1], p, tap);
   }
+
+  template <typename V, int vectors>
+  [[gnu::always_inline]] static void add(V (&sums)[vectors], const Byte* p, V tap) {
+    for (int v = 0; v < vectors; ++v) sums[v] = sums[v] + samplesAt<V>(p, v) * tap;
+  }
+
+  template <typename V>
+  static V samplesAt(const Byte* p, int v) {
+    return loadAs<V, S>(p + static_cast<size_t>(v) * kLanes<V> * sizeof(S));
+  }
+
+  template <typename V>
+  static constexpr size_t kLanes = sizeof(V) / sizeof(Tap);
 
   const Tap* last_;
   int count_;
