@@ -19,6 +19,7 @@
 #include "lumi/cplx_pack.h"
 #include "lumi/dct.h"
 #include "lumi/dct_8x8.h"
+#include "lumi/decimate_filter.h"
 #include "lumi/dft.h"
 #include "lumi/div.h"
 #include "lumi/dot_prod.h"

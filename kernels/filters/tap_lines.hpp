@@ -48,13 +48,15 @@ template <typename Form, int rows, int samples, typename Divide>
   constexpr int vectors = samples * Form::kSumBytes / static_cast<int>(bytes);
   using Tap = typename Form::Tap;
   typename Form::template SumsOf<vectors, bytes> sums[rows];
-  const uint8_t *first = taps.first, *second = taps.second;
+  const uint8_t* first = taps.first;
+  [[maybe_unused]] const uint8_t* second = taps.second;
   const auto add = [&](const uint8_t* a, auto partner) {
     Form::template each<vectors, bytes>(a, partner, [&](int i, auto pair) {
       sums[0].add(i, pair, tapsAt<bytes, Tap>(first));
       if constexpr (rows == 2) sums[1].add(i, pair, tapsAt<bytes, Tap>(second));
     });
-    first += kPairBytes, second += kPairBytes;
+    first += kPairBytes;
+    if constexpr (rows == 2) second += kPairBytes;
   };
   int left = taps.count + rows - 1;
   for (; left > 1; left -= 2, p += 2 * step) add(p, p + step);
