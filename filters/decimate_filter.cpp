@@ -19,7 +19,8 @@ struct AlongRows {
 };
 struct DownColumns {
   static void run(int fraction, SourceRows s, TargetRows d, LumiSize roi) {
-    decimateColumns(fraction, s, d, static_cast<size_t>(roi.width), roi.height / decimationOf(fraction).samples);
+    decimateColumns(fraction, s, d, static_cast<size_t>(roi.width),
+                    roi.height / decimationOf(fraction).samples);
   }
 };
 

@@ -19,13 +19,11 @@ constexpr DecimationPhase kThreeFifths[] = {{-4, 9, {1, -2, -18, 49, 151, 92, -1
                                             {0, 8, {1, -16, 13, 130, 130, 13, -16, 1}}};
 constexpr DecimationPhase kTwoThirds[] = {{-3, 8, {2, -18, 27, 163, 102, -16, -5, 1}},
                                           {-2, 8, {1, -5, -16, 102, 163, 27, -18, 2}}};
-constexpr DecimationPhase kSevenTenths[] = {{-3, 8, {3, -17, 25, 171, 94, -20, -1, 1}},
-                                            {-2, 8, {1, -5, -15, 119, 160, 7, -13, 2}},
-                                            {0, 7, {2, -21, 46, 180, 70, -22, 1}},
-                                            {1, 8, {2, -9, -6, 141, 141, -6, -9, 2}},
-                                            {3, 7, {1, -22, 70, 180, 46, -21, 2}},
-                                            {4, 8, {2, -13, 7, 160, 119, -15, -5, 1}},
-                                            {5, 8, {1, -1, -20, 94, 171, 25, -17, 3}}};
+constexpr DecimationPhase kSevenTenths[] = {
+    {-3, 8, {3, -17, 25, 171, 94, -20, -1, 1}}, {-2, 8, {1, -5, -15, 119, 160, 7, -13, 2}},
+    {0, 7, {2, -21, 46, 180, 70, -22, 1}},      {1, 8, {2, -9, -6, 141, 141, -6, -9, 2}},
+    {3, 7, {1, -22, 70, 180, 46, -21, 2}},      {4, 8, {2, -13, 7, 160, 119, -15, -5, 1}},
+    {5, 8, {1, -1, -20, 94, 171, 25, -17, 3}}};
 constexpr DecimationPhase kThreeQuarters[] = {{-3, 7, {2, -15, 22, 187, 81, -23, 2}},
                                               {-2, 8, {1, -4, -14, 145, 145, -14, -4, 1}},
                                               {0, 7, {2, -23, 81, 187, 22, -15, 2}}};
@@ -54,8 +52,8 @@ constexpr FractionPairs kFractionPairs[kDecimations] = {pairsOf(kFractions[0]), 
                                                         pairsOf(kFractions[2]), pairsOf(kFractions[3]),
                                                         pairsOf(kFractions[4])};
 
-// Four results that follow one another lie under sixteen samples. Shuffles bring those under each pair of weights
-// to the result's dword, as words.
+// Four results that follow one another lie under sixteen samples. Shuffles bring those under each pair of
+// weights to the result's dword, as words.
 struct Gather {
   int first;
   alignas(16) Control controls[kPairs];
@@ -130,8 +128,9 @@ void decimateRow(int fraction, const Byte* src, Byte* dst, int groups) {
   const Decimation& d = kFractions[fraction];
   const auto blocks = static_cast<size_t>(d.results);
   const size_t results = static_cast<size_t>(groups) * blocks;
-  const DecimationPhase* const last = std::max_element(
-      d.phases, d.phases + blocks, [](const auto& a, const auto& b) { return a.first + a.count < b.first + b.count; });
+  const DecimationPhase* const last =
+      std::max_element(d.phases, d.phases + blocks,
+                       [](const auto& a, const auto& b) { return a.first + a.count < b.first + b.count; });
   const Byte* const end = src + ptrdiff_t{groups - 1} * d.samples + last->first + last->count;
   const Byte* period = src;  // of as many blocks as a group has results
   for (size_t i = 0, block = 0; i < results; i += kBlock) {
@@ -166,7 +165,8 @@ void decimateRows(int fraction, SourceRows src, TargetRows dst, int groups, int 
   walkRows(
       rows,
       [&](const Byte* s, Byte* d) {
-        isLong ? decimateRow<kPairs>(fraction, s, d, groups) : decimateRow<kPairs - 1>(fraction, s, d, groups);
+        isLong ? decimateRow<kPairs>(fraction, s, d, groups)
+               : decimateRow<kPairs - 1>(fraction, s, d, groups);
       },
       src, dst);
 }
@@ -185,7 +185,8 @@ void decimateColumns(int fraction, SourceRows src, TargetRows dst, size_t sample
         continue;
       }
       inVectorBlocks(samples, [&](auto size, size_t i) {
-        storeTapSums<InDwords, 1, decltype(size)::value>(pairs, from.first + i, from.step, {to + i, 0}, By256());
+        storeTapSums<InDwords, 1, decltype(size)::value>(pairs, from.first + i, from.step, {to + i, 0},
+                                                         By256());
       });
     }
 }

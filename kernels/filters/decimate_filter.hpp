@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Decimation of 8-bit samples: of every group of samples in a line, fewer are made, each a weighted sum of some of
-// the line's samples.
+// Decimation of 8-bit samples: of every group of samples in a line, fewer are made, each a weighted sum of
+// some of the line's samples.
 #pragma once
 
 #include "kernels/rows.hpp"
 
 namespace lumi {
 
-// The weights of one result of a group, from the sample `first` of the group on, which may lie before it. They
-// add up to 256.
+// The weights of one result of a group, from the sample `first` of the group on, which may lie before it.
+// They add up to 256.
 struct DecimationPhase {
   int first, count;
   int16_t taps[10];

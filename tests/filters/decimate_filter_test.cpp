@@ -51,8 +51,8 @@ struct Direction {
 const Direction kDirections[] = {{lumiDecimateFilterRow_8u_C1R, false},
                                  {lumiDecimateFilterColumn_8u_C1R, true}};
 
-// Nothing behind the destination, which is smaller than the source, and nothing beyond the samples under a weight:
-// where one more is missing at either end, the call faults.
+// Nothing behind the destination, which is smaller than the source, and nothing beyond the samples under a
+// weight: where one more is missing at either end, the call faults.
 TEST(DecimateFilter, TouchesItsSamplesAndResultsOnly) {
   const Arena src(1 << 12), dst(1 << 12);
   for (const Direction& d : kDirections)
@@ -92,7 +92,8 @@ TEST(DecimateFilter, FlatImagesStayFlat) {
             model::decimatedSize(roi, model::fractions()[static_cast<size_t>(fraction)], d.isColumn);
         for (int y = 0; y < made.height; ++y)
           for (int x = 0; x < made.width; ++x) ASSERT_EQ(dst[static_cast<size_t>(y * kStep + x)], value);
-        EXPECT_EQ(std::count(dst.begin(), dst.end(), value == 77 ? 0 : 77), kStep * 64 - made.width * made.height);
+        EXPECT_EQ(std::count(dst.begin(), dst.end(), value == 77 ? 0 : 77),
+                  kStep * 64 - made.width * made.height);
       }
 }
 
@@ -105,7 +106,8 @@ TEST(DecimateFilter, LinesWithoutAGroupGiveNothing) {
       const Arena none(1);
       none.setAccessible(none.begin(), none.end(), false);
       LumStatus status = lumStatusNullPointer;
-      const auto fault = faultOf([&] { status = d.decimate(none.begin(), 16, roi, none.begin(), 16, fraction); });
+      const auto fault =
+          faultOf([&] { status = d.decimate(none.begin(), 16, roi, none.begin(), 16, fraction); });
       none.setAccessible(none.begin(), none.end(), true);
       EXPECT_FALSE(fault);
       EXPECT_EQ(status, lumStatusOk);
