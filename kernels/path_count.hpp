@@ -26,6 +26,8 @@ enum class Path {
   FilterWordSums,
   FilterStrip,
   WidePairs,
+  TapWordSums,
+  TapRowsShared,
 };
 
 }  // namespace lumi

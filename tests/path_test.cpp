@@ -25,6 +25,7 @@
 #include "lumi/mirror.h"
 #include "lumi/mul.h"
 #include "lumi/mul_pack.h"
+#include "lumi/separable.h"
 #include "lumi/set.h"
 #include "lumi/shift.h"
 #include "lumi/sum.h"
@@ -492,6 +493,57 @@ TEST(Paths, LongRowsOfPackedFloatsGoInWideGroups) {
   EXPECT_EQ(wide(lumiMulPackConj_32f_C3R, 4, 3), 0);
   EXPECT_EQ(wide(lumiMulPack_32f_AC4R, 5, 4), 1);
   EXPECT_EQ(wide(lumiMulPack_32f_AC4R, 4, 4), 0);
+}
+
+// Of taps that are bytes: magnitudes of up to 128, or weights of up to 257 that are divided.
+TEST(Paths, SmallTapsAreSummedInWords) {
+  const std::vector<Lum8u> src(40 * 3);
+  std::vector<Lum8u> dst(40);
+  const auto sums = [&](std::vector<Lum32s> taps, int divisor) {
+    return taken(Path::TapWordSums, [&] {
+      return lumiFilterRow_8u_C1R(src.data(), 40, dst.data(), 40, {16, 1}, taps.data(),
+                                  static_cast<int>(taps.size()), static_cast<int>(taps.size()) - 1, divisor);
+    });
+  };
+  EXPECT_EQ(sums({-64, 0, 64}, 3), 1);
+  EXPECT_EQ(sums({-64, 0, 65}, 3), 0);
+  EXPECT_EQ(sums({-128, 0, 0}, 1), 1);
+  EXPECT_EQ(sums({128, 0, 0}, 1), 0);
+  EXPECT_EQ(sums({64, 64, 64, 64, 1}, 2), 1);
+  EXPECT_EQ(sums({64, 64, 64, 64, 2}, 2), 0);
+  EXPECT_EQ(sums({64, 64, 64, 64}, 3), 0);
+  EXPECT_EQ(sums({64, 65, 64}, 2), 0);
+  EXPECT_EQ(sums({127, 1, 127}, 1 << 14), 1);
+  EXPECT_EQ(sums({127, 1, 127}, 1 << 15), 0);
+  EXPECT_EQ(sums({80, -1, 80}, 256), 0);
+}
+
+TEST(Paths, RowsShareTheSamplesOfColumns) {
+  const std::vector<Lum8u> src(40 * 8);
+  const std::vector<Lum32f> floats(40 * 8);
+  std::vector<Lum8u> dst(40 * 8);
+  std::vector<Lum32f> results(40 * 8);
+  const Lum32s taps[] = {1, 2, 1};
+  const Lum32f weights[] = {1, 2, 1};
+  const auto runs = [&](int height) {
+    return taken(Path::TapRowsShared, [&] {
+      return lumiFilterColumn_8u_C1R(src.data(), 40, dst.data(), 40, {40, height}, taps, 3, 2, 4);
+    });
+  };
+  EXPECT_EQ(runs(2), 1);
+  EXPECT_EQ(runs(1), 0);
+  EXPECT_EQ(
+      taken(
+          Path::TapRowsShared,
+          [&] {
+            return lumiFilterColumn_32f_C1R(floats.data(), 160, results.data(), 160, {40, 3}, weights, 3, 2);
+          }),
+      1);
+  EXPECT_EQ(taken(Path::TapRowsShared,
+                  [&] {
+                    return lumiFilterRow_8u_C1R(src.data(), 40, dst.data(), 40, {30, 3}, taps, 3, 2, 4);
+                  }),
+            0);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include "kernels/filters/filter_blocks.hpp"
 #include "kernels/filters/tap_lines.hpp"
+#include "kernels/path_count.hpp"
 
 namespace lumi {
 namespace {
@@ -37,6 +38,8 @@ void pack(const int32_t* taps, int count, int later, Byte* packed) {
 template <typename Form, typename Divide>
 void runPairs(const TapPairs& taps, const Divide& divide, SourceRows src, ptrdiff_t tapStep, TargetRows dst,
               Extent samples) {
+  if (Form::kSumBytes == 2) countPath(Path::TapWordSums);
+  if (src.step == tapStep && samples.rows > 1) countPath(Path::TapRowsShared);
   int y = 0;
   if (src.step == tapStep)
     for (; y + 1 < samples.rows; y += 2) {

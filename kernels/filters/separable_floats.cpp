@@ -6,6 +6,7 @@
 #include "kernels/filters/filter_blocks.hpp"
 #include "kernels/filters/filter_floats.hpp"
 #include "kernels/filters/separable.hpp"
+#include "kernels/path_count.hpp"
 #include "kernels/simd/elementary.hpp"
 
 namespace lumi {
@@ -64,6 +65,7 @@ class FloatLine {
     if (samples.length < kWide)
       return walkRows(
           samples.rows, [&](const Byte* s, Byte* d) { few(s, d, samples.length); }, src, dst);
+    if (src.step == step_ && samples.rows > 1) countPath(Path::TapRowsShared);
     int y = 0;
     if (src.step == step_)
       for (; y + 1 < samples.rows; y += 2)

@@ -121,5 +121,123 @@ TEST(Separable, LongKernels) {
       }
 }
 
+// A call of a member with an image and taps of its own; the ROI begins at `at` of the source.
+class LineCall {
+ public:
+  LineCall(const Member& m, int kernelSize, int anchor)
+      : call_(m.name),
+        isColumn_(m.name.find("Column") != std::string::npos),
+        taps_(8 * static_cast<size_t>(kernelSize)) {
+    call_.pointer("kernel", taps_.data()).number("kernelSize", kernelSize).number("anchor", anchor);
+    for (const Argument& argument : m.row->arguments)
+      if (argument.name == std::string("divisor")) call_.number("divisor", 1);
+  }
+  NamedCall& call() { return call_; }
+  bool isColumn() const { return isColumn_; }
+
+ private:
+  NamedCall call_;
+  bool isColumn_;
+  std::vector<Byte> taps_;
+};
+
+// Source rows are pixels, those under the kernel too, and destination rows samples; down columns both are
+// samples.
+TEST(Separable, LeastSteps) {
+  constexpr LumiSize kRoi{20, 1};
+  constexpr int kTaps = 5;
+  std::vector<Byte> src(4096), dst(4096);
+  for (const Member& m : members()) {
+    LineCall line(m, kTaps, kTaps - 1);
+    const int sample = m.sampleBytes,
+              srcRow = line.isColumn() ? kRoi.width * sample : (kRoi.width + kTaps - 1) * m.src.pixelBytes;
+    const int dstRow = kRoi.width * sample;
+    const auto status = [&](int srcStep, int dstStep) {
+      return line.call()
+          .size("roi", kRoi)
+          .image("src", src.data(), srcStep)
+          .image("dst", dst.data(), dstStep)
+          .run();
+    };
+    EXPECT_EQ(status(srcRow, dstRow), lumStatusOk) << m.name;
+    EXPECT_EQ(status(srcRow - 1, dstRow), lumStatusBadStep) << m.name;
+    EXPECT_EQ(status(srcRow, dstRow - 1), lumStatusBadStep) << m.name;
+    EXPECT_EQ(status(-srcRow, dstRow), lumStatusBadStep) << m.name;
+  }
+}
+
+// The products of sizes do not fit into 32 bits.
+TEST(Separable, HugeRowsAreRefused) {
+  Byte none[64];
+  for (const Member& m : members()) {
+    LineCall line(m, 1, 0);
+    const auto status = [&](int width, int kernelSize) {
+      return line.call()
+          .size("roi", {width, 1})
+          .number("kernelSize", kernelSize)
+          .image("src", none, INT_MAX)
+          .image("dst", none, INT_MAX)
+          .run();
+    };
+    const bool isByteColumn = line.isColumn() && m.sampleBytes == 1;
+    if (isByteColumn) continue;  // its rows fit any step
+    EXPECT_EQ(status(INT_MAX, line.isColumn() ? 1 : INT_MAX), lumStatusBadStep) << m.name;
+    EXPECT_EQ(status(line.isColumn() ? INT_MAX : 2, INT_MAX), lumStatusBadStep) << m.name;
+  }
+}
+
+// A single tap of 1 moves the image by the anchor, however far.
+TEST(Separable, OneTapMovesTheImage) {
+  constexpr LumiSize kRoi{21, 2};
+  constexpr int kStep = 32;
+  std::vector<Lum8u> src(kStep * 2), dst(kStep * 2);
+  for (size_t i = 0; i < src.size(); ++i) src[i] = static_cast<Lum8u>(i * 7);
+  const Lum32s tap = 1;
+  for (const bool isColumn : {false, true})
+    for (const int anchor : {0, 3, -9, INT_MAX, INT_MIN}) {
+      const auto moved = static_cast<uintptr_t>(int64_t{anchor} * (isColumn ? kStep : 1));
+      const auto* const from =
+          reinterpret_cast<const Lum8u*>(reinterpret_cast<uintptr_t>(src.data()) - moved);
+      std::fill(dst.begin(), dst.end(), Lum8u{0});
+      ASSERT_EQ((isColumn ? lumiFilterColumn_8u_C1R : lumiFilterRow_8u_C1R)(from, kStep, dst.data(), kStep,
+                                                                            kRoi, &tap, 1, anchor, 1),
+                lumStatusOk);
+      for (int y = 0; y < kRoi.height; ++y)
+        EXPECT_TRUE(std::equal(dst.begin() + y * kStep, dst.begin() + y * kStep + kRoi.width,
+                               src.begin() + y * kStep))
+            << anchor;
+    }
+}
+
+// A tap beyond 16 bits makes no difference but that of its sums.
+TEST(Separable, LargeTapsAreSummedWhole) {
+  std::vector<Lum8u> src(64, 200), dst(64);
+  for (const int divisor : {40000, 1 << 15}) {
+    const Lum32s taps[] = {0, 40000, 0};
+    ASSERT_EQ(lumiFilterRow_8u_C1R(src.data() + 1, 64, dst.data(), 64, {40, 1}, taps, 3, 1, divisor),
+              lumStatusOk);
+    EXPECT_EQ(dst[0], divisor == 40000 ? 200 : 244);  // 200 * 40000 / 2^15 = 244.1
+    EXPECT_EQ(std::count(dst.begin(), dst.begin() + 40, dst[0]), 40);
+  }
+}
+
+// Alpha of the destination is not touched: that of the last pixel need not even be there.
+TEST(Separable, AlphaIsNotTouched) {
+  const Arena dst(1 << 12);
+  for (const Member& m : members()) {
+    if (m.layouts[0] != "AC4") continue;
+    for (const int width : {1, 2, 20, 65, 70}) {
+      LineCall line(m, 3, 1);
+      const int pixel = m.dst.pixelBytes, row = width * pixel;
+      std::vector<Byte> src(static_cast<size_t>((row + 2 * pixel) * 3));
+      line.call().size("roi", {width, 1}).image("src", src.data() + row + 3 * pixel, row + 2 * pixel);
+      line.call().image("dst", dst.end() - row + m.sampleBytes, row);
+      LumStatus status = lumStatusNullPointer;
+      EXPECT_FALSE(faultOf([&] { status = line.call().run(); })) << m.name << " " << width;
+      EXPECT_EQ(status, lumStatusOk);
+    }
+  }
+}
+
 }  // namespace
 }  // namespace test
