@@ -72,7 +72,7 @@ struct Images {
   }
 
  private:
-  static constexpr int kPieceWidth = 64, kPieceHeight = 4;
+  static constexpr int kPieceWidth = 64, kPieceHeight = 8;
 
   // Alpha is not written, not even with its own value: results are made apart, of all four samples.
   template <typename Filter>

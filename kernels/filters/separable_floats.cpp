@@ -136,28 +136,52 @@ class FloatLine {
   ptrdiff_t step_;
 };
 
-// A row of integer samples is made floats once, in pieces that stay in the nearest cache.
-constexpr size_t kPiece = 256, kMostChannels = 4;
-constexpr int kMostPieceTaps = 64;
+// Integer samples are made floats once for several taps, in pieces that stay in the nearest cache. A piece of
+// columns has rows of the result and what is under the kernel beyond them.
+constexpr size_t kPiece = 256, kColumnPiece = 128, kMostChannels = 4;
+constexpr int kMostPieceTaps = 64, kMostColumnTaps = 17, kPieceRows = 16;
 
-template <typename T>
-void filterPieces(const float* taps, int count, const Byte* src, ptrdiff_t tapStep, Byte* dst,
-                  size_t samples) {
-  const size_t channels = static_cast<size_t>(tapStep) / sizeof(T);
-  const FloatLine<float, T, float> line(taps, count, static_cast<ptrdiff_t>(channels * sizeof(float)));
-  const size_t reach = static_cast<size_t>(count - 1) * channels;
-  float piece[kPiece + (kMostPieceTaps - 1) * kMostChannels];
-  for (size_t i = 0; i < samples; i += kPiece) {
-    const size_t at = std::min(i, samples - 8), length = std::min(kPiece, samples - at);
-    toFloats<T>(src + at * sizeof(T), piece, length + reach);
-    line.run({reinterpret_cast<const Byte*>(piece), 0}, {dst + at * sizeof(T), 0}, {length, 1});
+// Calls piece(first sample, samples), with at least eight of them each.
+template <size_t most, typename Piece>
+void inPieces(size_t samples, Piece piece) {
+  for (size_t i = 0; i < samples; i += most) {
+    const size_t at = std::min(i, samples - 8);
+    piece(at, std::min(most, samples - at));
   }
 }
 
 template <typename T>
-bool fitsPieces(int count, ptrdiff_t tapStep, size_t samples) {
+void filterRowPieces(const float* taps, int count, ptrdiff_t tapStep, const Byte* src, Byte* dst,
+                     size_t samples) {
+  const size_t channels = static_cast<size_t>(tapStep) / sizeof(T);
+  const FloatLine<float, T, float> line(taps, count, static_cast<ptrdiff_t>(channels * sizeof(float)));
+  const size_t reach = static_cast<size_t>(count - 1) * channels;
+  float floats[kPiece + (kMostPieceTaps - 1) * kMostChannels];
+  inPieces<kPiece>(samples, [&](size_t at, size_t length) {
+    toFloats<T>(src + at * sizeof(T), floats, length + reach);
+    line.run({reinterpret_cast<const Byte*>(floats), 0}, {dst + at * sizeof(T), 0}, {length, 1});
+  });
+}
+
+template <typename T>
+void filterColumnPieces(const float* taps, int count, SourceRows src, TargetRows dst, Extent samples) {
+  float floats[kPieceRows + kMostColumnTaps - 1][kColumnPiece];
+  const FloatLine<float, T, float> line(taps, count, sizeof floats[0]);
+  for (int y = 0; y < samples.rows; y += kPieceRows) {
+    const int rows = std::min(kPieceRows, samples.rows - y);
+    inPieces<kColumnPiece>(samples.length, [&](size_t at, size_t length) {
+      for (int i = 0; i < rows + count - 1; ++i)
+        toFloats<T>(src.row(y + i) + at * sizeof(T), floats[i], length);
+      line.run({reinterpret_cast<const Byte*>(floats), sizeof floats[0]},
+               {dst.row(y) + at * sizeof(T), dst.step}, {length, rows});
+    });
+  }
+}
+
+template <typename T>
+bool fitRowPieces(int count, ptrdiff_t tapStep) {
   constexpr ptrdiff_t size = sizeof(T);
-  return count <= kMostPieceTaps && samples >= 8 && tapStep <= size * static_cast<ptrdiff_t>(kMostChannels) &&
+  return count <= kMostPieceTaps && tapStep <= size * static_cast<ptrdiff_t>(kMostChannels) &&
          tapStep % size == 0;
 }
 
@@ -166,12 +190,15 @@ bool fitsPieces(int count, ptrdiff_t tapStep, size_t samples) {
 template <typename T, typename Tap>
 void filterFloatTaps(const Tap* taps, int count, SourceRows src, ptrdiff_t tapStep, TargetRows dst,
                      Extent samples) {
-  if constexpr (std::is_integral_v<T>)
-    if (fitsPieces<T>(count, tapStep, samples.length))
+  if constexpr (std::is_integral_v<T>) {
+    if (samples.length >= 8 && fitRowPieces<T>(count, tapStep))
       return walkRows(
           samples.rows,
-          [&](const Byte* s, Byte* d) { filterPieces<T>(taps, count, s, tapStep, d, samples.length); }, src,
-          dst);
+          [&](const Byte* s, Byte* d) { filterRowPieces<T>(taps, count, tapStep, s, d, samples.length); },
+          src, dst);
+    if (samples.length >= 8 && src.step == tapStep && samples.rows > 1 && count <= kMostColumnTaps)
+      return filterColumnPieces<T>(taps, count, src, dst, samples);
+  }
   FloatLine<T, T, Tap>(taps, count, tapStep).run(src, dst, samples);
 }
 
