@@ -26,6 +26,7 @@
 #include "lumi/extremes.h"
 #include "lumi/fft.h"
 #include "lumi/filter_border.h"
+#include "lumi/filter_box.h"
 #include "lumi/filter_fixed.h"
 #include "lumi/filter_gradient_border.h"
 #include "lumi/histogram.h"

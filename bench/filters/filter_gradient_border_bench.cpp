@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "lumi/filter_gradient_border.h"
-
 #include <memory>
 #include <vector>
 
 #include "bench/harness.hpp"
 #include "bench/peers/opencv.hpp"
+#include "lumi/filter_gradient_border.h"
 
 namespace bench {
 namespace {
@@ -18,9 +17,7 @@ Suite::Build whole(Run<S, D> run, LumiMaskSize mask, opencv::Gradient kind) {
   return [=](Scene& scene) {
     const auto src = scene.input<S>(1);
     const auto dst = scene.output<D>(1);
-    constexpr LumiDataType srcType = sizeof(S) == 1   ? lumiData8u
-                                     : sizeof(S) == 2 ? lumiData16s
-                                                      : lumiData32f;
+    constexpr LumiDataType srcType = sizeof(S) == 1 ? lumiData8u : sizeof(S) == 2 ? lumiData16s : lumiData32f;
     constexpr LumiDataType dstType = sizeof(D) == 2 ? lumiData16s : lumiData32f;
     int bytes = 0;
     lumiFilterSobelVertBorderGetBufferSize(src.roi, mask, srcType, dstType, 1, &bytes);
@@ -37,8 +34,7 @@ Suite::Build whole(Run<S, D> run, LumiMaskSize mask, opencv::Gradient kind) {
 
 const Family family("filter_gradient_border", [](Suite& suite) {
   using opencv::Gradient;
-  const auto bytes =
-      whole<Lum8u, Lum16s>(lumiFilterSobelVertBorder_8u16s_C1R, lumiMask3x3, Gradient::sobelX);
+  const auto bytes = whole<Lum8u, Lum16s>(lumiFilterSobelVertBorder_8u16s_C1R, lumiMask3x3, Gradient::sobelX);
   suite.row("sobel border 8u16s 3x3", kUpToHd, bytes);
   suite.row("sobel border 8u16s 3x3 padded", {kCall, kSmall}, bytes, Placement::padded);
   suite.row("sobel border 8u16s 5x5", kUpToHd,

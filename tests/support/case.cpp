@@ -187,6 +187,10 @@ Case makeCase(const Member& member, uint64_t seed, int index) {
     c.srcStep -= c.srcStep % member.sampleBytes;
     c.dstStep -= c.dstStep % sampleBytes(member.types.back());
   }
+  if (member.surroundings && member.floatResults)  // rows that reach into one another hold the same samples
+    for (int* each : {&c.srcStep, &c.dstStep}) *each = *each / member.sampleBytes * member.sampleBytes;
+  if (member.checksSteps && member.surroundings && member.floatResults)
+    for (int* each : {&c.srcStep, &c.dstStep}) *each = std::max(member.sampleBytes, *each);
   if (member.sharesStep) c.src2Step = c.srcStep;
   if (c.srcIsDst) c.srcStep = c.dstStep;
   if (c.src2IsDst) c.src2Step = c.dstStep;

@@ -118,13 +118,21 @@ Stage::Placed Stage::place(std::string role, const Arena& arena, const Placement
 
 // The first pixel of the ROI; what a call reads around it belongs to the image.
 Byte* Stage::placeSource(const Member& member, const Case& c, Call& call, int plane) {
+  if (member.checksRows && member.surroundings) {
+    const auto around = member.surroundings(call);
+    const int pixels = around.left + c.roi.width + around.right;
+    call.srcStep = std::max(c.srcStep, pixels * member.src.pixelBytes);
+  }
+  return placeAround(member, c, call, "source", *src_[plane], c.src[plane], call.srcStep, member.src);
+}
+
+Byte* Stage::placeAround(const Member& member, const Case& c, const Call& call, const char* role,
+                         const Arena& arena, const Placement& where, int step, const Operand& operand) {
   const auto around = member.surroundings ? member.surroundings(call) : Member::Surroundings{};
-  const int before = around.left * member.src.pixelBytes, behind = around.right * member.src.pixelBytes;
-  const int rowBytes = before + member.src.rowBytes(c.roi.width, c.numbers[0]) + behind;
-  if (member.checksRows) call.srcStep = std::max(c.srcStep, rowBytes);
-  placed_.push_back(place("source", *src_[plane], c.src[plane], call.srcStep, rowBytes,
-                          around.top + c.roi.height + around.bottom));
-  return placed_.back().first + static_cast<ptrdiff_t>(around.top) * call.srcStep + before;
+  const int before = around.left * operand.pixelBytes, behind = around.right * operand.pixelBytes;
+  const int rowBytes = before + operand.rowBytes(c.roi.width, c.numbers[0]) + behind;
+  placed_.push_back(place(role, arena, where, step, rowBytes, around.top + c.roi.height + around.bottom));
+  return placed_.back().first + static_cast<ptrdiff_t>(around.top) * step + before;
 }
 
 void Stage::placeImages(const Member& member, const Case& c, Call& call) {
@@ -142,9 +150,13 @@ void Stage::placeImages(const Member& member, const Case& c, Call& call) {
         place(role, arena, where, step, operand.rowBytes(size.width, c.numbers[0]), size.height));
     return placed_.back().first;
   };
+  const bool isSource = member.inPlace || c.srcIsDst;
   for (int p = 0; p < dst.planes; ++p) {
-    call.dst[p] =
-        add("destination", *dst_[p], c.dst[p], c.dstStep, dst) + std::max<ptrdiff_t>(0, -srcFromDst);
+    if (isSource && member.surroundings)
+      call.dst[p] = placeAround(member, c, call, "destination", *dst_[p], c.dst[p], c.dstStep, dst);
+    else
+      call.dst[p] =
+          add("destination", *dst_[p], c.dst[p], c.dstStep, dst) + std::max<ptrdiff_t>(0, -srcFromDst);
     if (c.srcIsDst) call.src[p] = call.dst[p] + srcFromDst;
   }
   if (c.src2IsDst) call.src2 = call.dst[0];

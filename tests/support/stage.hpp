@@ -38,6 +38,8 @@ class Stage {
   Placed place(std::string role, const Arena& arena, const Placement& where, int step, int rowBytes,
                int rows) const;
   Byte* placeSource(const Member& member, const Case& c, Call& call, int plane);
+  Byte* placeAround(const Member& member, const Case& c, const Call& call, const char* role,
+                    const Arena& arena, const Placement& where, int step, const Operand& operand);
   void placeImages(const Member& member, const Case& c, Call& call);
   void placeValues(const Member& member, const Case& c, Call& call, Random& random);
   void nameChoices(const Member& member, const Case& c, Call& call) const;

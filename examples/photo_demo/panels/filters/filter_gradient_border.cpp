@@ -10,7 +10,8 @@
 namespace {
 
 // Gradients of green: 128 where there is none, darker and brighter for the two signs.
-template <LumStatus (*filter)(const Lum8u*, int, Lum16s*, int, LumiSize, LumiMaskSize, LumiBorderType, Lum8u, Lum8u*),
+template <LumStatus (*filter)(const Lum8u*, int, Lum16s*, int, LumiSize, LumiMaskSize, LumiBorderType, Lum8u,
+                              Lum8u*),
           LumStatus (*bufferSize)(LumiSize, LumiMaskSize, LumiDataType, LumiDataType, int, int*)>
 Grey signedGradient(const Colour& photo, const char* name, Calls& calls) {
   const Grey green = split(photo).green;
@@ -30,7 +31,8 @@ Grey signedGradient(const Colour& photo, const char* name, Calls& calls) {
 }
 
 AnyImage scharrAcross(const Colour& photo, Calls& calls) {
-  return signedGradient<lumiFilterScharrVertMaskBorder_8u16s_C1R, lumiFilterScharrVertMaskBorderGetBufferSize>(
+  return signedGradient<lumiFilterScharrVertMaskBorder_8u16s_C1R,
+                        lumiFilterScharrVertMaskBorderGetBufferSize>(
       photo, "lumiFilterScharrVertMaskBorder_8u16s_C1R", calls);
 }
 AnyImage sobelDown(const Colour& photo, Calls& calls) {

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+// Images under windows of any size: the sum of every window, row after row.
+#pragma once
+
+#include "frame/border.hpp"
+#include "frame/rows.hpp"
+#include "kernels/filters/window_means.hpp"
+#include "kernels/filters/window_sums.hpp"
+
+namespace lumi {
+
+// A ROI, the windows of its pixels, and what there is of the pixels that they cover.
+struct WindowImage {
+  SourceRows rows;  // the first one at the ROI's first pixel
+  LumiSize roi;
+  int channels, sampleBytes;
+  LumiSize window;
+  LumiPoint anchor;                 // the pixel's place in its window
+  Margins inMemory{};               // of the pixels around the ROI that windows cover; the others are made up
+  const Byte* constants = nullptr;  // a row of what is made up; null: the nearest pixels
+  bool overwritten = false;         // rows of results are stored over those of the source
+
+  // All that windows cover is there.
+  void takeSurroundings() {
+    inMemory = {anchor.x, anchor.y, window.width - 1 - anchor.x, window.height - 1 - anchor.y};
+  }
+  // What a border's flags name is there.
+  void takeBorder(BorderMode border);
+
+  int64_t covered() const { return (int64_t{roi.width} + window.width - 1) * channels; }
+  int64_t samples() const { return int64_t{roi.width} * channels; }
+  int64_t samplesInMemory() const { return (int64_t{inMemory.left} + roi.width + inMemory.right) * channels; }
+  // Rows that are kept when they are overwritten.
+  int64_t keptBytes() const;
+};
+
+// Rows of the source from the first column that is in memory on, by their numbers in the ROI: those above and
+// below it too, and those that results have been stored over.
+class CoveredRows {
+ public:
+  CoveredRows(const WindowImage& image, Byte* kept);
+
+  const Byte* row(int64_t y) const;
+  // The ROI's part of a row.
+  const Byte* inner(int64_t y) const { return row(y) + image_.inMemory.left * pixel_; }
+  // Before the row of that number is overwritten, after those above it.
+  void keep(int y);
+
+ private:
+  Byte* keptRow(int64_t y) const { return kept_ + y % slots_ * rowBytes_; }
+
+  const WindowImage& image_;
+  ptrdiff_t pixel_, rowBytes_;
+  int64_t above_, below_;  // rows that are there begin and end with these
+  Byte* kept_;
+  int64_t slots_;
+  int next_ = 0;  // rows before this one are overwritten
+};
+
+// Sums of windows of integers.
+class MovingSums {
+ public:
+  static int64_t bytes(const WindowImage& image, size_t sumBytes);
+
+  MovingSums(const SumKernels& kernels, const WindowImage& image, const CoveredRows& rows, Byte* memory);
+
+  // Of the next row of results.
+  const Byte* next();
+
+ private:
+  void advance();
+
+  const SumKernels& kernels_;
+  const WindowImage& image_;
+  const CoveredRows& rows_;
+  Byte *columns_, *sums_;
+  Byte constant_[16];  // a column's sum of a pixel that is made up
+  int64_t y_ = 0;
+};
+
+// Sums of windows of floats. The rows are cut into blocks as high as the window. A window's columns are the
+// end of one block, summed from its last row upward, and the beginning of the next one, summed downward;
+// along a row the sums of 1, 2, 4 columns and so on make up any width.
+template <typename F>
+class BlockSums {
+ public:
+  static int64_t bytes(const WindowImage& image);
+
+  BlockSums(const WindowImage& image, const CoveredRows& rows, Byte* memory);
+
+  const Byte* next();
+
+ private:
+  void makeEnds();
+  void addColumns();
+
+  const WindowImage& image_;
+  const CoveredRows& rows_;
+  size_t inMemory_, rowBytes_;  // samples and bytes of a source row
+  Byte *columns_, *sums_, *beginning_, *ends_;
+  int64_t y_ = 0;
+};
+
+// Fills what is beside the columns that are in memory: with the nearest one, or a constant.
+void completeColumns(const WindowImage& image, size_t sampleBytes, Byte* columns, const Byte* constant);
+
+// Stores a row of results, of pixels whose alpha stays too.
+struct MeanStore {
+  WindowMean mean;
+  size_t sumBytes, sampleBytes;
+  int stored, used;
+
+  void operator()(const Byte* sums, Byte* dst, size_t samples) const;
+};
+
+// Every row of results.
+template <typename Sums>
+void storeMeans(const WindowImage& image, CoveredRows& rows, Sums sums, const MeanStore& store,
+                Rows<Byte> dst) {
+  for (int y = 0; y < image.roi.height; ++y) {
+    const Byte* const row = sums.next();
+    if (image.overwritten) rows.keep(y);
+    store(row, dst.row(y), static_cast<size_t>(image.samples()));
+  }
+}
+
+}  // namespace lumi
