@@ -31,13 +31,13 @@ struct BoxPlan {
 };
 
 // Calls made(sum) with a sum of a type that is exact for the window, or of floats where none is.
-template <typename T, typename Make>
+template <typename T, int64_t exactArea = kExactArea<T>, typename Make>
 BoxPlan planOfSums(LumiSize window, int channels, const Make& make) {
   const int64_t area = areaOf(window);
   const auto plan = [&](auto sum) { return BoxPlan{&sumKernels<T, decltype(sum)>(channels), make(sum)}; };
   if constexpr (sizeof(T) == 1)
     if (area <= kWordArea) return plan(uint16_t());
-  return area <= kExactArea<T> ? plan(uint32_t()) : plan(float());
+  return area <= exactArea ? plan(uint32_t()) : plan(float());
 }
 
 }  // namespace lumi

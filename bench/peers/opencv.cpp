@@ -386,6 +386,28 @@ Peer gradient(View around, View dst, int reach, Gradient kind, int side) {
       cv::Scharr(s, d, d.depth(), across, !across);
     else
       cv::Sobel(s, d, d.depth(), across, !across, side);
+Peer boxFilter(View src, View dst, LumiSize window) {
+  const cv::Mat whole = mat(src);
+  const cv::Size size(dst.roi.width, dst.roi.height);
+  const cv::Mat inner =
+      whole(cv::Rect({(whole.cols - size.width) / 2, (whole.rows - size.height) / 2}, size));
+  return peer("opencv", [inner, d = mat(dst), window]() mutable {
+    cv::boxFilter(inner, d, -1, {window.width, window.height}, {-1, -1}, true, cv::BORDER_REPLICATE);
+  });
+}
+
+Peer adaptiveThreshold(View src, View dst, int side, double delta, bool weighted) {
+  const int method = weighted ? cv::ADAPTIVE_THRESH_GAUSSIAN_C : cv::ADAPTIVE_THRESH_MEAN_C;
+  Peer result = peer("opencv", [=, s = mat(src), d = mat(dst)]() mutable {
+    cv::adaptiveThreshold(s, d, 200, method, cv::THRESH_BINARY, side, delta);
+  });
+  result.differs = "rounds the mean";
+  return result;
+}
+
+Peer resizeNearest(View src, View dst) {
+  return peer("opencv", [s = mat(src), d = mat(dst)]() mutable {
+    cv::resize(s, d, d.size(), 0, 0, cv::INTER_NEAREST);
   });
 }
 

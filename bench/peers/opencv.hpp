@@ -96,6 +96,12 @@ enum class Gradient { sobelX, sobelY, scharrX, scharrY, laplace };
 // kernels of one dimension.
 [[gnu::weak]] Peer filterLines(View whole, LumiPoint at, View dst, std::vector<float> taps, bool isColumn,
                                bool separately);
+// Means of windows, whose centre is the pixel. The source has the pixels around the destination's, or the
+// nearest ones are repeated outside.
+[[gnu::weak]] Peer boxFilter(View src, View dst, LumiSize window);
+// Bytes: 200 where a pixel is above the mean of its square window, or its weighted one, less delta; otherwise
+// 0.
+[[gnu::weak]] Peer adaptiveThreshold(View src, View dst, int side, double delta, bool weighted);
 // To the destination's size.
 [[gnu::weak]] Peer resizeNearest(View src, View dst);
 [[gnu::weak]] Peer resizeLinear(View src, View dst);

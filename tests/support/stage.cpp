@@ -13,7 +13,7 @@ namespace test {
 namespace {
 
 constexpr ptrdiff_t kMargin = 160;         // bytes around an image that are filled anew for each case
-constexpr size_t kLargestBlock = 1 << 18;  // of results and arrays
+constexpr size_t kLargestBlock = 1 << 20;  // of results and arrays
 constexpr size_t kPlacementRoom = 8192;    // what a phase and its line add to an image
 
 // The bytes of an image, relative to its first pixel.
