@@ -70,7 +70,7 @@ const bool added = addModelTests(membersOfOneType(
       m.floatResults = std::is_floating_point_v<T>;
       m.separateRows = true;
       m.mayStream = false;
-      m.rounds = 16;
+      m.rounds = 8;
       m.model = [channels = m.channels](const Call& c) {
         const model::Border border{static_cast<int>(c.number("border")), c.block("borderValue").data};
         model::boxBorder<T>(c.srcImage(), c.dstImage(), c.roi, channels, windowOf(c), border);
