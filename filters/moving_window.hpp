@@ -113,15 +113,21 @@ struct MeanStore {
   void operator()(const Byte* sums, Byte* dst, size_t samples) const;
 };
 
-// Every row of results.
-template <typename Sums>
-void storeMeans(const WindowImage& image, CoveredRows& rows, Sums sums, const MeanStore& store,
-                Rows<Byte> dst) {
+// Calls store(sums, y) for every row of results; rows that it overwrites are kept before.
+template <typename Sums, typename Store>
+void forEachRow(const WindowImage& image, CoveredRows& rows, Sums sums, const Store& store) {
   for (int y = 0; y < image.roi.height; ++y) {
     const Byte* const row = sums.next();
     if (image.overwritten) rows.keep(y);
-    store(row, dst.row(y), static_cast<size_t>(image.samples()));
+    store(row, y);
   }
+}
+
+template <typename Sums>
+void storeMeans(const WindowImage& image, CoveredRows& rows, const Sums& sums, const MeanStore& store,
+                Rows<Byte> dst) {
+  const auto samples = static_cast<size_t>(image.samples());
+  forEachRow(image, rows, sums, [&](const Byte* row, int y) { store(row, dst.row(y), samples); });
 }
 
 }  // namespace lumi

@@ -59,6 +59,7 @@
 #include "lumi/sum_window.h"
 #include "lumi/swap_channels.h"
 #include "lumi/threshold.h"
+#include "lumi/threshold_adaptive.h"
 #include "lumi/transpose.h"
 #include "lumi/unary.h"
 #include "lumi/version.h"

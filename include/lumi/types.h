@@ -112,6 +112,9 @@ enum {
 /** A kernel made ready for lumiFilterBorder, in memory of the caller's. */
 typedef struct LumiFilterBorderSpec LumiFilterBorderSpec;
 
+/** Weights of lumiThresholdAdaptiveGauss, in memory of the caller's. */
+typedef struct LumiThresholdAdaptiveGaussSpec LumiThresholdAdaptiveGaussSpec;
+
 /** 2 asks for the accurate way of an operation that has two; any other value for the fast one. */
 typedef int32_t LumAlgorithmHint;
 

@@ -61,6 +61,19 @@ int separateStep(Random& random, int tight) {
   return random.oneIn(4) ? -step : step;
 }
 
+// The step of the destination, or one that holds what is read beside its rows too.
+int stepOfWhole(const Member& member, const Case& c) {
+  Call call;
+  call.roi = c.roi;
+  for (size_t i = 0; i < member.choices.size(); ++i)
+    call.chosen.push_back({member.choices[i].name, c.chosen[i]});
+  for (size_t i = 0; i < member.blocks.size(); ++i)
+    call.blocks.push_back({member.blocks[i].name, nullptr, c.blocks[i].count, nullptr});
+  const auto around = member.surroundings(call);
+  const int whole = (around.left + c.roi.width + around.right) * member.dst.pixelBytes;
+  return c.dstStep < 0 ? std::min(c.dstStep, -whole) : std::max(c.dstStep, whole);
+}
+
 Placement anyPlacement(Random& random, int phase) {
   switch (random.below(5)) {
     case 0:
@@ -191,6 +204,7 @@ Case makeCase(const Member& member, uint64_t seed, int index) {
     for (int* each : {&c.srcStep, &c.dstStep}) *each = *each / member.sampleBytes * member.sampleBytes;
   if (member.checksSteps && member.surroundings && member.floatResults)
     for (int* each : {&c.srcStep, &c.dstStep}) *each = std::max(member.sampleBytes, *each);
+  if (member.surroundingsApart && (member.inPlace || c.srcIsDst)) c.dstStep = stepOfWhole(member, c);
   if (member.sharesStep) c.src2Step = c.srcStep;
   if (c.srcIsDst) c.srcStep = c.dstStep;
   if (c.src2IsDst) c.src2Step = c.dstStep;

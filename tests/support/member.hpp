@@ -153,6 +153,8 @@ struct Member {
     int left, top, right, bottom;
   };
   std::function<Surroundings(const Call&)> surroundings;
+  bool surroundingsApart =
+      false;                // where rows are overwritten, what is read beside others lies apart from them
   bool transposes = false;  // the destination is as wide as the ROI is high, and as high as it is wide
   std::vector<int> heights = {1, 1, 2, 3, 5};  // kAsWide: those of a square; above 5 beside small widths only
   static constexpr int kAsWide = 0;
