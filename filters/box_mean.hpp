@@ -36,7 +36,10 @@ BoxPlan planOfSums(LumiSize window, int channels, const Make& make) {
   const int64_t area = areaOf(window);
   const auto plan = [&](auto sum) { return BoxPlan{&sumKernels<T, decltype(sum)>(channels), make(sum)}; };
   if constexpr (sizeof(T) == 1)
-    if (area <= kWordArea) return plan(uint16_t());
+    if (area <= kWordArea) {
+      countPath(Path::WindowSumsOfWords);
+      return plan(uint16_t());
+    }
   return area <= exactArea ? plan(uint32_t()) : plan(float());
 }
 

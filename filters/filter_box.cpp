@@ -113,16 +113,15 @@ template <typename T, typename Layout>
 LumStatus storeBox(const WindowImage& image, LumiSize mask, TargetRows dst, int64_t sumBytes,
                    const BoxPlan& plan, const Scratch& scratch) {
   auto* const memory = static_cast<Byte*>(scratch.data());
-  CoveredRows rows(image, memory + sumBytes);
   const auto store = [&](const WindowMean& mean, size_t each) {
     return MeanStore{mean, each, sizeof(T), Layout::kStored, Layout::kUsed};
   };
   if constexpr (std::is_floating_point_v<T>) {
     const T area = static_cast<T>(mask.width) * static_cast<T>(mask.height);
     const T reciprocal = sizeof(T) == 8 ? T{1} / area : static_cast<T>(reciprocalOf(mask));
-    storeMeans(image, rows, BlockSums<T>(image, rows, memory), store(floatMean<T>(reciprocal), sizeof(T)),
-               dst);
+    storeBlockMeans<T>(image, memory, memory + sumBytes, store(floatMean<T>(reciprocal), sizeof(T)), dst);
   } else {
+    CoveredRows rows(image, memory + sumBytes);
     storeMeans(image, rows, MovingSums(*plan.sums, image, rows, memory),
                store(plan.mean, plan.sums->sumBytes), dst);
   }
@@ -138,6 +137,7 @@ LumStatus box(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, Lumi
   image.takeSurroundings();
   if constexpr (sizeof(T) == 1)
     if (isSquare(mask, 3) && !inPlace) {
+      countPath(Path::BoxOfThree);
       constexpr bool four = std::is_same_v<Layout, C4>, one = std::is_same_v<Layout, C1>;
       const WindowFilter& filter = one ? kBox3x3 : four ? kBox3x3Nearest : kBox3x3Colours;
       const Byte* const centre = image.rows.row(1 - anchor.y) + (1 - anchor.x) * kPixelBytes<T, Layout>;

@@ -32,6 +32,29 @@ void WindowImage::takeBorder(BorderMode border) {
   left(inMemory.bottom, lumiBorderInMemoryBottom);
 }
 
+WindowImage WindowImage::strip(int x, int width) const {
+  WindowImage part = *this;
+  part.rows.first += static_cast<ptrdiff_t>(x) * channels * sampleBytes;
+  part.roi.width = width;
+  const auto reach = [](int covered, int64_t there) {
+    return static_cast<int>(std::min<int64_t>(covered, there));
+  };
+  part.inMemory.left = reach(anchor.x, int64_t{inMemory.left} + x);
+  part.inMemory.right = reach(window.width - 1 - anchor.x, int64_t{inMemory.right} + roi.width - x - width);
+  return part;
+}
+
+int stripWidth(const WindowImage& image, size_t sampleBytes) {
+  constexpr int64_t kCached = 1 << 18;
+  const auto pixel = image.channels * static_cast<int64_t>(sampleBytes) * (int64_t{image.window.height} + 3);
+  // Windows that are wide beside their strip would be summed again and again.
+  const int64_t width =
+      std::max<int64_t>(kCached / pixel - image.window.width, 4 * int64_t{image.window.width});
+  if (image.overwritten || width >= image.roi.width) return image.roi.width;
+  countPath(Path::WindowStrips);
+  return static_cast<int>(width);
+}
+
 int64_t WindowImage::keptBytes() const {
   if (!overwritten) return 0;
   return product(std::min<int64_t>(int64_t{anchor.y} + 1, roi.height), samplesInMemory() * sampleBytes);

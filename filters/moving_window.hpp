@@ -2,6 +2,8 @@
 // Images under windows of any size: the sum of every window, row after row.
 #pragma once
 
+#include <algorithm>
+
 #include "frame/border.hpp"
 #include "frame/rows.hpp"
 #include "kernels/filters/window_means.hpp"
@@ -26,6 +28,9 @@ struct WindowImage {
   }
   // What a border's flags name is there.
   void takeBorder(BorderMode border);
+
+  // So many columns from x on; what is beside them is there.
+  WindowImage strip(int x, int width) const;
 
   int64_t covered() const { return (int64_t{roi.width} + window.width - 1) * channels; }
   int64_t samples() const { return int64_t{roi.width} * channels; }
@@ -101,6 +106,9 @@ class BlockSums {
   int64_t y_ = 0;
 };
 
+// Columns that are summed together.
+int stripWidth(const WindowImage& image, size_t sampleBytes);
+
 // Fills what is beside the columns that are in memory: with the nearest one, or a constant.
 void completeColumns(const WindowImage& image, size_t sampleBytes, Byte* columns, const Byte* constant);
 
@@ -128,6 +136,21 @@ void storeMeans(const WindowImage& image, CoveredRows& rows, const Sums& sums, c
                 Rows<Byte> dst) {
   const auto samples = static_cast<size_t>(image.samples());
   forEachRow(image, rows, sums, [&](const Byte* row, int y) { store(row, dst.row(y), samples); });
+}
+
+// Means of floats. Where the ends of blocks would not stay in the cache, the image is done in strips, but not
+// where rows are overwritten: later strips need them.
+template <typename F>
+void storeBlockMeans(const WindowImage& image, Byte* memory, Byte* kept, const MeanStore& store,
+                     Rows<Byte> dst) {
+  const int width = stripWidth(image, sizeof(F));
+  for (int x = 0; x < image.roi.width; x += width) {
+    const WindowImage strip = image.strip(x, std::min(width, image.roi.width - x));
+    CoveredRows rows(strip, kept);
+    const ptrdiff_t before = static_cast<ptrdiff_t>(x) * image.channels * image.sampleBytes;
+    storeMeans(strip, rows, BlockSums<F>(strip, rows, memory), store, {dst.first + before, dst.step});
+    if (width >= image.roi.width - x) return;
+  }
 }
 
 }  // namespace lumi

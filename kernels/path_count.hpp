@@ -28,6 +28,9 @@ enum class Path {
   WidePairs,
   TapWordSums,
   TapRowsShared,
+  BoxOfThree,
+  WindowSumsOfWords,
+  WindowStrips,
 };
 
 }  // namespace lumi

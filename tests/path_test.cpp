@@ -18,6 +18,7 @@
 #include "lumi/copy.h"
 #include "lumi/copy_channels.h"
 #include "lumi/div.h"
+#include "lumi/filter_box.h"
 #include "lumi/lut.h"
 #include "lumi/lut_palette.h"
 #include "lumi/min_max.h"
@@ -477,6 +478,38 @@ TEST(Paths, FiltersDoNarrowStripsByColumns) {
   };
   EXPECT_EQ(strips(6), 2);
   EXPECT_EQ(strips(5), 0);
+}
+
+// Windows of 3 x 3 have a form of their own; sums of up to 257 bytes fit in 16 bits.
+TEST(Paths, BoxesOfFewBytes) {
+  std::vector<Lum8u> src(40 * 40), dst(src.size());
+  const auto box = [&](Path path, LumiSize mask) {
+    return taken(path, [&] {
+      return lumiFilterBox_8u_C1R(src.data(), 40, dst.data(), 40, {20, 4}, mask, {0, 0});
+    });
+  };
+  EXPECT_EQ(box(Path::BoxOfThree, {3, 3}), 1);
+  EXPECT_EQ(box(Path::BoxOfThree, {3, 4}), 0);
+  EXPECT_EQ(box(Path::WindowSumsOfWords, {16, 16}), 1);
+  EXPECT_EQ(box(Path::WindowSumsOfWords, {16, 17}), 0);
+  const auto inPlace = [&](Path path, LumiSize mask) {
+    return taken(path, [&] { return lumiFilterBox_8u_C1IR(src.data(), 40, {20, 4}, mask, {0, 0}); });
+  };
+  EXPECT_EQ(inPlace(Path::BoxOfThree, {3, 3}), 0);
+  EXPECT_EQ(inPlace(Path::WindowSumsOfWords, {3, 3}), 1);
+}
+
+// The blocks of a window of many rows do not fit into the cache.
+TEST(Paths, BoxesOfManyFloatsGoInStrips) {
+  std::vector<Lum32f> src(2000 * 61), dst(2000);
+  const auto strips = [&](int width, int height) {
+    return taken(Path::WindowStrips, [&] {
+      return lumiFilterBox_32f_C1R(src.data(), 8000, dst.data(), 8000, {width, 1}, {9, height}, {0, 0});
+    });
+  };
+  EXPECT_EQ(strips(1900, 60), 1);
+  EXPECT_EQ(strips(1000, 60), 0);
+  EXPECT_EQ(strips(1900, 20), 0);
 }
 
 TEST(Paths, LongRowsOfPackedFloatsGoInWideGroups) {

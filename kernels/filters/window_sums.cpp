@@ -74,13 +74,25 @@ struct Columns {
   }
 };
 
-// The first sum of each channel.
+// The first sum of each channel. As many vectors as a pixel has samples begin with a pixel's first one again.
 template <typename Sum, int channels>
 void firstSums(const Byte* columns, size_t pixels, Sum (&first)[channels]) {
+  const size_t count = pixels * channels;
+  size_t i = 0;
   for (Sum& sum : first) sum = 0;
-  for (size_t x = 0; x < pixels; ++x)
-    for (size_t c = 0; c < channels; ++c)
-      first[c] = static_cast<Sum>(first[c] + at<Sum>(columns, x * channels + c));
+  if constexpr (std::is_integral_v<Sum>) {
+    constexpr size_t lanes = 16 / sizeof(Sum), block = lanes * channels;
+    Samples16<Sum> sums[channels] = {};
+    for (; i + block <= count; i += block)
+      for (size_t k = 0; k < channels; ++k)
+        sums[k] = sums[k] + Samples16<Sum>{load16(columns + (i + k * lanes) * sizeof(Sum))};
+    if (i > 0)
+      for (size_t k = 0; k < block; ++k) {
+        const Sum sum = at<Sum>(reinterpret_cast<const Byte*>(sums), k);
+        first[k % channels] = static_cast<Sum>(first[k % channels] + sum);
+      }
+  }
+  for (; i < count; ++i) first[i % channels] = static_cast<Sum>(first[i % channels] + at<Sum>(columns, i));
 }
 
 template <typename Sum, int channels>

@@ -65,7 +65,7 @@ void describe(Member& m, const std::function<int(const Call&)>& sideOfCall, bool
   m.aliasing = m.inPlace ? Aliasing::None : Aliasing::SameImage;
   m.separateRows = true;
   m.mayStream = false;
-  m.rounds = 24;
+  m.rounds = 12;
   m.model = [=](const Call& c) {
     const int side = sideOfCall(c);
     const model::Adaptive rule{side, static_cast<float>(c.number("delta")),
