@@ -129,7 +129,7 @@ class BorderRun {
     if (border_.isAllInMemory() || border_.type() != lumiBorderConst) return;
     constexpr size_t pixel = kPixelBytes<T, Layout>;
     Byte value[pixel] = {};
-    std::memcpy(value, value_, kUsedBytes<T, Layout>);
+    if (value_) std::memcpy(value, value_, kUsedBytes<T, Layout>);  // black where a caller has none
     const auto pixels = image_.window.height > 1 ? image_.samplesInMemory() / image_.channels : 1;
     for (int64_t x = 0; x < pixels; ++x) std::memcpy(row + static_cast<size_t>(x) * pixel, value, pixel);
     image_.constants = row;
