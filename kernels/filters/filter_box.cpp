@@ -1,72 +1,47 @@
 // SPDX-License-Identifier: MIT
 #include "kernels/filters/filter_box.hpp"
 
-#include "kernels/simd/convert.hpp"
+#include "kernels/filters/fixed_functions.hpp"
 
 namespace lumi {
+namespace simd {
 namespace {
 
-using namespace simd;
-
-// Sums of three rows' sums, of which the last two are kept.
-struct ThreeRows {
-  U16 last{}, lastTwo{}, all{};
-
-  [[gnu::always_inline]] void take(U16 row) {
-    all = lastTwo + row;
-    lastTwo = last + row;
-    last = row;
+// sum * 29128 / 2^18, cut off or to nearest; a factor of 16 bits takes in what its 2^3 leaves.
+struct CutOff {
+  template <size_t bytes>
+  static SamplesOf<int16_t, bytes> of(SamplesOf<int16_t, bytes> sum) {
+    const auto words = as<uint16_t>(sum);
+    return as<int16_t>(multiplyHigh(words, broadcastLike(words, uint16_t{29128 / 4})));
+  }
+};
+struct Nearest {
+  template <size_t bytes>
+  static SamplesOf<int16_t, bytes> of(SamplesOf<int16_t, bytes> sum) {
+    const auto words = as<uint16_t>(sum);
+    const auto fourfold = multiplyHigh(words, broadcastLike(words, uint16_t{29128}));
+    return as<int16_t>(shiftRight<2>(fourfold + broadcastLike(words, uint16_t{2})));
   }
 };
 
-// sum * 29128 / 2^18, whose 2^3 a factor of 16 bits takes in.
-U16 cutOff(U16 sum) { return multiplyHigh(sum, broadcast16(uint16_t{29128 / 4})); }
-U16 nearest(U16 sum) {
-  return shiftRight<2>(multiplyHigh(sum, broadcast16(uint16_t{29128})) + broadcast16(uint16_t{2}));
-}
-
-// Neighbours are bytes side by side: one sum of pairs serves the samples at even and at odd places, which are
-// kept apart.
-struct Box3x3 {
-  using Source = uint8_t;
-  using Result = uint8_t;
-  static constexpr int kRows = 3, kBlock = 16;
-
-  ThreeRows even{}, odd{};
-
-  [[gnu::always_inline]] void take(const WindowRows& rows) {
-    const U16 pairs = as<uint16_t>(multiplyAddPairs(U8{load16(rows(0))}, broadcast16(int8_t{1})));
-    even.take(pairs + (U16{load16(rows(0, -1))} & broadcast16(uint16_t{0xFF})));
-    odd.take(pairs + shiftRight<8>(U16{load16(rows(0, 1))}));
-  }
-  [[gnu::always_inline]] void store(Byte* dst, const WindowRows&) const {
-    store16(dst, (cutOff(even.all) | shiftLeft<8>(cutOff(odd.all))).v);
-  }
-};
-
-template <bool rounded>
-struct Box3x3Colours {
-  using Source = uint8_t;
-  using Result = uint8_t;
-  static constexpr int kRows = 3, kBlock = 16;
-
-  ThreeRows low{}, high{};
-
-  [[gnu::always_inline]] void take(const WindowRows& rows) {
-    const U8 left{load16(rows(0, -1))}, middle{load16(rows(0))}, right{load16(rows(0, 1))};
-    low.take(widenLow(left) + widenLow(middle) + widenLow(right));
-    high.take(widenHigh(left) + widenHigh(middle) + widenHigh(right));
-  }
-  static S16 mean(U16 sum) { return as<int16_t>(rounded ? nearest(sum) : cutOff(sum)); }
-  [[gnu::always_inline]] void store(Byte* dst, const WindowRows&) const {
-    store16(dst, narrowSigned<uint8_t>(mean(low.all), mean(high.all)).v);
+// Neighbours are bytes side by side: one sum of pairs serves the samples at even and at odd places.
+struct AdjacentBox3 {
+  template <typename S>
+  static WordPairSums of(RowWindow<S> x) {
+    const Samples<uint8_t> bytes{loadVector(x.rows(x.row, 0))};
+    const auto pairs = multiplyAddPairs(bytes, broadcastLike(as<int8_t>(bytes), int8_t{1}));
+    return {pairs + x.at(-1).even, pairs + x.at(1).odd};
   }
 };
 
 }  // namespace
+}  // namespace simd
 
-const WindowFilter kBox3x3 = windowFilter<Box3x3>();
-const WindowFilter kBox3x3Colours = windowFilter<Box3x3Colours<false>>();
-const WindowFilter kBox3x3Nearest = windowFilter<Box3x3Colours<true>>();
+const WindowFilter kBox3x3 = simd::windowFilter<
+    simd::Separable<uint8_t, uint8_t, 3, simd::AdjacentBox3, simd::BoxDown3, simd::CutOff>>();
+const WindowFilter kBox3x3Colours =
+    simd::windowFilter<simd::Separable<uint8_t, uint8_t, 3, simd::Box3, simd::BoxDown3, simd::CutOff>>();
+const WindowFilter kBox3x3Nearest =
+    simd::windowFilter<simd::Separable<uint8_t, uint8_t, 3, simd::Box3, simd::BoxDown3, simd::Nearest>>();
 
 }  // namespace lumi
