@@ -10,7 +10,6 @@
 #include "filters/window_walk.hpp"
 #include "frame/check.hpp"
 #include "frame/layout.hpp"
-#include "frame/scratch.hpp"
 #include "kernels/filters/filter_box.hpp"
 
 namespace lumi {
@@ -111,8 +110,7 @@ int64_t coveredBytes(const WindowImage& image) {
 
 template <typename T, typename Layout>
 LumStatus storeBox(const WindowImage& image, LumiSize mask, TargetRows dst, int64_t sumBytes,
-                   const BoxPlan& plan, const Scratch& scratch) {
-  auto* const memory = static_cast<Byte*>(scratch.data());
+                   const BoxPlan& plan, Byte* memory) {
   const auto store = [&](const WindowMean& mean, size_t each) {
     return MeanStore{mean, each, sizeof(T), Layout::kStored, Layout::kUsed};
   };
@@ -156,10 +154,10 @@ LumStatus box(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, Lumi
   else
     sumBytes = BlockSums<T>::bytes(image);
   const int64_t kept = copies ? coveredBytes(image) : image.keptBytes();
-  const Scratch scratch(sumBytes + kept);
+  WindowMemory scratch(sumBytes + kept);
   if (!scratch) return lumStatusNoMemory;
-  if (copies) copyCovered(image, static_cast<Byte*>(scratch.data()) + sumBytes);
-  return storeBox<T, Layout>(image, mask, rows(dst, dstStep), sumBytes, plan, scratch);
+  if (copies) copyCovered(image, scratch.data() + sumBytes);
+  return storeBox<T, Layout>(image, mask, rows(dst, dstStep), sumBytes, plan, scratch.data());
 }
 
 // The mean of a pixel is the pixel.

@@ -109,9 +109,18 @@ MovingSums::MovingSums(const SumKernels& kernels, const WindowImage& image, cons
       columns_(memory),
       sums_(memory + static_cast<size_t>(image.covered()) * kernels.sumBytes) {
   if (!image.constants) return;
-  const auto channels = static_cast<size_t>(image.channels);
-  kernels.set(image.constants, constant_, channels);
-  for (int y = 1; y < image.window.height; ++y) kernels.add(image.constants, constant_, channels);
+  sumRows([&](int) { return image.constants; }, constant_, static_cast<size_t>(image.channels));
+}
+
+// All of a window's rows.
+template <typename RowOf>
+void MovingSums::sumRows(const RowOf& rowOf, Byte* sums, size_t count) const {
+  for (int i = 0; i < image_.window.height; i += kSummedRows) {
+    const Byte* rows[kSummedRows];
+    const int taken = std::min(kSummedRows, image_.window.height - i);
+    for (int k = 0; k < taken; ++k) rows[k] = rowOf(i + k);
+    (i == 0 ? kernels_.set : kernels_.add)(rows, taken, sums, count);
+  }
 }
 
 void MovingSums::advance() {
@@ -119,14 +128,10 @@ void MovingSums::advance() {
   const int64_t first = y_ - image_.anchor.y, last = first + image_.window.height - 1;
   Byte* const columns = columns_ + static_cast<size_t>(image_.anchor.x - image_.inMemory.left) *
                                        static_cast<size_t>(image_.channels) * kernels_.sumBytes;
-  if (image_.window.height == 1) {
-    kernels_.set(rows_.row(first), columns, count);
-  } else if (y_ == 0) {
-    kernels_.set(rows_.row(first), columns, count);
-    for (int64_t y = first + 1; y <= last; ++y) kernels_.add(rows_.row(y), columns, count);
-  } else {
+  if (y_ == 0 || image_.window.height == 1)
+    sumRows([&](int i) { return rows_.row(first + i); }, columns, count);
+  else
     kernels_.replace(rows_.row(last), rows_.row(first - 1), columns, count);
-  }
   completeColumns(image_, kernels_.sumBytes, columns_, image_.constants ? constant_ : nullptr);
 }
 

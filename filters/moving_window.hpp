@@ -6,6 +6,7 @@
 
 #include "frame/border.hpp"
 #include "frame/rows.hpp"
+#include "frame/scratch.hpp"
 #include "kernels/filters/window_means.hpp"
 #include "kernels/filters/window_sums.hpp"
 
@@ -62,6 +63,25 @@ class CoveredRows {
   int next_ = 0;  // rows before this one are overwritten
 };
 
+// Scratch of a call: what small images need is at hand.
+class WindowMemory {
+ public:
+  explicit WindowMemory(int64_t bytes)
+      : block_(bytes <= kFew ? nullptr : allocate(bytes)), isFew_(bytes <= kFew) {}
+  ~WindowMemory() { release(block_); }
+  WindowMemory(const WindowMemory&) = delete;
+  WindowMemory& operator=(const WindowMemory&) = delete;
+
+  explicit operator bool() const { return isFew_ || block_; }
+  Byte* data() { return isFew_ ? few_ : static_cast<Byte*>(block_); }
+
+ private:
+  static constexpr int64_t kFew = 2048;
+  void* const block_;
+  bool isFew_;
+  Byte few_[kFew];
+};
+
 // Sums of windows of integers.
 class MovingSums {
  public:
@@ -74,6 +94,8 @@ class MovingSums {
 
  private:
   void advance();
+  template <typename RowOf>
+  void sumRows(const RowOf& rowOf, Byte* sums, size_t count) const;
 
   const SumKernels& kernels_;
   const WindowImage& image_;

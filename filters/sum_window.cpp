@@ -5,7 +5,6 @@
 #include "filters/box_mean.hpp"
 #include "frame/check.hpp"
 #include "frame/layout.hpp"
-#include "frame/scratch.hpp"
 
 namespace lumi {
 namespace {
@@ -33,12 +32,12 @@ LumStatus sums(const T* src, int srcStep, D* dst, int dstStep, LumiSize roi, Lum
     else
       return floatSum<T, decltype(sum)>();
   });
-  const Scratch scratch(MovingSums::bytes(image, plan.sums->sumBytes));
+  WindowMemory scratch(MovingSums::bytes(image, plan.sums->sumBytes));
   if (!scratch) return lumStatusNoMemory;
   CoveredRows covered(image, nullptr);
   const MeanStore store{plan.mean, plan.sums->sumBytes, sizeof(D), Layout::kStored, Layout::kUsed};
-  storeMeans(image, covered, MovingSums(*plan.sums, image, covered, static_cast<Byte*>(scratch.data())),
-             store, rows(dst, dstStep));
+  storeMeans(image, covered, MovingSums(*plan.sums, image, covered, scratch.data()), store,
+             rows(dst, dstStep));
   return lumStatusOk;
 }
 

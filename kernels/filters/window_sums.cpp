@@ -38,6 +38,24 @@ struct Widened {
   Sum one(size_t i) const { return static_cast<Sum>(at<T>(row, i)); }
 };
 
+// Of one row at least.
+template <typename T, typename Sum>
+struct RowsSum {
+  const Byte* const* rows;
+  int taken;
+
+  auto vector(size_t i) const {
+    auto sum = Widened<T, Sum>{rows[0]}.vector(i);
+    for (int k = 1; k < taken; ++k) sum = sum + Widened<T, Sum>{rows[k]}.vector(i);
+    return sum;
+  }
+  Sum one(size_t i) const {
+    Sum sum = Widened<T, Sum>{rows[0]}.one(i);
+    for (int k = 1; k < taken; ++k) sum = static_cast<Sum>(sum + Widened<T, Sum>{rows[k]}.one(i));
+    return sum;
+  }
+};
+
 // sums(i) = make(operands...) at i: integers by vectors, and what is left, and all floats, one by one.
 template <typename Sum, typename Make, typename... Operand>
 [[gnu::always_inline]] inline void forEachSum(Byte* sums, size_t count, const Make& make,
@@ -59,13 +77,14 @@ template <typename T, typename Sum>
 struct Columns {
   using Row = Widened<T, Sum>;
 
-  static void set(const Byte* row, Byte* columns, size_t count) {
+  static void set(const Byte* const* rows, int taken, Byte* columns, size_t count) {
     forEachSum<Sum>(
-        columns, count, [](auto sample) { return sample; }, Row{row});
+        columns, count, [](auto sample) { return sample; }, RowsSum<T, Sum>{rows, taken});
   }
-  static void add(const Byte* row, Byte* columns, size_t count) {
+  static void add(const Byte* const* rows, int taken, Byte* columns, size_t count) {
     forEachSum<Sum>(
-        columns, count, [](auto sum, auto sample) { return sum + sample; }, Sums<Sum>{columns}, Row{row});
+        columns, count, [](auto sum, auto samples) { return sum + samples; }, Sums<Sum>{columns},
+        RowsSum<T, Sum>{rows, taken});
   }
   static void replace(const Byte* entering, const Byte* leaving, Byte* columns, size_t count) {
     forEachSum<Sum>(

@@ -10,12 +10,15 @@
 
 namespace lumi {
 
+// The most rows that are added at a time.
+inline constexpr int kSummedRows = 8;
+
 // Arrays of sums may lie at any address. Counts are samples.
 struct SumKernels {
   size_t sumBytes;
-  // Sums of one row; a row more; a row that replaces another.
-  void (*set)(const uint8_t* row, uint8_t* columns, size_t count);
-  void (*add)(const uint8_t* row, uint8_t* columns, size_t count);
+  // Sums of so many rows, without or with what is there already; a row that replaces another.
+  void (*set)(const uint8_t* const* rows, int taken, uint8_t* columns, size_t count);
+  void (*add)(const uint8_t* const* rows, int taken, uint8_t* columns, size_t count);
   void (*replace)(const uint8_t* entering, const uint8_t* leaving, uint8_t* columns, size_t count);
   // Sums of `pixels` columns each, of whole vectors: up to 16 bytes and a pixel of columns behind the last
   // one are read, and up to 12 bytes behind the last sum are written.
