@@ -31,6 +31,7 @@
 #include "lumi/filter_fixed.h"
 #include "lumi/filter_gradient_border.h"
 #include "lumi/histogram.h"
+#include "lumi/hog.h"
 #include "lumi/image_memory.h"
 #include "lumi/logic.h"
 #include "lumi/lut.h"

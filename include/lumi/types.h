@@ -114,6 +114,21 @@ typedef struct LumiFilterBorderSpec LumiFilterBorderSpec;
 
 /** Weights of lumiThresholdAdaptiveGauss, in memory of the caller's. */
 typedef struct LumiThresholdAdaptiveGaussSpec LumiThresholdAdaptiveGaussSpec;
+/** Histograms of oriented gradients: how lumiHOG divides a window, and counts. */
+typedef struct {
+  Lum32s blockOrder;   /**< 0: blocks of a descriptor row after row; otherwise column after column */
+  Lum32s cellSize;     /**< side of a cell in pixels, 2 to 16 */
+  Lum32s blockSize;    /**< side of a block in pixels: twice that of a cell */
+  Lum32s blockStride;  /**< from one block to the next in pixels, a positive multiple of cellSize */
+  Lum32s binCount;     /**< bins of a half turn, 2 to 16 */
+  Lum32f sigma;        /**< of the Gaussian weights of a block's pixels, above 0 */
+  Lum32f clipping;     /**< limit of a normalised value, above 0 */
+  Lum32s windowWidth;  /**< at least blockSize, and larger by a multiple of blockStride */
+  Lum32s windowHeight; /**< the same */
+} LumiHOGConfig;
+
+/** A configuration made ready for lumiHOG, in memory of the caller's. */
+typedef struct LumiHOGSpec LumiHOGSpec;
 
 /** 2 asks for the accurate way of an operation that has two; any other value for the fast one. */
 typedef int32_t LumAlgorithmHint;

@@ -32,6 +32,14 @@ Floats loadFloats(const Byte* p) {
     return loadFloats4(p);
 }
 
+// The same float in all lanes.
+template <typename Floats>
+Floats broadcastFrom(const Byte* p) {
+  float x;
+  std::memcpy(&x, p, sizeof x);
+  return broadcastFloat<Floats>(x);
+}
+
 // Truncated; INT_MIN for what is beyond, and for what is not a number.
 inline int truncated(float x) { return _mm_cvttss_si32(_mm_set_ss(x)); }
 

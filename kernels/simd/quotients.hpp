@@ -43,9 +43,11 @@ V broadcastReal(double x) {
     return broadcastFloat<V>(static_cast<float>(x));
 }
 
-// Whole numbers, which stay floats: by the rounding control, to nearest with ties to even, toward zero.
+// Whole numbers, which stay floats: by the rounding control, to nearest with ties to even, toward zero,
+// toward minus infinity.
 inline constexpr int kAsControlled = _MM_FROUND_CUR_DIRECTION | _MM_FROUND_NO_EXC,
-                     kTowardZero = _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC;
+                     kTowardZero = _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC,
+                     kDownward = _MM_FROUND_TO_NEG_INF | _MM_FROUND_NO_EXC;
 template <int how>
 Floats4 whole(Floats4 x) {
   return {_mm_round_ps(x.v, how)};

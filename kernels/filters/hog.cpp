@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: MIT
+#include "kernels/filters/hog.hpp"
+
+#include <cstring>
+
+#include "kernels/simd/filter.hpp"
+#include "kernels/simd/lanes.hpp"
+#include "kernels/simd/quotients.hpp"
+
+namespace lumi {
+namespace {
+
+using namespace simd;
+
+constexpr int kBinBytes = 16;  // of four cells
+constexpr int kMostBins = 16;
+
+struct Gradient {
+  Floats8 x, y;
+
+  Floats8 square() const { return x * x + y * y; }
+};
+
+Gradient ifThenElse(Floats8 mask, const Gradient& yes, const Gradient& no) {
+  return {simd::ifThenElse(mask, yes.x, no.x), simd::ifThenElse(mask, yes.y, no.y)};
+}
+
+struct Votes {
+  Ints8 bins;
+  Floats8 low, high;
+};
+
+class Voting {
+ public:
+  explicit Voting(int binCount)
+      : count_(broadcastFloat<Floats8>(static_cast<float>(binCount))),
+        last_(broadcastFloat<Floats8>(static_cast<float>(binCount - 1))),
+        perRadian_(broadcastFloat<Floats8>(static_cast<float>(binCount / 3.14159265358979324))) {}
+
+  [[gnu::always_inline]] Votes operator()(const Gradient& g) const {
+    const Floats8 zero = broadcastFloat<Floats8>(0), one = broadcastFloat<Floats8>(1);
+    const Floats8 b = angle(g) * perRadian_ - broadcastFloat<Floats8>(0.5F);
+    const Floats8 k = whole<kDownward>(b), rest = b - k;
+    const Floats8 magnitude = squareRoot(g.square());
+    // From -1 to 2 * count - 1; limits are for what is no number.
+    Floats8 low = ifThenElse(isBelow(k, zero), k + count_, k);
+    low = ifThenElse(isAtLeast(low, count_), low - count_, low);
+    low = min(max(low, zero), last_);
+    const Floats8 high = andNot(isEqual(low, last_), low + one);
+    const Floats8 both = low * broadcastFloat<Floats8>(kBinBytes) +
+                         high * broadcastFloat<Floats8>(kBinBytes * 65536.0F);  // exact: below 2^24
+    return {truncated(both), magnitude * (one - rest), magnitude * rest};
+  }
+
+ private:
+  [[gnu::always_inline]] static Floats8 angle(const Gradient& g) {
+    const Floats8 zero = broadcastFloat<Floats8>(0), epsilon = broadcastFloat<Floats8>(2.220446e-16F);
+    const Floats8 factor = broadcastFloat<Floats8>(0.28F), sign = broadcastFloat<Floats8>(-0.0F);
+    const Floats8 xx = g.x * g.x, yy = g.y * g.y;
+    const Floats8 isFlat = isAtLeast(xx, yy), isUp = isAtLeast(g.y, zero);
+    const Floats8 divisor = ifThenElse(isFlat, (epsilon + xx) + factor * yy, (epsilon + factor * xx) + yy);
+    const Floats8 quotient = (g.x * g.y) / divisor;
+    const Floats8 flat = ifThenElse(isBelow(g.x, zero), broadcastFloat<Floats8>(3.14159265F),
+                                    andNot(isUp, broadcastFloat<Floats8>(6.28318531F)));
+    const Floats8 steep =
+        ifThenElse(isUp, broadcastFloat<Floats8>(1.57079633F), broadcastFloat<Floats8>(4.71238898F));
+    return (quotient ^ andNot(isFlat, sign)) + ifThenElse(isFlat, flat, steep);
+  }
+
+  Floats8 count_, last_, perRadian_;
+};
+
+template <int channels>
+[[gnu::always_inline]] inline Gradient gradientAt(const HogStrip& strip, size_t i) {
+  const auto of = [&](int c) {
+    const ptrdiff_t at = c * strip.channel + static_cast<ptrdiff_t>(i);
+    return Gradient{loadLanes<Floats8>(strip.centre + at + 1) - loadLanes<Floats8>(strip.centre + at - 1),
+                    loadLanes<Floats8>(strip.below + at) - loadLanes<Floats8>(strip.above + at)};
+  };
+  const Gradient first = of(0);
+  if constexpr (channels == 1) return first;
+  const Gradient second = of(1), third = of(2);
+  const Gradient two = ifThenElse(isAtLeast(second.square(), first.square()), second, first);
+  return ifThenElse(isAbove(third.square(), two.square()), third, two);
+}
+
+void store(const HogPlanes& at, const Votes& votes) {
+  store32(at.bins, votes.bins.v);
+  storeFloats(at.bins + at.plane, votes.low);
+  storeFloats(at.bins + 2 * at.plane, votes.high);
+}
+
+// Two blocks at once: additions to one histogram wait for one another where neighbours count in one bin.
+constexpr size_t kTogether = 2;
+
+struct alignas(32) Histogram {
+  uint8_t bytes[kMostBins * kBinBytes];
+};
+
+template <size_t blocks>
+void addUp(const HogGrid& grid, const HogPlanes (&votes)[blocks], Histogram* histograms) {
+  for (size_t i = 0; i < blocks; ++i)
+    std::memset(histograms[i].bytes, 0, static_cast<size_t>(grid.binCount) * kBinBytes);
+  const uint8_t* weights = grid.weights;
+  const ptrdiff_t plane = votes[0].plane;
+  const uint8_t* rows[blocks];
+  for (size_t i = 0; i < blocks; ++i) rows[i] = votes[i].bins;
+  for (int y = 0; y < grid.blockSize; ++y) {
+    for (ptrdiff_t x = 0; x < 4 * grid.blockSize; x += 4) {
+      const Floats4 weight = loadFloats4(weights);
+      weights += kBinBytes;
+      for (size_t i = 0; i < blocks; ++i) {
+        const uint8_t* const at = rows[i] + x;
+        uint32_t bins;
+        std::memcpy(&bins, at, sizeof bins);
+        uint8_t* const low = histograms[i].bytes + (bins & 0xFFFF);
+        uint8_t* const high = histograms[i].bytes + (bins >> 16);
+        const Floats4 inLow = loadFloats4(low) + broadcastFrom<Floats4>(at + plane) * weight;
+        const Floats4 inHigh = loadFloats4(high) + broadcastFrom<Floats4>(at + 2 * plane) * weight;
+        storeFloats(low, inLow);
+        storeFloats(high, inHigh);
+      }
+    }
+    for (size_t i = 0; i < blocks; ++i) rows[i] += votes[i].row;
+  }
+}
+
+// 1 / sqrt(s + a little) in all lanes, of the sum of all lanes.
+Floats4 scaleOf(Floats4 sums) {
+  float of[4];
+  std::memcpy(of, &sums, sizeof of);
+  const float sum = ((of[0] + of[1]) + of[2]) + of[3];
+  return broadcastFloat<Floats4>(1) / squareRoot(broadcastFloat<Floats4>(sum + 1.1920929e-7F));
+}
+
+void storeNormalised(const HogGrid& grid, Histogram& histogram, uint8_t* dst) {
+  const auto at = [&](int bin) { return histogram.bytes + bin * kBinBytes; };
+  Floats4 sum = broadcastFloat<Floats4>(0), limitedSum = sum;
+  for (int bin = 0; bin < grid.binCount; ++bin) {
+    const Floats4 h = loadFloats4(at(bin));
+    sum = sum + h * h;
+  }
+  const Floats4 scale = scaleOf(sum), clipping = broadcastFloat<Floats4>(grid.clipping);
+  for (int bin = 0; bin < grid.binCount; ++bin) {
+    const Floats4 h = min(loadFloats4(at(bin)) * scale, clipping);
+    storeFloats(at(bin), h);
+    limitedSum = limitedSum + h * h;
+  }
+  const Floats4 last = scaleOf(limitedSum);
+  const ptrdiff_t cellBytes = 4 * grid.binCount;
+  for (int bin = 0; bin < grid.binCount; bin += 4) {
+    // Four bins of all cells, stepping back at the end, become bins of each cell.
+    const int first = bin + 4 <= grid.binCount || grid.binCount < 4 ? bin : grid.binCount - 4;
+    const auto scaled = [&](int i) { return bytesOf(loadFloats4(at(first + i)) * last); };
+    const Dwords4x4 cells = transpose(Dwords4x4{scaled(0), scaled(1), scaled(2), scaled(3)});
+    for (size_t c = 0; c < 4; ++c) {
+      uint8_t* const to = dst + static_cast<ptrdiff_t>(c) * cellBytes + 4 * first;
+      if (grid.binCount >= 4)
+        store16(to, cells.row[c]);
+      else
+        std::memcpy(to, &cells.row[c], static_cast<size_t>(cellBytes));
+    }
+  }
+}
+
+}  // namespace
+
+double exponentialOfNegative(double x) {
+  if (!(x > -700)) return 0;
+  // ln 2 in two parts: the first has so few bits that its products are exact.
+  const double turns = static_cast<double>(static_cast<int>(x * 1.4426950408889634 - 0.5));
+  const double r = (x - turns * 0.693147180369123816490) - turns * 1.90821492927058770002e-10;
+  double sum = 1;  // of the series up to r^14 / 14!: 0.35^15 / 15! is below 2^-61
+  for (int n = 14; n > 0; --n) sum = 1 + r * sum / n;
+  return sum * powerOfTwo(static_cast<int>(turns));
+}
+
+template <int channels>
+void hogVotes(const HogStrip& strip, int binCount, const HogPlanes& votes, size_t pixels) {
+  const Voting voting(binCount);
+  size_t i = 0;
+  for (; i + 8 <= pixels; i += 8)
+    store(votes.at(static_cast<ptrdiff_t>(i), 0), voting(gradientAt<channels>(strip, i)));
+  if (i == pixels) return;
+  alignas(32) uint8_t rest[96];
+  store({rest, 0, 32}, voting(gradientAt<channels>(strip, i)));
+  const HogPlanes last = votes.at(static_cast<ptrdiff_t>(i), 0);
+  for (ptrdiff_t plane = 0; plane < 3; ++plane)
+    std::memcpy(last.bins + plane * last.plane, rest + 32 * plane, 4 * (pixels - i));
+}
+
+template void hogVotes<1>(const HogStrip&, int, const HogPlanes&, size_t);
+template void hogVotes<3>(const HogStrip&, int, const HogPlanes&, size_t);
+
+void hogDescriptor(const HogGrid& grid, const HogPlanes& votes, uint8_t* dst) {
+  Histogram histograms[kTogether] = {};
+  const size_t blockBytes = static_cast<size_t>(grid.binCount) * kBinBytes;
+  const int outer = grid.byColumns ? grid.across : grid.down,
+            inner = grid.byColumns ? grid.down : grid.across;
+  // Places of the blocks, one after the other.
+  ptrdiff_t column = 0, row = 0;
+  const auto nextBlock = [&] {
+    const HogPlanes at = grid.byColumns ? votes.at(row * grid.stride, column * grid.stride)
+                                        : votes.at(column * grid.stride, row * grid.stride);
+    if (++column == inner) column = 0, ++row;
+    return at;
+  };
+  size_t left = static_cast<size_t>(outer) * static_cast<size_t>(inner);
+  for (; left >= kTogether; left -= kTogether) {
+    HogPlanes together[kTogether];
+    for (HogPlanes& block : together) block = nextBlock();
+    addUp(grid, together, histograms);
+    for (Histogram& histogram : histograms) storeNormalised(grid, histogram, dst), dst += blockBytes;
+  }
+  for (; left > 0; --left) {
+    const HogPlanes one[] = {nextBlock()};
+    addUp(grid, one, histograms);
+    storeNormalised(grid, histograms[0], dst);
+    dst += blockBytes;
+  }
+}
+
+}  // namespace lumi

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+// Histograms of oriented gradients: what each pixel counts, and descriptors of windows.
+#pragma once
+
+#include "kernels/rows.hpp"
+
+namespace lumi {
+
+// exp(x) for x <= 0, with an error below 2 units of the last place; 0 below -700.
+double exponentialOfNegative(double x);
+
+// Rows of floats of a strip of an image, at its first pixel; channels lie so many floats apart. The middle
+// row has a pixel before the strip and one behind it. Up to 8 floats behind a row may be read.
+struct HogStrip {
+  const float *above, *centre, *below;
+  ptrdiff_t channel;
+};
+
+// Three planes of four bytes a pixel, of any alignment: two bins of 16 bits, times the bytes of a bin's four
+// cells, the votes for the first of them and those for the second.
+struct HogPlanes {
+  uint8_t* bins;
+  ptrdiff_t row, plane;  // bytes to the next
+
+  HogPlanes at(ptrdiff_t x, ptrdiff_t y) const { return {bins + y * row + 4 * x, row, plane}; }
+};
+
+// One row of a strip. Bins are in range, whatever the samples are.
+template <int channels>
+void hogVotes(const HogStrip& strip, int binCount, const HogPlanes& votes, size_t pixels);
+
+// How windows are divided. Weights are four floats for each pixel of a block, of any alignment.
+struct HogGrid {
+  int blockSize, stride, across, down;
+  bool byColumns;
+  int binCount;
+  float clipping;
+  const uint8_t* weights;
+
+  size_t blocks() const { return static_cast<size_t>(across) * static_cast<size_t>(down); }
+  size_t bytes() const { return blocks() * 16 * static_cast<size_t>(binCount); }
+};
+
+// The descriptor of the window that begins at `votes`.
+void hogDescriptor(const HogGrid& grid, const HogPlanes& votes, uint8_t* dst);
+
+}  // namespace lumi
