@@ -92,7 +92,7 @@ class HogImage {
 
 // Every row is converted once for each strip, and three of them are kept.
 template <typename T, typename Layout>
-void countVotes(const HogImage<T, Layout>& image, LumiSize size, int binCount, const HogPlanes& votes) {
+void countVotes(const HogImage<T, Layout>& image, LumiSize size, int binCount, const HogVotes& votes) {
   constexpr int channels = Layout::kStored;
   alignas(32) float kept[3][channels][kRow] = {};
   const auto row = [&](int y) { return kept[(y + 1) % 3][0] + kBefore; };
@@ -112,7 +112,7 @@ int cutToGrid(int side, const HogGrid& grid) {
   return (side - grid.blockSize) / grid.stride * grid.stride + grid.blockSize;
 }
 
-void describe(const HogGrid& grid, const HogPlanes& votes, LumiSize size, const LumiPoint* locations,
+void describe(const HogGrid& grid, const HogVotes& votes, LumiSize size, const LumiPoint* locations,
               int count, Byte* to) {
   const int lastX = size.width - ((grid.across - 1) * grid.stride + grid.blockSize);
   const int lastY = size.height - ((grid.down - 1) * grid.stride + grid.blockSize);
@@ -120,7 +120,7 @@ void describe(const HogGrid& grid, const HogPlanes& votes, LumiSize size, const 
     LumiPoint at{0, 0};
     if (locations) std::memcpy(&at, static_cast<const void*>(locations + i), sizeof at);
     if (at.x < 0 || at.y < 0 || at.x > lastX || at.y > lastY) continue;
-    hogDescriptor(grid, votes.at(at.x, at.y), to);
+    hogDescriptor(grid, {votes.at(at.x, at.y), votes.row}, to);
     to += grid.bytes();
   }
 }
@@ -159,8 +159,7 @@ LumStatus hog(const T* src, int srcStep, LumiSize roi, const LumiPoint* location
     std::memcpy(value, static_cast<const void*>(borderValue), sizeof value);
   else
     value[0] = borderValue;
-  const ptrdiff_t row = 4 * static_cast<ptrdiff_t>(size.width);
-  const HogPlanes votes{buffer, row, row * size.height};
+  const HogVotes votes{buffer, 12 * static_cast<ptrdiff_t>(size.width)};
   const HogImage<T, Layout> image(rows(src, srcStep), size, border, value);
   countVotes(image, size, grid.binCount, votes);
   describe(grid, votes, size, locations, locationCount, reinterpret_cast<Byte*>(descriptors));

@@ -84,44 +84,47 @@ template <int channels>
   return ifThenElse(isAbove(third.square(), two.square()), third, two);
 }
 
-void store(const HogPlanes& at, const Votes& votes) {
-  store32(at.bins, votes.bins.v);
-  storeFloats(at.bins + at.plane, votes.low);
-  storeFloats(at.bins + 2 * at.plane, votes.high);
+// Eight pixels: bins and both votes of each side by side.
+void store(uint8_t* at, const Votes& votes) {
+  const Bytes32 bins = permuteDwords<0, 3, 2, 1>(votes.bins.v);
+  const Bytes32 low = permuteDwords<1, 0, 3, 2>(bytesOf(votes.low));
+  const Bytes32 high = permuteDwords<2, 1, 0, 3>(bytesOf(votes.high));
+  const auto thirds = [](Bytes32 outer, Bytes32 second, Bytes32 third) {
+    return blendDwords<0b01000100>(blendDwords<0b00100010>(outer, second), third);
+  };
+  storeThirds<Cached>(at, thirds(bins, low, high), thirds(low, high, bins), thirds(high, bins, low));
 }
 
-// Two blocks at once: additions to one histogram wait for one another where neighbours count in one bin.
-constexpr size_t kTogether = 2;
+// Several blocks at once: additions to one histogram wait for one another where neighbours count in one bin.
+constexpr size_t kTogether = 4;
 
 struct alignas(32) Histogram {
   uint8_t bytes[kMostBins * kBinBytes];
 };
 
 template <size_t blocks>
-void addUp(const HogGrid& grid, const HogPlanes (&votes)[blocks], Histogram* histograms) {
+[[gnu::always_inline]] inline void addUp(const HogGrid& grid, ptrdiff_t rowBytes, const uint8_t** rows,
+                                         Histogram* histograms) {
   for (size_t i = 0; i < blocks; ++i)
     std::memset(histograms[i].bytes, 0, static_cast<size_t>(grid.binCount) * kBinBytes);
   const uint8_t* weights = grid.weights;
-  const ptrdiff_t plane = votes[0].plane;
-  const uint8_t* rows[blocks];
-  for (size_t i = 0; i < blocks; ++i) rows[i] = votes[i].bins;
   for (int y = 0; y < grid.blockSize; ++y) {
-    for (ptrdiff_t x = 0; x < 4 * grid.blockSize; x += 4) {
+    const uint8_t* at[blocks];
+    for (size_t i = 0; i < blocks; ++i) at[i] = rows[i] + y * rowBytes;
+    for (ptrdiff_t x = 0; x < 12 * grid.blockSize; x += 12, weights += kBinBytes) {
       const Floats4 weight = loadFloats4(weights);
-      weights += kBinBytes;
       for (size_t i = 0; i < blocks; ++i) {
-        const uint8_t* const at = rows[i] + x;
+        const uint8_t* const pixel = at[i] + x;
         uint32_t bins;
-        std::memcpy(&bins, at, sizeof bins);
+        std::memcpy(&bins, pixel, sizeof bins);
         uint8_t* const low = histograms[i].bytes + (bins & 0xFFFF);
         uint8_t* const high = histograms[i].bytes + (bins >> 16);
-        const Floats4 inLow = loadFloats4(low) + broadcastFrom<Floats4>(at + plane) * weight;
-        const Floats4 inHigh = loadFloats4(high) + broadcastFrom<Floats4>(at + 2 * plane) * weight;
+        const Floats4 inLow = loadFloats4(low) + broadcastFrom<Floats4>(pixel + 4) * weight;
+        const Floats4 inHigh = loadFloats4(high) + broadcastFrom<Floats4>(pixel + 8) * weight;
         storeFloats(low, inLow);
         storeFloats(high, inHigh);
       }
     }
-    for (size_t i = 0; i < blocks; ++i) rows[i] += votes[i].row;
   }
 }
 
@@ -176,48 +179,42 @@ double exponentialOfNegative(double x) {
 }
 
 template <int channels>
-void hogVotes(const HogStrip& strip, int binCount, const HogPlanes& votes, size_t pixels) {
+void hogVotes(const HogStrip& strip, int binCount, uint8_t* votes, size_t pixels) {
   const Voting voting(binCount);
   size_t i = 0;
-  for (; i + 8 <= pixels; i += 8)
-    store(votes.at(static_cast<ptrdiff_t>(i), 0), voting(gradientAt<channels>(strip, i)));
+  for (; i + 8 <= pixels; i += 8) store(votes + 12 * i, voting(gradientAt<channels>(strip, i)));
   if (i == pixels) return;
-  alignas(32) uint8_t rest[96];
-  store({rest, 0, 32}, voting(gradientAt<channels>(strip, i)));
-  const HogPlanes last = votes.at(static_cast<ptrdiff_t>(i), 0);
-  for (ptrdiff_t plane = 0; plane < 3; ++plane)
-    std::memcpy(last.bins + plane * last.plane, rest + 32 * plane, 4 * (pixels - i));
+  uint8_t rest[96];
+  store(rest, voting(gradientAt<channels>(strip, i)));
+  std::memcpy(votes + 12 * i, rest, 12 * (pixels - i));
 }
 
-template void hogVotes<1>(const HogStrip&, int, const HogPlanes&, size_t);
-template void hogVotes<3>(const HogStrip&, int, const HogPlanes&, size_t);
+template void hogVotes<1>(const HogStrip&, int, uint8_t*, size_t);
+template void hogVotes<3>(const HogStrip&, int, uint8_t*, size_t);
 
-void hogDescriptor(const HogGrid& grid, const HogPlanes& votes, uint8_t* dst) {
+void hogDescriptor(const HogGrid& grid, const HogVotes& votes, uint8_t* dst) {
   Histogram histograms[kTogether] = {};
-  const size_t blockBytes = static_cast<size_t>(grid.binCount) * kBinBytes;
-  const int outer = grid.byColumns ? grid.across : grid.down,
-            inner = grid.byColumns ? grid.down : grid.across;
-  // Places of the blocks, one after the other.
+  const int inner = grid.byColumns ? grid.down : grid.across;
   ptrdiff_t column = 0, row = 0;
-  const auto nextBlock = [&] {
-    const HogPlanes at = grid.byColumns ? votes.at(row * grid.stride, column * grid.stride)
-                                        : votes.at(column * grid.stride, row * grid.stride);
+  const auto nextBlock = [&]() -> const uint8_t* {
+    const ptrdiff_t x = grid.stride * (grid.byColumns ? row : column);
+    const ptrdiff_t y = grid.stride * (grid.byColumns ? column : row);
     if (++column == inner) column = 0, ++row;
-    return at;
+    return votes.at(x, y);
   };
-  size_t left = static_cast<size_t>(outer) * static_cast<size_t>(inner);
-  for (; left >= kTogether; left -= kTogether) {
-    HogPlanes together[kTogether];
-    for (HogPlanes& block : together) block = nextBlock();
-    addUp(grid, together, histograms);
-    for (Histogram& histogram : histograms) storeNormalised(grid, histogram, dst), dst += blockBytes;
-  }
-  for (; left > 0; --left) {
-    const HogPlanes one[] = {nextBlock()};
-    addUp(grid, one, histograms);
-    storeNormalised(grid, histograms[0], dst);
-    dst += blockBytes;
-  }
+  size_t left = grid.blocks();
+  const auto describe = [&](auto count) {
+    constexpr size_t blocks = decltype(count)::value;
+    const uint8_t* at[blocks];
+    for (const uint8_t*& block : at) block = nextBlock();
+    addUp<blocks>(grid, votes.row, at, histograms);
+    for (size_t i = 0; i < blocks; ++i, dst += kBinBytes * grid.binCount)
+      storeNormalised(grid, histograms[i], dst);
+    left -= blocks;
+  };
+  while (left >= kTogether) describe(std::integral_constant<size_t, kTogether>());
+  if (left >= 2) describe(std::integral_constant<size_t, 2>());
+  if (left == 1) describe(std::integral_constant<size_t, 1>());
 }
 
 }  // namespace lumi

@@ -16,18 +16,18 @@ struct HogStrip {
   ptrdiff_t channel;
 };
 
-// Three planes of four bytes a pixel, of any alignment: two bins of 16 bits, times the bytes of a bin's four
-// cells, the votes for the first of them and those for the second.
-struct HogPlanes {
-  uint8_t* bins;
-  ptrdiff_t row, plane;  // bytes to the next
+// What pixels count: twelve bytes each, of any alignment. Two bins of 16 bits, times the bytes of a bin's
+// four cells, and the votes for the first of them and for the second.
+struct HogVotes {
+  uint8_t* first;
+  ptrdiff_t row;  // bytes to the next
 
-  HogPlanes at(ptrdiff_t x, ptrdiff_t y) const { return {bins + y * row + 4 * x, row, plane}; }
+  uint8_t* at(ptrdiff_t x, ptrdiff_t y) const { return first + y * row + 12 * x; }
 };
 
 // One row of a strip. Bins are in range, whatever the samples are.
 template <int channels>
-void hogVotes(const HogStrip& strip, int binCount, const HogPlanes& votes, size_t pixels);
+void hogVotes(const HogStrip& strip, int binCount, uint8_t* votes, size_t pixels);
 
 // How windows are divided. Weights are four floats for each pixel of a block, of any alignment.
 struct HogGrid {
@@ -41,7 +41,7 @@ struct HogGrid {
   size_t bytes() const { return blocks() * 16 * static_cast<size_t>(binCount); }
 };
 
-// The descriptor of the window that begins at `votes`.
-void hogDescriptor(const HogGrid& grid, const HogPlanes& votes, uint8_t* dst);
+// The descriptor of the window whose first pixel is that of the votes.
+void hogDescriptor(const HogGrid& grid, const HogVotes& votes, uint8_t* dst);
 
 }  // namespace lumi
