@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <type_traits>
 #include <vector>
 
 #include "bench/harness.hpp"
@@ -82,8 +83,11 @@ Peer loopHog(Image<T> src, Image<Lum32f> dst, std::shared_ptr<Work> work) {
 }
 
 // One window as large as the image, blocks every `stride` pixels.
-template <typename T, typename Run>
-Suite::Build windows(Run run, int channels, int stride) {
+template <typename T, typename Value>
+Suite::Build windows(LumStatus (*run)(const T*, int, LumiSize, const LumiPoint*, int, Lum32f*,
+                                      const LumiHOGSpec*, LumiBorderType, Value, Lum8u*),
+                     int stride) {
+  constexpr int channels = std::is_pointer_v<Value> ? 3 : 1;
   return [=](Scene& s) {
     const LumiSize roi = s.roi();
     const auto grid = [&](int side) { return (side - 16) / stride * stride + 16; };
@@ -91,7 +95,10 @@ Suite::Build windows(Run run, int channels, int stride) {
     const auto src = s.input<T>(channels);
     const auto dst = s.outputOf<Lum32f>(1, {36 * work->across() * work->down(), 1});
     s.ours([=] {
-      run(src.data(), src.step, src.roi, nullptr, 1, dst.data(), work->object(), lumiBorderReplicate, {},
+      const T zeros[3] = {};
+      Value value{};
+      if constexpr (channels == 3) value = zeros;
+      run(src.data(), src.step, src.roi, nullptr, 1, dst.data(), work->object(), lumiBorderReplicate, value,
           work->buffer.data());
     });
     if (channels == 1) s.peer(loopHog(src, dst, work));
@@ -101,11 +108,11 @@ Suite::Build windows(Run run, int channels, int stride) {
 const std::vector<LumiSize> kSizes = {kCall, kSmall, {64, 128}, kCached, {640, 480}, kHd};
 
 const Family family("hog", [](Suite& suite) {
-  suite.row("hog 8u", kSizes, windows<Lum8u>(lumiHOG_8u32f_C1R, 1, 8));
-  suite.row("hog 8u cells", {{640, 480}, kHd}, windows<Lum8u>(lumiHOG_8u32f_C1R, 1, 16));
-  suite.row("hog 8u C3", kSizes, windows<Lum8u>(lumiHOG_8u32f_C3R, 3, 8));
-  suite.row("hog 16u", {kSmall, {640, 480}}, windows<Lum16u>(lumiHOG_16u32f_C1R, 1, 8));
-  suite.row("hog 32f", {kSmall, {640, 480}}, windows<Lum32f>(lumiHOG_32f_C1R, 1, 8));
+  suite.row("hog 8u", kSizes, windows(lumiHOG_8u32f_C1R, 8));
+  suite.row("hog 8u cells", {{640, 480}, kHd}, windows(lumiHOG_8u32f_C1R, 16));
+  suite.row("hog 8u C3", kSizes, windows(lumiHOG_8u32f_C3R, 8));
+  suite.row("hog 16u", {kSmall, {640, 480}}, windows(lumiHOG_16u32f_C1R, 8));
+  suite.row("hog 32f", {kSmall, {640, 480}}, windows(lumiHOG_32f_C1R, 8));
 });
 
 }  // namespace
