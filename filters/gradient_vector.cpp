@@ -14,7 +14,8 @@ namespace {
 
 using namespace check;
 
-static_assert(kStripPixels <= kMostGradients && kBeforeStrip >= 16);
+template <typename Layout>
+using GradientStrips = Strip<static_cast<int>(kMostGradients) / Layout::kStored>;
 
 enum Operator { kSobel, kPrewitt, kScharr };
 
@@ -55,22 +56,23 @@ struct Results {
 template <GradientMask mask, typename T, typename D, typename Layout>
 void run(const BorderedImage<kPixelBytes<T, Layout>>& image, const Results<D>& results) {
   constexpr int reach = gradientReach(mask), rows = 2 * reach + 1;
-  const StripSource<T, D, Layout> source(image);
-  RowRing<T, D, Layout, rows> ring;
-  alignas(32) Byte work[2][kStripPixels * sizeof(D)];
+  using Strips = GradientStrips<Layout>;
+  const StripSource<T, T, Layout, Strips> source(image);
+  RowRing<T, Layout, Strips, rows> ring;
+  alignas(32) Byte work[2][Strips::kPixels * sizeof(D)];
   const LumiSize size = image.size();
-  for (int x = 0; x < size.width; x += kStripPixels) {
-    const int width = std::min(kStripPixels, size.width - x);
+  for (int x = 0; x < size.width; x += Strips::kPixels) {
+    const int width = std::min(Strips::kPixels, size.width - x);
     const auto pixels = static_cast<size_t>(width);
     const auto read = [&](int y) { source.read(y, x - reach, x + width + reach, ring.row(y) - reach); };
     for (int y = -reach; y < reach; ++y) read(y);
     for (int y = 0; y < size.height; ++y) {
       read(y + reach);
-      const D* window[rows];
+      const T* window[rows];
       for (int i = 0; i < rows; ++i) window[i] = ring.row(y + i - reach);
       Byte* const gx = results.gx.image ? results.gx.at(x, y) : work[0];
       Byte* const gy = results.gy.image ? results.gy.at(x, y) : work[1];
-      gradientRow<mask, Layout::kStored>(window, kPlaneRow, gx, gy, pixels);
+      gradientRow<mask, Layout::kStored>(window, Strips::kRow, gx, gy, pixels);
       if (Byte* const dst = results.magnitude.at(x, y))
         gradientMagnitudeRow<D>(gx, gy, dst, pixels, results.isL2);
       if (Byte* const dst = results.angle.at(x, y)) gradientAngleRow<D>(gx, gy, dst, pixels);

@@ -18,14 +18,16 @@ namespace {
 
 using namespace check;
 
+using HogStrips = Strip<256>;
+
 // Every row is converted once for each strip, and three of them are kept. No corner is read: rows above and
 // below the image have no pixels at their sides.
 template <typename T, typename Layout>
-void countVotes(const StripSource<T, Lum32f, Layout>& image, int binCount, const HogVotes& votes) {
+void countVotes(const StripSource<T, Lum32f, Layout, HogStrips>& image, int binCount, const HogVotes& votes) {
   const LumiSize size = image.size();
-  RowRing<T, Lum32f, Layout, 3> ring;
-  for (int x = 0; x < size.width; x += kStripPixels) {
-    const int width = std::min(kStripPixels, size.width - x);
+  RowRing<Lum32f, Layout, HogStrips, 3> ring;
+  for (int x = 0; x < size.width; x += HogStrips::kPixels) {
+    const int width = std::min(HogStrips::kPixels, size.width - x);
     const auto read = [&](int y) {
       const int beside = y < 0 || y == size.height ? 0 : 1;
       image.read(y, x - beside, x + width + beside, ring.row(y) - beside);
@@ -34,7 +36,7 @@ void countVotes(const StripSource<T, Lum32f, Layout>& image, int binCount, const
     read(0);
     for (int y = 0; y < size.height; ++y) {
       read(y + 1);
-      hogVotes<Layout::kStored>({ring.row(y - 1), ring.row(y), ring.row(y + 1), kPlaneRow}, binCount,
+      hogVotes<Layout::kStored>({ring.row(y - 1), ring.row(y), ring.row(y + 1), HogStrips::kRow}, binCount,
                                 votes.at(x, y), static_cast<size_t>(width));
     }
   }
@@ -90,7 +92,7 @@ LumStatus hog(const T* src, int srcStep, LumiSize roi, const LumiPoint* location
   if constexpr (std::is_pointer_v<Value>) value = borderValue;
   const BorderedImage<kPixelBytes<T, Layout>> image(rows(src, srcStep), size, border, value);
   const HogVotes votes{buffer, 12 * static_cast<ptrdiff_t>(size.width)};
-  countVotes(StripSource<T, Lum32f, Layout>(image), grid.binCount, votes);
+  countVotes(StripSource<T, Lum32f, Layout, HogStrips>(image), grid.binCount, votes);
   describe(grid, votes, size, locations, locationCount, reinterpret_cast<Byte*>(descriptors));
   return lumStatusOk;
 }

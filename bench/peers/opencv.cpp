@@ -394,6 +394,86 @@ Peer gradient(View around, View dst, int reach, Gradient kind, int side) {
       return peer("opencv", [inner, d = mat(dst), window]() mutable {
         cv::boxFilter(inner, d, -1, {window.width, window.height}, {-1, -1}, true, cv::BORDER_REPLICATE);
       });
+Peer sobel(View src, View x, View y, int side) {
+  Peer result = peer("opencv", [=, s = mat(src), dx = mat(x), dy = mat(y)]() mutable {
+    cv::Sobel(s, dx, dx.depth(), 1, 0, side, 1, 0, cv::BORDER_REPLICATE);
+    cv::Sobel(s, dy, dy.depth(), 0, 1, side, 1, 0, cv::BORDER_REPLICATE);
+  });
+  result.differs = "its x has the other sign";
+  return result;
+}
+
+Peer sobelMagnitude(View src, View dst, int side, bool isRootOfSquares) {
+  struct Work {
+    cv::Mat x, y, squares;
+  };
+  Peer result = peer("opencv", [=, s = mat(src), d = mat(dst), w = Work()]() mutable {
+    const int depth = isRootOfSquares ? CV_32F : d.depth();
+    cv::Sobel(s, w.x, depth, 1, 0, side, 1, 0, cv::BORDER_REPLICATE);
+    cv::Sobel(s, w.y, depth, 0, 1, side, 1, 0, cv::BORDER_REPLICATE);
+    if (!isRootOfSquares) {
+      w.x = cv::abs(w.x);
+      w.y = cv::abs(w.y);
+      cv::add(w.x, w.y, d);
+    } else if (d.depth() == CV_32F) {
+      cv::magnitude(w.x, w.y, d);
+    } else {
+      cv::magnitude(w.x, w.y, w.squares);
+      w.squares.convertTo(d, d.depth());
+    }
+  });
+  if (dst.depth == Depth::f32) result.differs = "sums of floats in another order";
+  return result;
+}
+
+Peer resizeNearest(View src, View dst) {
+  return peer("opencv", [s = mat(src), d = mat(dst)]() mutable {
+    cv::resize(s, d, d.size(), 0, 0, cv::INTER_NEAREST);
+  });
+}
+
+Peer resizeLinear(View src, View dst) {
+  return peer("opencv",
+              [s = mat(src), d = mat(dst)]() mutable { cv::resize(s, d, d.size(), 0, 0, cv::INTER_LINEAR); });
+}
+
+namespace {
+
+constexpr int kNorms[] = {cv::NORM_INF, cv::NORM_L1, cv::NORM_L2};
+
+template <typename Find>
+Peer storing(View result, Find find) {
+  return peer("opencv", [=] {
+    const double value = find();
+    std::memcpy(result.bytes, &value, sizeof value);
+  });
+}
+
+}  // namespace
+
+Peer fourier(View src, View dst, bool inverse) {
+  const int flags = inverse ? cv::DFT_INVERSE | (dst.channels == 1 ? cv::DFT_REAL_OUTPUT : 0) : 0;
+  Peer result = peer("opencv", [=, s = mat(src), d = mat(dst)]() mutable { cv::dft(s, d, flags); });
+  result.differs = "rounds otherwise";
+  return result;
+}
+
+Peer cosine(View src, View dst, bool inverse) {
+  if (src.roi.width % 2 != 0 || src.roi.height % 2 != 0) return {};
+  Peer result = peer(
+      "opencv", [=, s = mat(src), d = mat(dst)]() mutable { cv::dct(s, d, inverse ? cv::DCT_INVERSE : 0); });
+  result.differs = "rounds otherwise";
+  return result;
+}
+
+Peer cosine8x8(View src, View dst, bool inverse) {
+  if (src.depth != Depth::f32 || !src.isTight() || !dst.isTight()) return {};
+  return peer("opencv", [=] {
+    const int blocks = src.roi.width * src.roi.height / 64;
+    for (int i = 0; i < blocks; ++i) {
+      const cv::Mat s(8, 8, CV_32F, src.bytes + 256 * i);
+      cv::Mat d(8, 8, CV_32F, dst.bytes + 256 * i);
+      cv::dct(s, d, inverse ? cv::DCT_INVERSE : 0);
     }
 
     Peer adaptiveThreshold(View src, View dst, int side, double delta, bool weighted) {

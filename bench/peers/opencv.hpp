@@ -102,6 +102,11 @@ enum class Gradient { sobelX, sobelY, scharrX, scharrY, laplace };
 // Bytes: 200 where a pixel is above the mean of its square window, or its weighted one, less delta; otherwise
 // 0.
 [[gnu::weak]] Peer adaptiveThreshold(View src, View dst, int side, double delta, bool weighted);
+// Both derivatives by Sobel masks, right minus left and bottom minus top, of the type of their images; and
+// their magnitude. The nearest pixel is repeated outside.
+[[gnu::weak]] Peer sobel(View src, View x, View y, int side);
+[[gnu::weak]] Peer sobelMagnitude(View src, View dst, int side, bool isRootOfSquares);
+
 // To the destination's size.
 [[gnu::weak]] Peer resizeNearest(View src, View dst);
 [[gnu::weak]] Peer resizeLinear(View src, View dst);

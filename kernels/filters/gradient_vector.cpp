@@ -28,6 +28,27 @@ Lanes<W> load(const void* p) {
     return {loadVector(bytes)};
 }
 
+template <typename T>
+using Dword = std::conditional_t<std::is_signed_v<T>, int32_t, uint32_t>;
+
+// What samples become.
+template <typename T>
+using Wide = std::conditional_t<sizeof(T) == 1, int16_t, float>;
+
+template <typename T>
+Lanes<Wide<T>> loadWide(const T* p) {
+  const auto* const bytes = reinterpret_cast<const Byte*>(p);
+  if constexpr (sizeof(T) == 1) {
+    return loadAs<uint8_t, int16_t>(bytes);
+  } else if constexpr (sizeof(T) == 2) {
+    const Samples16<T> words{load16(bytes)};
+    const Samples16<T> upper{upperHalf(as<int16_t>(words)).v};
+    return joined(floatsOf(S32{widen<Dword<T>>(words).v}), floatsOf(S32{widen<Dword<T>>(upper).v}));
+  } else {
+    return load<float>(p);
+  }
+}
+
 void storeLanes(Byte* p, Floats8 x) { store32(p, bytesOf(x)); }
 void storeLanes(Byte* p, Samples<int16_t> x) { storeVector(p, x.v); }
 
@@ -69,19 +90,20 @@ template <GradientMask mask, typename At>
     return at(0) - at(2);
 }
 
-template <typename W>
+// Of each column of samples, the first one that of the leftmost sample under the first mask.
+template <typename W, size_t most>
 struct ColumnSums {
-  alignas(32) W smooth[kMostGradients + 48], rise[kMostGradients + 48];
+  alignas(32) W smooth[most + 48], rise[most + 48];
 };
 
-template <GradientMask mask, typename W>
-[[gnu::always_inline]] inline void sumColumns(const W* const* rows, ptrdiff_t channel, size_t pixels,
-                                              ColumnSums<W>& sums) {
+template <GradientMask mask, typename T, typename W, size_t most>
+[[gnu::always_inline]] inline void sumColumns(const T* const* rows, ptrdiff_t channel, size_t pixels,
+                                              ColumnSums<W, most>& sums) {
   constexpr ptrdiff_t reach = gradientReach(mask);
   for (size_t i = 0; i < pixels + 2 * reach; i += kLanes<W>) {
     const ptrdiff_t at = channel + static_cast<ptrdiff_t>(i) - reach;
-    const auto down = [&](int row) { return load<W>(rows[row] + at); };
-    const auto up = [&](int row) { return load<W>(rows[2 * reach - row] + at); };
+    const auto down = [&](int row) { return loadWide(rows[row] + at); };
+    const auto up = [&](int row) { return loadWide(rows[2 * reach - row] + at); };
     storeLanes(reinterpret_cast<Byte*>(sums.smooth + i), smoothed<mask>(down));
     storeLanes(reinterpret_cast<Byte*>(sums.rise + i), fall<mask>(up));
   }
@@ -92,8 +114,8 @@ struct Gradients {
   V x, y;
 };
 
-template <GradientMask mask, typename W>
-[[gnu::always_inline]] inline Gradients<Lanes<W>> gradientsAt(const ColumnSums<W>& sums, size_t i) {
+template <GradientMask mask, typename W, size_t most>
+[[gnu::always_inline]] inline Gradients<Lanes<W>> gradientsAt(const ColumnSums<W, most>& sums, size_t i) {
   return {fall<mask>([&](int column) { return load<W>(sums.smooth + i + static_cast<size_t>(column)); }),
           smoothed<mask>([&](int column) { return load<W>(sums.rise + i + static_cast<size_t>(column)); })};
 }
@@ -169,13 +191,14 @@ Gradients<Floats8> floatGradients(const Byte* gx, const Byte* gy, size_t i, size
 
 }  // namespace
 
-template <GradientMask mask, int channels, typename W>
-void gradientRow(const W* const* rows, ptrdiff_t channel, uint8_t* gx, uint8_t* gy, size_t pixels) {
-  ColumnSums<W> sums[channels];
-  for (int c = 0; c < channels; ++c) sumColumns<mask, W>(rows, c * channel, pixels, sums[c]);
+template <GradientMask mask, int channels, typename T>
+void gradientRow(const T* const* rows, ptrdiff_t channel, uint8_t* gx, uint8_t* gy, size_t pixels) {
+  using W = Wide<T>;
+  ColumnSums<W, kMostGradients / channels> sums[channels];
+  for (int c = 0; c < channels; ++c) sumColumns<mask>(rows, c * channel, pixels, sums[c]);
   for (size_t i = 0; i < pixels; i += kLanes<W>) {
-    auto g = gradientsAt<mask, W>(sums[0], i);
-    for (int c = 1; c < channels; ++c) g = strongest(g, gradientsAt<mask, W>(sums[c], i));
+    auto g = gradientsAt<mask>(sums[0], i);
+    for (int c = 1; c < channels; ++c) g = strongest(g, gradientsAt<mask>(sums[c], i));
     storeSome<W>(gx + i * sizeof(W), g.x, pixels - i);
     storeSome<W>(gy + i * sizeof(W), g.y, pixels - i);
   }
@@ -199,18 +222,20 @@ void gradientAngleRow(const uint8_t* gx, const uint8_t* gy, uint8_t* dst, size_t
   }
 }
 
-// Two numbers of channels of each mask and sample type.
-#define LUMI_GRADIENT_ROWS(mask, W)                                                                         \
-  template void gradientRow<GradientMask::mask, 1>(const W* const*, ptrdiff_t, uint8_t*, uint8_t*, size_t); \
-  template void gradientRow<GradientMask::mask, 3>(const W* const*, ptrdiff_t, uint8_t*, uint8_t*, size_t);
-LUMI_GRADIENT_ROWS(Sobel3, int16_t)
-LUMI_GRADIENT_ROWS(Sobel5, int16_t)
-LUMI_GRADIENT_ROWS(Prewitt, int16_t)
-LUMI_GRADIENT_ROWS(Scharr, int16_t)
-LUMI_GRADIENT_ROWS(Sobel3, float)
-LUMI_GRADIENT_ROWS(Sobel5, float)
-LUMI_GRADIENT_ROWS(Prewitt, float)
-LUMI_GRADIENT_ROWS(Scharr, float)
+// Of every sample type, for one channel and three.
+#define LUMI_GRADIENT_ROWS(mask, T)                                                                         \
+  template void gradientRow<GradientMask::mask, 1>(const T* const*, ptrdiff_t, uint8_t*, uint8_t*, size_t); \
+  template void gradientRow<GradientMask::mask, 3>(const T* const*, ptrdiff_t, uint8_t*, uint8_t*, size_t);
+#define LUMI_GRADIENT_TYPES(mask)    \
+  LUMI_GRADIENT_ROWS(mask, uint8_t)  \
+  LUMI_GRADIENT_ROWS(mask, uint16_t) \
+  LUMI_GRADIENT_ROWS(mask, int16_t)  \
+  LUMI_GRADIENT_ROWS(mask, float)
+LUMI_GRADIENT_TYPES(Sobel3)
+LUMI_GRADIENT_TYPES(Sobel5)
+LUMI_GRADIENT_TYPES(Prewitt)
+LUMI_GRADIENT_TYPES(Scharr)
+#undef LUMI_GRADIENT_TYPES
 #undef LUMI_GRADIENT_ROWS
 template void gradientMagnitudeRow<int16_t>(const uint8_t*, const uint8_t*, uint8_t*, size_t, bool);
 template void gradientMagnitudeRow<float>(const uint8_t*, const uint8_t*, uint8_t*, size_t, bool);
