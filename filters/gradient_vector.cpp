@@ -14,9 +14,6 @@ namespace {
 
 using namespace check;
 
-template <typename Layout>
-using GradientStrips = Strip<static_cast<int>(kMostGradients) / Layout::kStored>;
-
 enum Operator { kSobel, kPrewitt, kScharr };
 
 constexpr int kNormL1 = 2, kNormL2 = 4;
@@ -53,29 +50,95 @@ struct Results {
   bool isAny() const { return gx.image || gy.image || magnitude.image || angle.image; }
 };
 
+// The rows under the mask at a strip of an image, one after the other: where they lie, or where that is not
+// enough, copied with what the border says.
+template <GradientMask mask, typename T, typename Layout>
+class MaskRows {
+ public:
+  static constexpr int kReach = gradientReach(mask), kCount = 2 * kReach + 1;
+  using Strips = Strip<Layout::kStored == 1 ? 1536 : 512>;
+
+  explicit MaskRows(const BorderedImage<kPixelBytes<T, Layout>>& image) : image_(image), source_(image) {}
+
+  // The strip that begins in column x. Those at the ends of wide rows are narrow, so that few pixels are
+  // copied.
+  int widthAt(int x) const {
+    const int left = image_.size().width - x;
+    if (Layout::kStored > 1 || image_.size().width <= kNarrow * 8) return std::min(left, Strips::kPixels);
+    if (x == 0 || left <= kNarrow) return std::min(left, kNarrow);
+    const int strips = (left - kNarrow + Strips::kPixels - 1) / Strips::kPixels;
+    return (left - kNarrow + strips - 1) / strips;
+  }
+
+  void start(int x, int width) {
+    x_ = x;
+    width_ = width;
+    isInPlace_ = Layout::kStored == 1 && x > 0 && x + width + kNarrow <= image_.size().width;
+    for (int y = -kReach; y < kReach; ++y) take(y);
+  }
+
+  // Each at its first pixel of the first channel; the other channels are planes behind it.
+  const T* const* around(int y) {
+    take(y + kReach);
+    for (int i = 0; i < kCount; ++i) rows_[i] = *place(y + i - kReach);
+    return rows_;
+  }
+
+ private:
+  static constexpr int kNarrow = 64;  // more than is read beyond a strip
+
+  const T** place(int y) { return &taken_[(y + kCount) % kCount]; }
+
+  void take(int y) {
+    const Byte* const row = isInPlace_ ? image_.row(y) : nullptr;
+    if (row) {
+      *place(y) = reinterpret_cast<const T*>(row) + x_;
+      return;
+    }
+    T* const copy = ring_.row(y);
+    source_.read(y, x_ - kReach, x_ + width_ + kReach, copy - kReach);
+    *place(y) = copy;
+  }
+
+  const BorderedImage<kPixelBytes<T, Layout>>& image_;
+  StripSource<T, T, Layout, Strips> source_;
+  RowRing<T, Layout, Strips, kCount> ring_;
+  const T *taken_[kCount], *rows_[kCount];
+  int x_ = 0, width_ = 0;
+  bool isInPlace_ = false;
+};
+
 template <GradientMask mask, typename T, typename D, typename Layout>
 void run(const BorderedImage<kPixelBytes<T, Layout>>& image, const Results<D>& results) {
-  constexpr int reach = gradientReach(mask), rows = 2 * reach + 1;
-  using Strips = GradientStrips<Layout>;
-  const StripSource<T, T, Layout, Strips> source(image);
-  RowRing<T, Layout, Strips, rows> ring;
-  alignas(32) Byte work[2][Strips::kPixels * sizeof(D)];
+  using Rows = MaskRows<mask, T, Layout>;
+  constexpr int channels = Layout::kStored, pixels = Rows::Strips::kPixels, columns = pixels + 48;
+  Rows source(image);
+  alignas(32) D smooth[channels][columns], rise[channels][columns];
+  alignas(32) D vectors[2][columns];  // for angles, and in place of what is not wanted
+  const GradientSums<D> sums{smooth[0], rise[0], columns};
   const LumiSize size = image.size();
-  for (int x = 0; x < size.width; x += Strips::kPixels) {
-    const int width = std::min(Strips::kPixels, size.width - x);
-    const auto pixels = static_cast<size_t>(width);
-    const auto read = [&](int y) { source.read(y, x - reach, x + width + reach, ring.row(y) - reach); };
-    for (int y = -reach; y < reach; ++y) read(y);
+  for (int x = 0, width = 0; x < size.width; x += width) {
+    width = source.widthAt(x);
+    const auto count = static_cast<size_t>(width);
+    source.start(x, width);
     for (int y = 0; y < size.height; ++y) {
-      read(y + reach);
-      const T* window[rows];
-      for (int i = 0; i < rows; ++i) window[i] = ring.row(y + i - reach);
-      Byte* const gx = results.gx.image ? results.gx.at(x, y) : work[0];
-      Byte* const gy = results.gy.image ? results.gy.at(x, y) : work[1];
-      gradientRow<mask, Layout::kStored>(window, Strips::kRow, gx, gy, pixels);
+      const T* const* const around = source.around(y);
+      for (int c = 0; c < channels; ++c) {
+        const T* plane[Rows::kCount];
+        for (int i = 0; i < Rows::kCount; ++i) plane[i] = around[i] + c * Rows::Strips::kRow;
+        sumColumns<mask>(plane, count, smooth[c], rise[c]);
+      }
+      const auto storeVectors = [&](Byte* gx, Byte* gy) {
+        const auto orElse = [](Byte* dst, D* work) { return dst ? dst : reinterpret_cast<Byte*>(work); };
+        gradientRow<mask, channels>(sums, orElse(gx, vectors[0]), orElse(gy, vectors[1]), count);
+      };
+      if (results.gx.image || results.gy.image) storeVectors(results.gx.at(x, y), results.gy.at(x, y));
       if (Byte* const dst = results.magnitude.at(x, y))
-        gradientMagnitudeRow<D>(gx, gy, dst, pixels, results.isL2);
-      if (Byte* const dst = results.angle.at(x, y)) gradientAngleRow<D>(gx, gy, dst, pixels);
+        gradientMagnitudeRow<mask, channels>(sums, dst, count, results.isL2);
+      if (Byte* const dst = results.angle.at(x, y)) {
+        storeVectors(nullptr, nullptr);
+        gradientAngleRow(vectors[0], vectors[1], dst, count);
+      }
     }
   }
 }

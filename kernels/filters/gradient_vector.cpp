@@ -31,10 +31,6 @@ Lanes<W> load(const void* p) {
 template <typename T>
 using Dword = std::conditional_t<std::is_signed_v<T>, int32_t, uint32_t>;
 
-// What samples become.
-template <typename T>
-using Wide = std::conditional_t<sizeof(T) == 1, int16_t, float>;
-
 template <typename T>
 Lanes<Wide<T>> loadWide(const T* p) {
   const auto* const bytes = reinterpret_cast<const Byte*>(p);
@@ -90,34 +86,15 @@ template <GradientMask mask, typename At>
     return at(0) - at(2);
 }
 
-// Of each column of samples, the first one that of the leftmost sample under the first mask.
-template <typename W, size_t most>
-struct ColumnSums {
-  alignas(32) W smooth[most + 48], rise[most + 48];
-};
-
-template <GradientMask mask, typename T, typename W, size_t most>
-[[gnu::always_inline]] inline void sumColumns(const T* const* rows, ptrdiff_t channel, size_t pixels,
-                                              ColumnSums<W, most>& sums) {
-  constexpr ptrdiff_t reach = gradientReach(mask);
-  for (size_t i = 0; i < pixels + 2 * reach; i += kLanes<W>) {
-    const ptrdiff_t at = channel + static_cast<ptrdiff_t>(i) - reach;
-    const auto down = [&](int row) { return loadWide(rows[row] + at); };
-    const auto up = [&](int row) { return loadWide(rows[2 * reach - row] + at); };
-    storeLanes(reinterpret_cast<Byte*>(sums.smooth + i), smoothed<mask>(down));
-    storeLanes(reinterpret_cast<Byte*>(sums.rise + i), fall<mask>(up));
-  }
-}
-
 template <typename V>
 struct Gradients {
   V x, y;
 };
 
-template <GradientMask mask, typename W, size_t most>
-[[gnu::always_inline]] inline Gradients<Lanes<W>> gradientsAt(const ColumnSums<W, most>& sums, size_t i) {
-  return {fall<mask>([&](int column) { return load<W>(sums.smooth + i + static_cast<size_t>(column)); }),
-          smoothed<mask>([&](int column) { return load<W>(sums.rise + i + static_cast<size_t>(column)); })};
+template <GradientMask mask, typename W>
+[[gnu::always_inline]] inline Gradients<Lanes<W>> gradientsOf(const W* smooth, const W* rise) {
+  return {fall<mask>([&](int column) { return load<W>(smooth + column); }),
+          smoothed<mask>([&](int column) { return load<W>(rise + column); })};
 }
 
 Floats8 sumOfSquares(const Gradients<Floats8>& g) { return g.x * g.x + g.y * g.y; }
@@ -142,25 +119,30 @@ Gradients<V> strongest(const Gradients<V>& a, const Gradients<V>& b) {
   return {ifThenElse(isSecond, b.x, a.x), ifThenElse(isSecond, b.y, a.y)};
 }
 
-// The first ones of so many lanes, up to all of them.
-template <typename W>
-void storeSome(Byte* p, Lanes<W> x, size_t lanes) {
-  if (lanes >= kLanes<W>)
-    storeLanes(p, x);
-  else
-    std::memcpy(p, &x, lanes * sizeof(W));
-}
-template <typename W>
-Lanes<W> loadSome(const Byte* p, size_t lanes) {
-  if (lanes >= kLanes<W>) return load<W>(p);
-  alignas(32) Byte some[sizeof(Lanes<W>)] = {};
-  std::memcpy(some, p, lanes * sizeof(W));
-  return load<W>(some);
+// Calls make(first pixel, store) for blocks of pixels and for those that are left: store(at, x) stores a
+// block of samples W, or those alone.
+template <typename W, size_t lanes, typename Make>
+[[gnu::always_inline]] inline void inLanes(size_t pixels, const Make& make) {
+  size_t i = 0;
+  for (; i + lanes <= pixels; i += lanes) make(i, [](Byte* p, auto x) { storeLanes(p, x); });
+  if (i == pixels) return;
+  make(i, [&](Byte* p, auto x) {
+    Byte all[sizeof x];
+    storeLanes(all, x);
+    std::memcpy(p, all, (pixels - i) * sizeof(W));
+  });
 }
 
-Floats8 magnitudesOf(const Gradients<Floats8>& g, bool isL2) {
-  return isL2 ? squareRoot(sumOfSquares(g)) : magnitude(g.x) + magnitude(g.y);
+template <GradientMask mask, int channels, typename W>
+[[gnu::always_inline]] inline Gradients<Lanes<W>> gradientsAt(const GradientSums<W>& sums, size_t i) {
+  auto g = gradientsOf<mask>(sums.smooth + i, sums.rise + i);
+  for (size_t c = 1; c < channels; ++c)
+    g = strongest(g, gradientsOf<mask>(sums.smooth + c * sums.channel + i, sums.rise + c * sums.channel + i));
+  return g;
 }
+
+Floats8 lengthOf(const Gradients<Floats8>& g) { return squareRoot(sumOfSquares(g)); }
+Floats8 sumOf(const Gradients<Floats8>& g) { return magnitude(g.x) + magnitude(g.y); }
 
 // Rounded roots of four or eight sums.
 S32 rootsOf(S32 squares) { return roundedToEven(squareRoot(floatsOf(squares))); }
@@ -170,76 +152,84 @@ Samples32<int32_t> rootsOf(Samples32<int32_t> squares) {
 }
 #endif
 
-Samples<int16_t> magnitudesOf(const Gradients<Samples<int16_t>>& g, bool isL2) {
-  if (!isL2) return as<int16_t>(magnitude(g.x) + magnitude(g.y));
+Samples<int16_t> lengthOf(const Gradients<Samples<int16_t>>& g) {
   const SquaresOfWords squares = sumOfSquares(g);
   return narrowInterleaved<int16_t>(rootsOf(squares.low), rootsOf(squares.high));
 }
+Samples<int16_t> sumOf(const Gradients<Samples<int16_t>>& g) {
+  return as<int16_t>(magnitude(g.x) + magnitude(g.y));
+}
 
-Gradients<Floats8> floatGradients(const Byte* gx, const Byte* gy, size_t i, size_t lanes, float) {
-  return {loadSome<float>(gx + 4 * i, lanes), loadSome<float>(gy + 4 * i, lanes)};
-}
-Gradients<Floats8> floatGradients(const Byte* gx, const Byte* gy, size_t i, size_t lanes, int16_t) {
-  const auto floats = [&](const Byte* p) {
-    alignas(16) Byte some[16] = {};
-    if (lanes < 8) std::memcpy(some, p, 2 * lanes);
-    const S16 words{load16(lanes < 8 ? some : p)};
-    return joined(floatsOf(widen<int32_t>(words)), floatsOf(widen<int32_t>(upperHalf(words))));
-  };
-  return {floats(gx + 2 * i), floats(gy + 2 * i)};
-}
+Floats8 loadAsFloats(const float* p) { return load<float>(p); }
+Floats8 loadAsFloats(const int16_t* p) { return loadWide<int16_t>(p); }
 
 }  // namespace
 
-template <GradientMask mask, int channels, typename T>
-void gradientRow(const T* const* rows, ptrdiff_t channel, uint8_t* gx, uint8_t* gy, size_t pixels) {
-  using W = Wide<T>;
-  ColumnSums<W, kMostGradients / channels> sums[channels];
-  for (int c = 0; c < channels; ++c) sumColumns<mask>(rows, c * channel, pixels, sums[c]);
-  for (size_t i = 0; i < pixels; i += kLanes<W>) {
-    auto g = gradientsAt<mask>(sums[0], i);
-    for (int c = 1; c < channels; ++c) g = strongest(g, gradientsAt<mask>(sums[c], i));
-    storeSome<W>(gx + i * sizeof(W), g.x, pixels - i);
-    storeSome<W>(gy + i * sizeof(W), g.y, pixels - i);
+template <GradientMask mask, typename T>
+void sumColumns(const T* const* rows, size_t pixels, Wide<T>* smooth, Wide<T>* rise) {
+  constexpr int reach = gradientReach(mask), count = 2 * reach + 1;
+  const T* row[count];  // which no store can be thought to change
+  for (int k = 0; k < count; ++k) row[k] = rows[k] - reach;
+  for (size_t i = 0; i < pixels + 2 * reach; i += kLanes<Wide<T>>) {
+    const auto down = [&](int k) { return loadWide(row[k] + i); };
+    const auto up = [&](int k) { return loadWide(row[count - 1 - k] + i); };
+    storeLanes(reinterpret_cast<Byte*>(smooth + i), smoothed<mask>(down));
+    storeLanes(reinterpret_cast<Byte*>(rise + i), fall<mask>(up));
   }
 }
 
-template <typename W>
-void gradientMagnitudeRow(const uint8_t* gx, const uint8_t* gy, uint8_t* dst, size_t pixels, bool isL2) {
-  for (size_t i = 0; i < pixels; i += kLanes<W>) {
-    const size_t at = i * sizeof(W), left = pixels - i;
-    const Gradients<Lanes<W>> g{loadSome<W>(gx + at, left), loadSome<W>(gy + at, left)};
-    storeSome<W>(dst + at, magnitudesOf(g, isL2), left);
-  }
+template <GradientMask mask, int channels, typename W>
+void gradientRow(GradientSums<W> sums, uint8_t* gx, uint8_t* gy, size_t pixels) {
+  inLanes<W, kLanes<W>>(pixels, [=](size_t i, const auto& store) {
+    const auto g = gradientsAt<mask, channels>(sums, i);
+    store(gx + i * sizeof(W), g.x);
+    store(gy + i * sizeof(W), g.y);
+  });
+}
+
+template <GradientMask mask, int channels, typename W>
+void gradientMagnitudeRow(GradientSums<W> sums, uint8_t* dst, size_t pixels, bool isL2) {
+  const auto run = [=](const auto& magnitudeOf) {
+    inLanes<W, kLanes<W>>(pixels, [=](size_t i, const auto& store) {
+      store(dst + i * sizeof(W), magnitudeOf(gradientsAt<mask, channels>(sums, i)));
+    });
+  };
+  if (isL2)
+    run([](const auto& g) { return lengthOf(g); });
+  else
+    run([](const auto& g) { return sumOf(g); });
 }
 
 template <typename W>
-void gradientAngleRow(const uint8_t* gx, const uint8_t* gy, uint8_t* dst, size_t pixels) {
+void gradientAngleRow(const W* gx, const W* gy, uint8_t* dst, size_t pixels) {
   const AngleOfFloats angle;
-  for (size_t i = 0; i < pixels; i += 8) {
-    const Gradients<Floats8> g = floatGradients(gx, gy, i, pixels - i, W());
-    storeSome<float>(dst + 4 * i, angle(g.y, g.x), pixels - i);
-  }
+  inLanes<float, 8>(pixels, [&](size_t i, const auto& store) {
+    store(dst + 4 * i, angle(loadAsFloats(gy + i), loadAsFloats(gx + i)));
+  });
 }
 
-// Of every sample type, for one channel and three.
-#define LUMI_GRADIENT_ROWS(mask, T)                                                                         \
-  template void gradientRow<GradientMask::mask, 1>(const T* const*, ptrdiff_t, uint8_t*, uint8_t*, size_t); \
-  template void gradientRow<GradientMask::mask, 3>(const T* const*, ptrdiff_t, uint8_t*, uint8_t*, size_t);
-#define LUMI_GRADIENT_TYPES(mask)    \
-  LUMI_GRADIENT_ROWS(mask, uint8_t)  \
-  LUMI_GRADIENT_ROWS(mask, uint16_t) \
-  LUMI_GRADIENT_ROWS(mask, int16_t)  \
-  LUMI_GRADIENT_ROWS(mask, float)
-LUMI_GRADIENT_TYPES(Sobel3)
-LUMI_GRADIENT_TYPES(Sobel5)
-LUMI_GRADIENT_TYPES(Prewitt)
-LUMI_GRADIENT_TYPES(Scharr)
-#undef LUMI_GRADIENT_TYPES
+#define LUMI_SUM_COLUMNS(mask, T) \
+  template void sumColumns<GradientMask::mask>(const T* const*, size_t, Wide<T>*, Wide<T>*);
+#define LUMI_GRADIENT_ROWS(mask, channels, W)                                                           \
+  template void gradientRow<GradientMask::mask, channels>(GradientSums<W>, uint8_t*, uint8_t*, size_t); \
+  template void gradientMagnitudeRow<GradientMask::mask, channels>(GradientSums<W>, uint8_t*, size_t, bool);
+#define LUMI_GRADIENT_MASK(mask)       \
+  LUMI_SUM_COLUMNS(mask, uint8_t)      \
+  LUMI_SUM_COLUMNS(mask, uint16_t)     \
+  LUMI_SUM_COLUMNS(mask, int16_t)      \
+  LUMI_SUM_COLUMNS(mask, float)        \
+  LUMI_GRADIENT_ROWS(mask, 1, int16_t) \
+  LUMI_GRADIENT_ROWS(mask, 3, int16_t) \
+  LUMI_GRADIENT_ROWS(mask, 1, float)   \
+  LUMI_GRADIENT_ROWS(mask, 3, float)
+LUMI_GRADIENT_MASK(Sobel3)
+LUMI_GRADIENT_MASK(Sobel5)
+LUMI_GRADIENT_MASK(Prewitt)
+LUMI_GRADIENT_MASK(Scharr)
+#undef LUMI_GRADIENT_MASK
 #undef LUMI_GRADIENT_ROWS
-template void gradientMagnitudeRow<int16_t>(const uint8_t*, const uint8_t*, uint8_t*, size_t, bool);
-template void gradientMagnitudeRow<float>(const uint8_t*, const uint8_t*, uint8_t*, size_t, bool);
-template void gradientAngleRow<int16_t>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
-template void gradientAngleRow<float>(const uint8_t*, const uint8_t*, uint8_t*, size_t);
+#undef LUMI_SUM_COLUMNS
+template void gradientAngleRow<int16_t>(const int16_t*, const int16_t*, uint8_t*, size_t);
+template void gradientAngleRow<float>(const float*, const float*, uint8_t*, size_t);
 
 }  // namespace lumi

@@ -3,6 +3,8 @@
 // other samples.
 #pragma once
 
+#include <type_traits>
+
 #include "kernels/rows.hpp"
 
 namespace lumi {
@@ -11,23 +13,35 @@ enum class GradientMask { Sobel3, Sobel5, Prewitt, Scharr };
 
 constexpr int gradientReach(GradientMask mask) { return mask == GradientMask::Sobel5 ? 2 : 1; }
 
-// Pixels of a row that are made at a time, at most, times the channels. Up to 32 samples are read behind the
-// last one that the mask covers.
-inline constexpr size_t kMostGradients = 1536;
+// What samples become.
+template <typename T>
+using Wide = std::conditional_t<sizeof(T) == 1, int16_t, float>;
 
-// As many rows of samples as the mask has, each at its first pixel of the first channel; those of other
-// channels lie `channel` samples apart. Of three channels each pixel has both gradients of the one with the
+// From as many rows of samples as the mask has, each at its first pixel, smoothed columns and the differences
+// of their ends: of so many pixels and of the columns beside them that the mask covers, the leftmost one
+// first. Rows of samples are read, and those of sums written, up to 31 samples beyond.
+template <GradientMask mask, typename T>
+void sumColumns(const T* const* rows, size_t pixels, Wide<T>* smooth, Wide<T>* rise);
+
+// Such sums for each channel, so many samples apart.
+template <typename W>
+struct GradientSums {
+  const W *smooth, *rise;
+  size_t channel;
+};
+
+// Both gradients, to rows of any alignment. Of three channels each pixel has those of the one with the
 // largest sum of their squares, the first of equal ones.
-template <GradientMask mask, int channels, typename T>
-void gradientRow(const T* const* rows, ptrdiff_t channel, uint8_t* gx, uint8_t* gy, size_t pixels);
+template <GradientMask mask, int channels, typename W>
+void gradientRow(GradientSums<W> sums, uint8_t* gx, uint8_t* gy, size_t pixels);
 
-// Rows of any alignment, as gradientRow stores them: W is int16_t or float. Sums of squares of words are
-// converted to floats, and their roots rounded, ties to even.
-template <typename W>
-void gradientMagnitudeRow(const uint8_t* gx, const uint8_t* gy, uint8_t* dst, size_t pixels, bool isL2);
+// Their magnitudes. Sums of squares of words are converted to floats, and their roots rounded, ties to even.
+template <GradientMask mask, int channels, typename W>
+void gradientMagnitudeRow(GradientSums<W> sums, uint8_t* dst, size_t pixels, bool isL2);
 
-// Angles are floats, with errors below 2 units of the last place.
+// Angles of gradients, with errors below 2 units of the last place. Up to 7 gradients are read behind the
+// last one.
 template <typename W>
-void gradientAngleRow(const uint8_t* gx, const uint8_t* gy, uint8_t* dst, size_t pixels);
+void gradientAngleRow(const W* gx, const W* gy, uint8_t* dst, size_t pixels);
 
 }  // namespace lumi
