@@ -50,49 +50,56 @@ struct Results {
   bool isAny() const { return gx.image || gy.image || magnitude.image || angle.image; }
 };
 
+constexpr int kChunk = 512;  // pixels whose sums stay in the nearest cache
+
 // The rows under the mask at a strip of an image, one after the other: where they lie, or where that is not
-// enough, copied with what the border says.
+// enough, copied with what the border says. Of wide images of one channel only strips at both ends are
+// copied; rows of what lies between are done as a whole.
 template <GradientMask mask, typename T, typename Layout>
 class MaskRows {
  public:
   static constexpr int kReach = gradientReach(mask), kCount = 2 * kReach + 1;
-  using Strips = Strip<Layout::kStored == 1 ? 1536 : 512>;
+  using Strips = Strip<kChunk>;
 
-  explicit MaskRows(const BorderedImage<kPixelBytes<T, Layout>>& image) : image_(image), source_(image) {}
+  explicit MaskRows(const BorderedImage<kPixelBytes<T, Layout>>& image) : image_(image), source_(image) {
+    if (Layout::kStored == 1) image.fill(reinterpret_cast<Byte*>(constants_), Strips::kRow);
+  }
 
-  // The strip that begins in column x. Those at the ends of wide rows are narrow, so that few pixels are
-  // copied.
+  // The width of the strip that begins in column x.
   int widthAt(int x) const {
     const int left = image_.size().width - x;
-    if (Layout::kStored > 1 || image_.size().width <= kNarrow * 8) return std::min(left, Strips::kPixels);
-    if (x == 0 || left <= kNarrow) return std::min(left, kNarrow);
-    const int strips = (left - kNarrow + Strips::kPixels - 1) / Strips::kPixels;
-    return (left - kNarrow + strips - 1) / strips;
+    if (Layout::kStored > 1 || image_.size().width <= kChunk) return std::min(left, kChunk);
+    return x == 0 || left <= kEnd ? kEnd : left - kEnd;
   }
 
   void start(int x, int width) {
     x_ = x;
     width_ = width;
-    isInPlace_ = Layout::kStored == 1 && x > 0 && x + width + kNarrow <= image_.size().width;
+    isInPlace_ = Layout::kStored == 1 && x > 0 && x + width + kEnd <= image_.size().width;
     for (int y = -kReach; y < kReach; ++y) take(y);
   }
 
-  // Each at its first pixel of the first channel; the other channels are planes behind it.
-  const T* const* around(int y) {
+  // Makes the rows about row y those that are under the mask; rows are taken in their order.
+  void moveTo(int y) {
     take(y + kReach);
     for (int i = 0; i < kCount; ++i) rows_[i] = *place(y + i - kReach);
-    return rows_;
+  }
+
+  // These rows from a pixel of the strip on.
+  void at(int pixel, int channel, const T* (&rows)[kCount]) const {
+    for (int i = 0; i < kCount; ++i)
+      rows[i] = rows_[i] ? rows_[i] + pixel + channel * Strips::kRow : constants_ + Strips::kBefore;
   }
 
  private:
-  static constexpr int kNarrow = 64;  // more than is read beyond a strip
+  static constexpr int kEnd = 32;  // pixels at an end: more than are read beyond a strip
 
   const T** place(int y) { return &taken_[(y + kCount) % kCount]; }
 
   void take(int y) {
-    const Byte* const row = isInPlace_ ? image_.row(y) : nullptr;
-    if (row) {
-      *place(y) = reinterpret_cast<const T*>(row) + x_;
+    if (isInPlace_) {
+      const Byte* const row = image_.row(y);
+      *place(y) = row ? reinterpret_cast<const T*>(row) + x_ : nullptr;
       return;
     }
     T* const copy = ring_.row(y);
@@ -103,41 +110,60 @@ class MaskRows {
   const BorderedImage<kPixelBytes<T, Layout>>& image_;
   StripSource<T, T, Layout, Strips> source_;
   RowRing<T, Layout, Strips, kCount> ring_;
+  alignas(32) T constants_[Layout::kStored == 1 ? Strips::kRow : 1];
   const T *taken_[kCount], *rows_[kCount];
   int x_ = 0, width_ = 0;
   bool isInPlace_ = false;
 };
 
+// The results of some pixels of a row, from the sums of their columns.
+template <GradientMask mask, typename D, int channels>
+class RowResults {
+ public:
+  static constexpr int kColumns = kChunk + 48;  // with those beside, and a vector that begins there
+
+  D* smooth(int channel) { return smooth_[channel]; }
+  D* rise(int channel) { return rise_[channel]; }
+
+  void store(const Results<D>& results, int x, int y, size_t pixels) {
+    const GradientSums<D> sums{smooth_[0], rise_[0], kColumns};
+    const auto storeVectors = [&](Byte* gx, Byte* gy) {
+      const auto orElse = [](Byte* dst, D* work) { return dst ? dst : reinterpret_cast<Byte*>(work); };
+      gradientRow<mask, channels>(sums, orElse(gx, vectors_[0]), orElse(gy, vectors_[1]), pixels);
+    };
+    if (results.gx.image || results.gy.image) storeVectors(results.gx.at(x, y), results.gy.at(x, y));
+    if (Byte* const dst = results.magnitude.at(x, y))
+      gradientMagnitudeRow<mask, channels>(sums, dst, pixels, results.isL2);
+    if (Byte* const dst = results.angle.at(x, y)) {
+      storeVectors(nullptr, nullptr);
+      gradientAngleRow(vectors_[0], vectors_[1], dst, pixels);
+    }
+  }
+
+ private:
+  alignas(32) D smooth_[channels][kColumns], rise_[channels][kColumns];
+  alignas(32) D vectors_[2][kColumns];  // for angles, and in place of what is not wanted
+};
+
 template <GradientMask mask, typename T, typename D, typename Layout>
 void run(const BorderedImage<kPixelBytes<T, Layout>>& image, const Results<D>& results) {
   using Rows = MaskRows<mask, T, Layout>;
-  constexpr int channels = Layout::kStored, pixels = Rows::Strips::kPixels, columns = pixels + 48;
   Rows source(image);
-  alignas(32) D smooth[channels][columns], rise[channels][columns];
-  alignas(32) D vectors[2][columns];  // for angles, and in place of what is not wanted
-  const GradientSums<D> sums{smooth[0], rise[0], columns};
+  RowResults<mask, D, Layout::kStored> row;
   const LumiSize size = image.size();
   for (int x = 0, width = 0; x < size.width; x += width) {
     width = source.widthAt(x);
-    const auto count = static_cast<size_t>(width);
     source.start(x, width);
     for (int y = 0; y < size.height; ++y) {
-      const T* const* const around = source.around(y);
-      for (int c = 0; c < channels; ++c) {
-        const T* plane[Rows::kCount];
-        for (int i = 0; i < Rows::kCount; ++i) plane[i] = around[i] + c * Rows::Strips::kRow;
-        sumColumns<mask>(plane, count, smooth[c], rise[c]);
-      }
-      const auto storeVectors = [&](Byte* gx, Byte* gy) {
-        const auto orElse = [](Byte* dst, D* work) { return dst ? dst : reinterpret_cast<Byte*>(work); };
-        gradientRow<mask, channels>(sums, orElse(gx, vectors[0]), orElse(gy, vectors[1]), count);
-      };
-      if (results.gx.image || results.gy.image) storeVectors(results.gx.at(x, y), results.gy.at(x, y));
-      if (Byte* const dst = results.magnitude.at(x, y))
-        gradientMagnitudeRow<mask, channels>(sums, dst, count, results.isL2);
-      if (Byte* const dst = results.angle.at(x, y)) {
-        storeVectors(nullptr, nullptr);
-        gradientAngleRow(vectors[0], vectors[1], dst, count);
+      source.moveTo(y);
+      for (int first = 0; first < width; first += kChunk) {
+        const auto pixels = static_cast<size_t>(std::min(kChunk, width - first));
+        for (int c = 0; c < Layout::kStored; ++c) {
+          const T* rows[Rows::kCount];
+          source.at(first, c, rows);
+          sumColumns<mask>(rows, pixels, row.smooth(c), row.rise(c));
+        }
+        row.store(results, x + first, y, pixels);
       }
     }
   }
