@@ -50,7 +50,7 @@ struct Results {
   bool isAny() const { return gx.image || gy.image || magnitude.image || angle.image; }
 };
 
-constexpr int kChunk = 512;  // pixels whose sums stay in the nearest cache
+constexpr int kChunk = static_cast<int>(kMostGradients);
 
 // The rows under the mask at a strip of an image, one after the other: where they lie, or where that is not
 // enough, copied with what the border says. Of wide images of one channel only strips at both ends are
@@ -85,10 +85,9 @@ class MaskRows {
     for (int i = 0; i < kCount; ++i) rows_[i] = *place(y + i - kReach);
   }
 
-  // These rows from a pixel of the strip on.
-  void at(int pixel, int channel, const T* (&rows)[kCount]) const {
-    for (int i = 0; i < kCount; ++i)
-      rows[i] = rows_[i] ? rows_[i] + pixel + channel * Strips::kRow : constants_ + Strips::kBefore;
+  // These rows from a pixel of the strip on; channels are planes behind one another.
+  void at(int pixel, const T* (&rows)[kCount]) const {
+    for (int i = 0; i < kCount; ++i) rows[i] = rows_[i] ? rows_[i] + pixel : constants_ + Strips::kBefore;
   }
 
  private:
@@ -116,55 +115,37 @@ class MaskRows {
   bool isInPlace_ = false;
 };
 
-// The results of some pixels of a row, from the sums of their columns.
-template <GradientMask mask, typename D, int channels>
-class RowResults {
- public:
-  static constexpr int kColumns = kChunk + 48;  // with those beside, and a vector that begins there
-
-  D* smooth(int channel) { return smooth_[channel]; }
-  D* rise(int channel) { return rise_[channel]; }
-
-  void store(const Results<D>& results, int x, int y, size_t pixels) {
-    const GradientSums<D> sums{smooth_[0], rise_[0], kColumns};
-    const auto storeVectors = [&](Byte* gx, Byte* gy) {
-      const auto orElse = [](Byte* dst, D* work) { return dst ? dst : reinterpret_cast<Byte*>(work); };
-      gradientRow<mask, channels>(sums, orElse(gx, vectors_[0]), orElse(gy, vectors_[1]), pixels);
-    };
-    if (results.gx.image || results.gy.image) storeVectors(results.gx.at(x, y), results.gy.at(x, y));
-    if (Byte* const dst = results.magnitude.at(x, y))
-      gradientMagnitudeRow<mask, channels>(sums, dst, pixels, results.isL2);
-    if (Byte* const dst = results.angle.at(x, y)) {
-      storeVectors(nullptr, nullptr);
-      gradientAngleRow(vectors_[0], vectors_[1], dst, pixels);
-    }
-  }
-
- private:
-  alignas(32) D smooth_[channels][kColumns], rise_[channels][kColumns];
-  alignas(32) D vectors_[2][kColumns];  // for angles, and in place of what is not wanted
-};
-
 template <GradientMask mask, typename T, typename D, typename Layout>
 void run(const BorderedImage<kPixelBytes<T, Layout>>& image, const Results<D>& results) {
   using Rows = MaskRows<mask, T, Layout>;
   Rows source(image);
-  RowResults<mask, D, Layout::kStored> row;
+  alignas(32) D work[2][kChunk + 8];  // gradients for angles, and in place of one that is not wanted
+  const auto orWork = [&](Byte* dst, int which) { return dst ? dst : reinterpret_cast<Byte*>(work[which]); };
   const LumiSize size = image.size();
+  const auto runAt = [&](int x, int y, int first, int width) {
+    const auto pixels = static_cast<size_t>(std::min(kChunk, width - first));
+    const T* rows[Rows::kCount];
+    source.at(first, rows);
+    const auto make = [&](Byte* gx, Byte* gy, Byte* magnitude) {
+      const GradientTargets to{gx, gy, magnitude, results.isL2};
+      gradientRow<mask, Layout::kStored>(rows, Rows::Strips::kRow, to, pixels);
+    };
+    Byte *const gx = results.gx.at(x, y), *const gy = results.gy.at(x, y);
+    Byte *const magnitude = results.magnitude.at(x, y), *const angle = results.angle.at(x, y);
+    if (gx || gy)
+      make(orWork(gx, 0), orWork(gy, 1), magnitude);
+    else if (magnitude)
+      make(nullptr, nullptr, magnitude);
+    if (!angle) return;
+    make(orWork(nullptr, 0), orWork(nullptr, 1), nullptr);
+    gradientAngleRow(work[0], work[1], angle, pixels);
+  };
   for (int x = 0, width = 0; x < size.width; x += width) {
     width = source.widthAt(x);
     source.start(x, width);
     for (int y = 0; y < size.height; ++y) {
       source.moveTo(y);
-      for (int first = 0; first < width; first += kChunk) {
-        const auto pixels = static_cast<size_t>(std::min(kChunk, width - first));
-        for (int c = 0; c < Layout::kStored; ++c) {
-          const T* rows[Rows::kCount];
-          source.at(first, c, rows);
-          sumColumns<mask>(rows, pixels, row.smooth(c), row.rise(c));
-        }
-        row.store(results, x + first, y, pixels);
-      }
+      for (int first = 0; first < width; first += kChunk) runAt(x + first, y, first, width);
     }
   }
 }

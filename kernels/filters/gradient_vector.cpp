@@ -133,11 +133,32 @@ template <typename W, size_t lanes, typename Make>
   });
 }
 
+// Smoothed columns of samples and the differences of their ends, from the leftmost column under the mask on.
+template <typename W>
+struct ColumnSums {
+  alignas(32) W smooth[kMostGradients + 48], rise[kMostGradients + 48];
+};
+
+template <GradientMask mask, typename T>
+[[gnu::always_inline]] inline void sumColumns(const T* const* rows, ptrdiff_t channel, size_t pixels,
+                                              ColumnSums<Wide<T>>& sums) {
+  constexpr int reach = gradientReach(mask), count = 2 * reach + 1;
+  const T* row[count];  // which no store can be thought to change
+  for (int k = 0; k < count; ++k) row[k] = rows[k] + channel - reach;
+  for (size_t i = 0; i < pixels + 2 * reach; i += kLanes<Wide<T>>) {
+    const auto down = [&](int k) { return loadWide(row[k] + i); };
+    const auto up = [&](int k) { return loadWide(row[count - 1 - k] + i); };
+    storeLanes(reinterpret_cast<Byte*>(sums.smooth + i), smoothed<mask>(down));
+    storeLanes(reinterpret_cast<Byte*>(sums.rise + i), fall<mask>(up));
+  }
+}
+
 template <GradientMask mask, int channels, typename W>
-[[gnu::always_inline]] inline Gradients<Lanes<W>> gradientsAt(const GradientSums<W>& sums, size_t i) {
-  auto g = gradientsOf<mask>(sums.smooth + i, sums.rise + i);
-  for (size_t c = 1; c < channels; ++c)
-    g = strongest(g, gradientsOf<mask>(sums.smooth + c * sums.channel + i, sums.rise + c * sums.channel + i));
+[[gnu::always_inline]] inline Gradients<Lanes<W>> gradientsAt(const ColumnSums<W> (&sums)[channels],
+                                                              size_t i) {
+  auto g = gradientsOf<mask>(sums[0].smooth + i, sums[0].rise + i);
+  for (int c = 1; c < channels; ++c)
+    g = strongest(g, gradientsOf<mask>(sums[c].smooth + i, sums[c].rise + i));
   return g;
 }
 
@@ -165,39 +186,27 @@ Floats8 loadAsFloats(const int16_t* p) { return loadWide<int16_t>(p); }
 
 }  // namespace
 
-template <GradientMask mask, typename T>
-void sumColumns(const T* const* rows, size_t pixels, Wide<T>* smooth, Wide<T>* rise) {
-  constexpr int reach = gradientReach(mask), count = 2 * reach + 1;
-  const T* row[count];  // which no store can be thought to change
-  for (int k = 0; k < count; ++k) row[k] = rows[k] - reach;
-  for (size_t i = 0; i < pixels + 2 * reach; i += kLanes<Wide<T>>) {
-    const auto down = [&](int k) { return loadWide(row[k] + i); };
-    const auto up = [&](int k) { return loadWide(row[count - 1 - k] + i); };
-    storeLanes(reinterpret_cast<Byte*>(smooth + i), smoothed<mask>(down));
-    storeLanes(reinterpret_cast<Byte*>(rise + i), fall<mask>(up));
-  }
-}
-
-template <GradientMask mask, int channels, typename W>
-void gradientRow(GradientSums<W> sums, uint8_t* gx, uint8_t* gy, size_t pixels) {
-  inLanes<W, kLanes<W>>(pixels, [=](size_t i, const auto& store) {
-    const auto g = gradientsAt<mask, channels>(sums, i);
-    store(gx + i * sizeof(W), g.x);
-    store(gy + i * sizeof(W), g.y);
-  });
-}
-
-template <GradientMask mask, int channels, typename W>
-void gradientMagnitudeRow(GradientSums<W> sums, uint8_t* dst, size_t pixels, bool isL2) {
-  const auto run = [=](const auto& magnitudeOf) {
-    inLanes<W, kLanes<W>>(pixels, [=](size_t i, const auto& store) {
-      store(dst + i * sizeof(W), magnitudeOf(gradientsAt<mask, channels>(sums, i)));
+template <GradientMask mask, int channels, typename T>
+void gradientRow(const T* const* rows, ptrdiff_t channel, GradientTargets to, size_t pixels) {
+  using W = Wide<T>;
+  ColumnSums<W> sums[channels];
+  for (int c = 0; c < channels; ++c) sumColumns<mask>(rows, c * channel, pixels, sums[c]);
+  if (to.gx)
+    inLanes<W, kLanes<W>>(pixels, [&](size_t i, const auto& store) {
+      const auto g = gradientsAt<mask>(sums, i);
+      store(to.gx + i * sizeof(W), g.x);
+      store(to.gy + i * sizeof(W), g.y);
+    });
+  if (!to.magnitude) return;
+  const auto storeMagnitudes = [&](const auto& magnitudeOf) {
+    inLanes<W, kLanes<W>>(pixels, [&](size_t i, const auto& store) {
+      store(to.magnitude + i * sizeof(W), magnitudeOf(gradientsAt<mask>(sums, i)));
     });
   };
-  if (isL2)
-    run([](const auto& g) { return lengthOf(g); });
+  if (to.isL2)
+    storeMagnitudes([](const auto& g) { return lengthOf(g); });
   else
-    run([](const auto& g) { return sumOf(g); });
+    storeMagnitudes([](const auto& g) { return sumOf(g); });
 }
 
 template <typename W>
@@ -208,27 +217,20 @@ void gradientAngleRow(const W* gx, const W* gy, uint8_t* dst, size_t pixels) {
   });
 }
 
-#define LUMI_SUM_COLUMNS(mask, T) \
-  template void sumColumns<GradientMask::mask>(const T* const*, size_t, Wide<T>*, Wide<T>*);
-#define LUMI_GRADIENT_ROWS(mask, channels, W)                                                           \
-  template void gradientRow<GradientMask::mask, channels>(GradientSums<W>, uint8_t*, uint8_t*, size_t); \
-  template void gradientMagnitudeRow<GradientMask::mask, channels>(GradientSums<W>, uint8_t*, size_t, bool);
-#define LUMI_GRADIENT_MASK(mask)       \
-  LUMI_SUM_COLUMNS(mask, uint8_t)      \
-  LUMI_SUM_COLUMNS(mask, uint16_t)     \
-  LUMI_SUM_COLUMNS(mask, int16_t)      \
-  LUMI_SUM_COLUMNS(mask, float)        \
-  LUMI_GRADIENT_ROWS(mask, 1, int16_t) \
-  LUMI_GRADIENT_ROWS(mask, 3, int16_t) \
-  LUMI_GRADIENT_ROWS(mask, 1, float)   \
-  LUMI_GRADIENT_ROWS(mask, 3, float)
-LUMI_GRADIENT_MASK(Sobel3)
-LUMI_GRADIENT_MASK(Sobel5)
-LUMI_GRADIENT_MASK(Prewitt)
-LUMI_GRADIENT_MASK(Scharr)
-#undef LUMI_GRADIENT_MASK
+#define LUMI_GRADIENT_ROWS(mask, T)                                                                      \
+  template void gradientRow<GradientMask::mask, 1>(const T* const*, ptrdiff_t, GradientTargets, size_t); \
+  template void gradientRow<GradientMask::mask, 3>(const T* const*, ptrdiff_t, GradientTargets, size_t);
+#define LUMI_GRADIENT_TYPES(mask)    \
+  LUMI_GRADIENT_ROWS(mask, uint8_t)  \
+  LUMI_GRADIENT_ROWS(mask, uint16_t) \
+  LUMI_GRADIENT_ROWS(mask, int16_t)  \
+  LUMI_GRADIENT_ROWS(mask, float)
+LUMI_GRADIENT_TYPES(Sobel3)
+LUMI_GRADIENT_TYPES(Sobel5)
+LUMI_GRADIENT_TYPES(Prewitt)
+LUMI_GRADIENT_TYPES(Scharr)
+#undef LUMI_GRADIENT_TYPES
 #undef LUMI_GRADIENT_ROWS
-#undef LUMI_SUM_COLUMNS
 template void gradientAngleRow<int16_t>(const int16_t*, const int16_t*, uint8_t*, size_t);
 template void gradientAngleRow<float>(const float*, const float*, uint8_t*, size_t);
 

@@ -17,27 +17,23 @@ constexpr int gradientReach(GradientMask mask) { return mask == GradientMask::So
 template <typename T>
 using Wide = std::conditional_t<sizeof(T) == 1, int16_t, float>;
 
-// From as many rows of samples as the mask has, each at its first pixel, smoothed columns and the differences
-// of their ends: of so many pixels and of the columns beside them that the mask covers, the leftmost one
-// first. Rows of samples are read, and those of sums written, up to 31 samples beyond.
-template <GradientMask mask, typename T>
-void sumColumns(const T* const* rows, size_t pixels, Wide<T>* smooth, Wide<T>* rise);
+// Pixels that are made at a time, at most: their sums stay in the nearest cache.
+inline constexpr size_t kMostGradients = 512;
 
-// Such sums for each channel, so many samples apart.
-template <typename W>
-struct GradientSums {
-  const W *smooth, *rise;
-  size_t channel;
+// Rows of results, of any alignment. Both gradients are made where there is a place for them, and magnitudes
+// where there is one for those. Sums of squares of words are converted to floats, and their roots rounded,
+// ties to even.
+struct GradientTargets {
+  uint8_t *gx, *gy, *magnitude;
+  bool isL2;
 };
 
-// Both gradients, to rows of any alignment. Of three channels each pixel has those of the one with the
-// largest sum of their squares, the first of equal ones.
-template <GradientMask mask, int channels, typename W>
-void gradientRow(GradientSums<W> sums, uint8_t* gx, uint8_t* gy, size_t pixels);
-
-// Their magnitudes. Sums of squares of words are converted to floats, and their roots rounded, ties to even.
-template <GradientMask mask, int channels, typename W>
-void gradientMagnitudeRow(GradientSums<W> sums, uint8_t* dst, size_t pixels, bool isL2);
+// From as many rows of samples as the mask has, each at its first pixel of the first channel; those of other
+// channels lie `channel` samples apart. Of three channels each pixel has the gradients of the one with the
+// largest sum of their squares, the first of equal ones. Up to 31 samples behind the last one under the mask
+// are read.
+template <GradientMask mask, int channels, typename T>
+void gradientRow(const T* const* rows, ptrdiff_t channel, GradientTargets targets, size_t pixels);
 
 // Angles of gradients, with errors below 2 units of the last place. Up to 7 gradients are read behind the
 // last one.
