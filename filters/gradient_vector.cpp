@@ -8,6 +8,7 @@
 #include "filters/strip_source.hpp"
 #include "frame/check.hpp"
 #include "kernels/filters/gradient_vector.hpp"
+#include "kernels/path_count.hpp"
 
 namespace lumi {
 namespace {
@@ -75,7 +76,8 @@ class MaskRows {
   void start(int x, int width) {
     x_ = x;
     width_ = width;
-    isInPlace_ = Layout::kStored == 1 && x > 0 && x + width + kEnd <= image_.size().width;
+    isInPlace_ = Layout::kStored == 1 && x > 0 && image_.size().width - x - width >= kEnd;
+    if (isInPlace_) countPath(Path::GradientsInPlace);
     for (int y = -kReach; y < kReach; ++y) take(y);
   }
 

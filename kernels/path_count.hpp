@@ -31,6 +31,8 @@ enum class Path {
   BoxOfThree,
   WindowSumsOfWords,
   WindowStrips,
+  GradientsInPlace,
+  HogBlocksTogether,
 };
 
 }  // namespace lumi

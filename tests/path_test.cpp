@@ -19,6 +19,8 @@
 #include "lumi/copy_channels.h"
 #include "lumi/div.h"
 #include "lumi/filter_box.h"
+#include "lumi/gradient_vector.h"
+#include "lumi/hog.h"
 #include "lumi/lut.h"
 #include "lumi/lut_palette.h"
 #include "lumi/min_max.h"
@@ -510,6 +512,36 @@ TEST(Paths, BoxesOfManyFloatsGoInStrips) {
   EXPECT_EQ(strips(1900, 60), 1);
   EXPECT_EQ(strips(1000, 60), 0);
   EXPECT_EQ(strips(1900, 20), 0);
+// Beyond 512 columns the middle of an image is done where it lies, but not that of three channels.
+TEST(Paths, GradientsOfWideImagesAreMadeInPlace) {
+  std::vector<Lum8u> src(3 * 600 * 2), buffer(1 << 14);
+  std::vector<Lum16s> dst(600 * 2);
+  const auto inPlace = [&](auto* gradients, int width, int channels, auto value) {
+    return taken(Path::GradientsInPlace, [&] {
+      return gradients(src.data(), width * channels, dst.data(), 2 * width, nullptr, 0, nullptr, 0, nullptr,
+                       0, {width, 2}, lumiMask3x3, 2, lumiBorderConst, value, buffer.data());
+    });
+  };
+  EXPECT_EQ(inPlace(lumiGradientVectorSobel_8u16s_C1R, 513, 1, Lum8u{9}), 1);
+  EXPECT_EQ(inPlace(lumiGradientVectorSobel_8u16s_C1R, 512, 1, Lum8u{9}), 0);
+  EXPECT_EQ(inPlace(lumiGradientVectorSobel_8u16s_C3C1R, 600, 3, src.data()), 0);
+}
+
+TEST(Paths, FourBlocksOfAWindowAreAddedUpTogether) {
+  const auto together = [](int across) {
+    const LumiHOGConfig config = {0, 4, 8, 4, 9, 2, 0.2F, 4 + 4 * across, 8};
+    std::vector<Lum8u> object(72 + 16 * 64), image(1024), buffer(12 * 1024);
+    std::vector<Lum32f> descriptor(36 * 16);
+    auto* const spec = reinterpret_cast<LumiHOGSpec*>(object.data());
+    EXPECT_EQ(lumiHOGInit(&config, spec), lumStatusOk);
+    return taken(Path::HogBlocksTogether, [&] {
+      return lumiHOG_8u32f_C1R(image.data(), 128, {config.windowWidth, 8}, nullptr, 1, descriptor.data(),
+                               spec, lumiBorderReplicate, 0, buffer.data());
+    });
+  };
+  EXPECT_EQ(together(3), 0);
+  EXPECT_EQ(together(4), 1);
+  EXPECT_EQ(together(11), 2);
 }
 
 TEST(Paths, LongRowsOfPackedFloatsGoInWideGroups) {

@@ -3,6 +3,7 @@
 
 #include <cstring>
 
+#include "kernels/path_count.hpp"
 #include "kernels/simd/filter.hpp"
 #include "kernels/simd/lanes.hpp"
 #include "kernels/simd/quotients.hpp"
@@ -212,7 +213,10 @@ void hogDescriptor(const HogGrid& grid, const HogVotes& votes, uint8_t* dst) {
       storeNormalised(grid, histograms[i], dst);
     left -= blocks;
   };
-  while (left >= kTogether) describe(std::integral_constant<size_t, kTogether>());
+  while (left >= kTogether) {
+    countPath(Path::HogBlocksTogether);
+    describe(std::integral_constant<size_t, kTogether>());
+  }
   if (left >= 2) describe(std::integral_constant<size_t, 2>());
   if (left == 1) describe(std::integral_constant<size_t, 1>());
 }
