@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "frame/check.hpp"
+#include "kernels/filters/exponential.hpp"
 
 namespace lumi {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "filters/box_mean.hpp"
 #include "frame/check.hpp"
-#include "frame/power.hpp"
+#include "kernels/filters/exponential.hpp"
 #include "kernels/filters/threshold_adaptive.hpp"
 #include "lumi/set.h"
 
@@ -188,7 +188,7 @@ LumStatus initAdaptiveGauss(LumiSize area, LumiSize mask, LumiDataType dataType,
   const float width = sigma * (sigma + sigma);
   float sum = 0;
   for (int i = -reach; i <= reach; ++i) {
-    const auto weight = static_cast<float>(exponential(-(double{1} * i * i) / double{width}));
+    const auto weight = static_cast<float>(exponentialOfNegative(-(double{1} * i * i) / double{width}));
     weights[i + reach] = weight;
     sum += weight;
   }

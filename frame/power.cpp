@@ -7,6 +7,4 @@ namespace lumi {
 
 double power(double base, double exponent) { return std::pow(base, exponent); }
 
-double exponential(double x) { return std::exp(x); }
-
 }  // namespace lumi

@@ -5,7 +5,5 @@ namespace lumi {
 
 // std::pow, which may want an aligned stack, for families, which may have none.
 double power(double base, double exponent);
-// std::exp, likewise.
-double exponential(double x);
 
 }  // namespace lumi

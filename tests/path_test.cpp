@@ -512,6 +512,8 @@ TEST(Paths, BoxesOfManyFloatsGoInStrips) {
   EXPECT_EQ(strips(1900, 60), 1);
   EXPECT_EQ(strips(1000, 60), 0);
   EXPECT_EQ(strips(1900, 20), 0);
+}
+
 // Beyond 512 columns the middle of an image is done where it lies, but not that of three channels.
 TEST(Paths, GradientsOfWideImagesAreMadeInPlace) {
   std::vector<Lum8u> src(3 * 600 * 2), buffer(1 << 14);

@@ -386,14 +386,49 @@ Peer gradient(View around, View dst, int reach, Gradient kind, int side) {
       cv::Scharr(s, d, d.depth(), across, !across);
     else
       cv::Sobel(s, d, d.depth(), across, !across, side);
-    Peer boxFilter(View src, View dst, LumiSize window) {
-      const cv::Mat whole = mat(src);
-      const cv::Size size(dst.roi.width, dst.roi.height);
-      const cv::Mat inner =
-          whole(cv::Rect({(whole.cols - size.width) / 2, (whole.rows - size.height) / 2}, size));
-      return peer("opencv", [inner, d = mat(dst), window]() mutable {
-        cv::boxFilter(inner, d, -1, {window.width, window.height}, {-1, -1}, true, cv::BORDER_REPLICATE);
-      });
+  });
+}
+
+Peer gauss(View around, View dst, int reach, int side) {
+  const cv::Mat s = mat(around)(cv::Rect(reach, reach, dst.roi.width, dst.roi.height));
+  return peer("opencv", [=, d = mat(dst)]() mutable { cv::GaussianBlur(s, d, {side, side}, 0); });
+}
+
+Peer box(View around, View dst, int reach, int side) {
+  const cv::Mat s = mat(around)(cv::Rect(reach, reach, dst.roi.width, dst.roi.height));
+  return peer("opencv", [=, d = mat(dst)]() mutable { cv::blur(s, d, {side, side}); });
+}
+
+Peer filterLines(View whole, LumiPoint at, View dst, std::vector<float> taps, bool isColumn,
+                 bool separately) {
+  const cv::Mat src = mat(whole)(cv::Rect(at.x, at.y, dst.roi.width, dst.roi.height));
+  const cv::Mat line = cv::Mat(taps).clone(), kernel = isColumn ? line : cv::Mat(line.t()),
+                one = cv::Mat::ones(1, 1, CV_32F);
+  cv::Mat d = mat(dst);
+  if (!separately) return peer("opencv", [=] { cv::filter2D(src, d, d.depth(), kernel); });
+  return peer("sepFilter2D",
+              [=] { cv::sepFilter2D(src, d, d.depth(), isColumn ? one : line, isColumn ? line : one); });
+}
+
+Peer boxFilter(View src, View dst, LumiSize window) {
+  const cv::Mat whole = mat(src);
+  const cv::Size size(dst.roi.width, dst.roi.height);
+  const cv::Mat inner =
+      whole(cv::Rect({(whole.cols - size.width) / 2, (whole.rows - size.height) / 2}, size));
+  return peer("opencv", [inner, d = mat(dst), window]() mutable {
+    cv::boxFilter(inner, d, -1, {window.width, window.height}, {-1, -1}, true, cv::BORDER_REPLICATE);
+  });
+}
+
+Peer adaptiveThreshold(View src, View dst, int side, double delta, bool weighted) {
+  const int method = weighted ? cv::ADAPTIVE_THRESH_GAUSSIAN_C : cv::ADAPTIVE_THRESH_MEAN_C;
+  Peer result = peer("opencv", [=, s = mat(src), d = mat(dst)]() mutable {
+    cv::adaptiveThreshold(s, d, 200, method, cv::THRESH_BINARY, side, delta);
+  });
+  result.differs = "rounds the mean";
+  return result;
+}
+
 Peer sobel(View src, View x, View y, int side) {
   Peer result = peer("opencv", [=, s = mat(src), dx = mat(x), dy = mat(y)]() mutable {
     cv::Sobel(s, dx, dx.depth(), 1, 0, side, 1, 0, cv::BORDER_REPLICATE);
@@ -475,143 +510,55 @@ Peer cosine8x8(View src, View dst, bool inverse) {
       cv::Mat d(8, 8, CV_32F, dst.bytes + 256 * i);
       cv::dct(s, d, inverse ? cv::DCT_INVERSE : 0);
     }
+  });
+}
 
-    Peer adaptiveThreshold(View src, View dst, int side, double delta, bool weighted) {
-      const int method = weighted ? cv::ADAPTIVE_THRESH_GAUSSIAN_C : cv::ADAPTIVE_THRESH_MEAN_C;
-      Peer result = peer("opencv", [=, s = mat(src), d = mat(dst)]() mutable {
-        cv::adaptiveThreshold(s, d, 200, method, cv::THRESH_BINARY, side, delta);
-      });
-      result.differs = "rounds the mean";
-      return result;
+Peer waveletBands(View src, std::vector<View> dst, std::vector<float> low, std::vector<float> high) {
+  const int length = static_cast<int>(low.size()), reach = length - length / 2 - 1;
+  Peer result = peer("opencv", [=, s = mat(src), d = mats(dst), filtered = cv::Mat()]() mutable {
+    for (std::size_t i = 0; i < 4; ++i) {
+      cv::sepFilter2D(s, filtered, CV_32F, i < 2 ? low : high, i % 2 == 0 ? low : high, {reach, reach}, 0,
+                      cv::BORDER_REPLICATE);
+      cv::resize(filtered, d[i], d[i].size(), 0, 0, cv::INTER_NEAREST);
     }
+  });
+  result.differs = "repeats its border, and adds up in another order";
+  return result;
+}
 
-    Peer resizeNearest(View src, View dst) {
-      return peer("opencv", [s = mat(src), d = mat(dst)]() mutable {
-        cv::resize(s, d, d.size(), 0, 0, cv::INTER_NEAREST);
-      });
-    }
+Peer norm(View src, View result, Norm kind) {
+  return storing(result, [s = mat(src), type = kNorms[static_cast<int>(kind)]] { return cv::norm(s, type); });
+}
 
-    Peer gauss(View around, View dst, int reach, int side) {
-      const cv::Mat s = mat(around)(cv::Rect(reach, reach, dst.roi.width, dst.roi.height));
-      return peer("opencv", [=, d = mat(dst)]() mutable { cv::GaussianBlur(s, d, {side, side}, 0); });
-    }
+Peer normOfDifference(View a, View b, View result, Norm kind) {
+  return storing(result, [x = mat(a), y = mat(b), type = kNorms[static_cast<int>(kind)]] {
+    return cv::norm(x, y, type);
+  });
+}
 
-    Peer box(View around, View dst, int reach, int side) {
-      const cv::Mat s = mat(around)(cv::Rect(reach, reach, dst.roi.width, dst.roi.height));
-      return peer("opencv", [=, d = mat(dst)]() mutable { cv::blur(s, d, {side, side}); });
-      Peer filterLines(View whole, LumiPoint at, View dst, std::vector<float> taps, bool isColumn,
-                       bool separately) {
-        const cv::Mat src = mat(whole)(cv::Rect(at.x, at.y, dst.roi.width, dst.roi.height));
-        const cv::Mat line = cv::Mat(taps).clone(), kernel = isColumn ? line : cv::Mat(line.t()),
-                      one = cv::Mat::ones(1, 1, CV_32F);
-        cv::Mat d = mat(dst);
-        if (!separately) return peer("opencv", [=] { cv::filter2D(src, d, d.depth(), kernel); });
-        return peer("sepFilter2D", [=] {
-          cv::sepFilter2D(src, d, d.depth(), isColumn ? one : line, isColumn ? line : one);
-        });
-      }
+Peer relativeNorm(View a, View b, View result, Norm kind) {
+  return storing(result, [x = mat(a), y = mat(b), type = kNorms[static_cast<int>(kind)]] {
+    return cv::norm(x, y, type | cv::NORM_RELATIVE);
+  });
+}
 
-      Peer resizeNearest(View src, View dst) {
-        return peer("opencv", [s = mat(src), d = mat(dst)]() mutable {
-          cv::resize(s, d, d.size(), 0, 0, cv::INTER_NEAREST);
-        });
-      }
+Peer dotProduct(View a, View b, View result) {
+  return storing(result, [x = mat(a), y = mat(b)] { return x.dot(y); });
+}
 
-      Peer resizeLinear(View src, View dst) {
-        return peer("opencv", [s = mat(src), d = mat(dst)]() mutable {
-          cv::resize(s, d, d.size(), 0, 0, cv::INTER_LINEAR);
-        });
-      }
+Peer multiplySpectra(View a, View b, View dst, bool conjugate) {
+  Peer product = peer("opencv", [=, x = mat(a), y = mat(b), d = mat(dst)]() mutable {
+    cv::mulSpectrums(x, y, d, 0, conjugate);
+  });
+  product.differs = "some of its products are doubles";
+  return product;
+}
 
-      namespace {
+Peer meanAndDeviation(View src) {
+  return peer("opencv", [s = mat(src)] {
+    cv::Scalar mean, deviation;
+    cv::meanStdDev(s, mean, deviation);
+  });
+}
 
-      constexpr int kNorms[] = {cv::NORM_INF, cv::NORM_L1, cv::NORM_L2};
-
-      template <typename Find>
-      Peer storing(View result, Find find) {
-        return peer("opencv", [=] {
-          const double value = find();
-          std::memcpy(result.bytes, &value, sizeof value);
-        });
-      }
-
-      }  // namespace
-
-      Peer fourier(View src, View dst, bool inverse) {
-        const int flags = inverse ? cv::DFT_INVERSE | (dst.channels == 1 ? cv::DFT_REAL_OUTPUT : 0) : 0;
-        Peer result = peer("opencv", [=, s = mat(src), d = mat(dst)]() mutable { cv::dft(s, d, flags); });
-        result.differs = "rounds otherwise";
-        return result;
-      }
-
-      Peer cosine(View src, View dst, bool inverse) {
-        if (src.roi.width % 2 != 0 || src.roi.height % 2 != 0) return {};
-        Peer result = peer("opencv", [=, s = mat(src), d = mat(dst)]() mutable {
-          cv::dct(s, d, inverse ? cv::DCT_INVERSE : 0);
-        });
-        result.differs = "rounds otherwise";
-        return result;
-      }
-
-      Peer cosine8x8(View src, View dst, bool inverse) {
-        if (src.depth != Depth::f32 || !src.isTight() || !dst.isTight()) return {};
-        return peer("opencv", [=] {
-          const int blocks = src.roi.width * src.roi.height / 64;
-          for (int i = 0; i < blocks; ++i) {
-            const cv::Mat s(8, 8, CV_32F, src.bytes + 256 * i);
-            cv::Mat d(8, 8, CV_32F, dst.bytes + 256 * i);
-            cv::dct(s, d, inverse ? cv::DCT_INVERSE : 0);
-          }
-        });
-      }
-
-      Peer waveletBands(View src, std::vector<View> dst, std::vector<float> low, std::vector<float> high) {
-        const int length = static_cast<int>(low.size()), reach = length - length / 2 - 1;
-        Peer result = peer("opencv", [=, s = mat(src), d = mats(dst), filtered = cv::Mat()]() mutable {
-          for (std::size_t i = 0; i < 4; ++i) {
-            cv::sepFilter2D(s, filtered, CV_32F, i < 2 ? low : high, i % 2 == 0 ? low : high, {reach, reach},
-                            0, cv::BORDER_REPLICATE);
-            cv::resize(filtered, d[i], d[i].size(), 0, 0, cv::INTER_NEAREST);
-          }
-        });
-        result.differs = "repeats its border, and adds up in another order";
-        return result;
-      }
-
-      Peer norm(View src, View result, Norm kind) {
-        return storing(result,
-                       [s = mat(src), type = kNorms[static_cast<int>(kind)]] { return cv::norm(s, type); });
-      }
-
-      Peer normOfDifference(View a, View b, View result, Norm kind) {
-        return storing(result, [x = mat(a), y = mat(b), type = kNorms[static_cast<int>(kind)]] {
-          return cv::norm(x, y, type);
-        });
-      }
-
-      Peer relativeNorm(View a, View b, View result, Norm kind) {
-        return storing(result, [x = mat(a), y = mat(b), type = kNorms[static_cast<int>(kind)]] {
-          return cv::norm(x, y, type | cv::NORM_RELATIVE);
-        });
-      }
-
-      Peer dotProduct(View a, View b, View result) {
-        return storing(result, [x = mat(a), y = mat(b)] { return x.dot(y); });
-      }
-
-      Peer multiplySpectra(View a, View b, View dst, bool conjugate) {
-        Peer product = peer("opencv", [=, x = mat(a), y = mat(b), d = mat(dst)]() mutable {
-          cv::mulSpectrums(x, y, d, 0, conjugate);
-        });
-        product.differs = "some of its products are doubles";
-        return product;
-      }
-
-      Peer meanAndDeviation(View src) {
-        return peer("opencv", [s = mat(src)] {
-          cv::Scalar mean, deviation;
-          cv::meanStdDev(s, mean, deviation);
-        });
-      }
-
-    }  // namespace bench::opencv
+}  // namespace bench::opencv

@@ -6,9 +6,6 @@
 
 namespace lumi {
 
-// exp(x) for x <= 0, with an error below 2 units of the last place; 0 below -700.
-double exponentialOfNegative(double x);
-
 // Rows of floats of a strip of an image, at its first pixel; channels lie so many floats apart. The middle
 // row has a pixel before the strip and one behind it. Up to 8 floats behind a row may be read.
 struct HogStrip {

@@ -22,8 +22,8 @@ AnyImage decimated(const Colour& photo, Calls& calls) {
   const LumiSize size = photo.size(), whole = {size.width + 2 * kAround, size.height + 2 * kAround};
   Grey src(whole);
   calls.time("lumiCopyReplicateBorder_8u_C1R", whole, [&] {
-    return lumiCopyReplicateBorder_8u_C1R(planes.green.data(), planes.green.step(), size, src.data(), src.step(),
-                                          whole, kAround, kAround);
+    return lumiCopyReplicateBorder_8u_C1R(planes.green.data(), planes.green.step(), size, src.data(),
+                                          src.step(), whole, kAround, kAround);
   });
   const LumiSize tall = {size.width, whole.height};
   const LumiSize made = {std::max(1, fraction.of(size.width)), std::max(1, fraction.of(size.height))};

@@ -12,8 +12,8 @@ Colour bordered(const Colour& photo, LumiSize around, Calls& calls) {
   const LumiSize size = {photo.size().width + 2 * around.width, photo.size().height + 2 * around.height};
   Colour result(size);
   calls.time("lumiCopyReplicateBorder_8u_C3R", size, [&] {
-    return lumiCopyReplicateBorder_8u_C3R(photo.data(), photo.step(), photo.size(), result.data(), result.step(),
-                                          size, around.height, around.width);
+    return lumiCopyReplicateBorder_8u_C3R(photo.data(), photo.step(), photo.size(), result.data(),
+                                          result.step(), size, around.height, around.width);
   });
   return result;
 }
@@ -28,12 +28,12 @@ AnyImage smoothed(const Colour& photo, Calls& calls) {
   Colour rows(tall), result(photo.size());
   const int count = static_cast<int>(kHill.size());
   calls.time("lumiFilterRow_8u_C3R", tall, [&] {
-    return lumiFilterRow_8u_C3R(src.at(kReach, 0), src.step(), rows.data(), rows.step(), tall, kHill.data(), count,
-                                kReach, kHillSum);
+    return lumiFilterRow_8u_C3R(src.at(kReach, 0), src.step(), rows.data(), rows.step(), tall, kHill.data(),
+                                count, kReach, kHillSum);
   });
   calls.time("lumiFilterColumn_8u_C3R", photo.size(), [&] {
-    return lumiFilterColumn_8u_C3R(rows.at(0, kReach), rows.step(), result.data(), result.step(), photo.size(),
-                                   kHill.data(), count, kReach, kHillSum);
+    return lumiFilterColumn_8u_C3R(rows.at(0, kReach), rows.step(), result.data(), result.step(),
+                                   photo.size(), kHill.data(), count, kReach, kHillSum);
   });
   return result;
 }
@@ -45,8 +45,8 @@ AnyImage moved(const Colour& photo, Calls& calls) {
   Colour result(photo.size());
   const std::vector<Lum32f> taps(kLength, 1.0F / kLength);
   calls.time("lumiFilterRow32f_8u_C3R", photo.size(), [&] {
-    return lumiFilterRow32f_8u_C3R(src.at(kLength - 1, 0), src.step(), result.data(), result.step(), photo.size(),
-                                   taps.data(), kLength, 0);
+    return lumiFilterRow32f_8u_C3R(src.at(kLength - 1, 0), src.step(), result.data(), result.step(),
+                                   photo.size(), taps.data(), kLength, 0);
   });
   return result;
 }

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+// Weights of Gaussians, which are the same in every build.
+#pragma once
+
+namespace lumi {
+
+// exp(x) for x <= 0, with an error below 2 units of the last place; 0 below -700.
+double exponentialOfNegative(double x);
+
+}  // namespace lumi
