@@ -61,7 +61,8 @@ bool isRefusedHere(const ExportRow& row, LumStatus status, int width) {
   const bool takesObject =
       std::any_of(row.arguments.begin(), row.arguments.end(),
                   [](const Argument& argument) { return std::string(argument.name) == "spec"; });
-  return status == (takesObject ? lumStatusBadArgument : lumStatusZeroQualityDenominator);
+  if (takesObject) return status == lumStatusBadArgument || status == lumStatusBadContext;
+  return status == lumStatusZeroQualityDenominator;
 }
 
 void callAll(int width, int misalignment) {

@@ -248,7 +248,8 @@ Call Stage::onTwins(const Member& member, const Call& call) const {
   Call result = call;
   // The ROI may lie apart from what is read for it, and outside of all memory.
   for (int p = 0; p < std::max(1, member.src.planes); ++p)
-    result.src[p] = member.surroundings ? src_[p]->twin(call.src[p]) : twin(call.src[p]);
+    result.src[p] =
+        member.surroundings && call.src[p] != call.dst[p] ? src_[p]->twin(call.src[p]) : twin(call.src[p]);
   result.src2 = twin(call.src2);
   for (int p = 0; p < member.dst.planes; ++p) result.dst[p] = twin(call.dst[p]);
   if (call.mask) result.mask = twin(call.mask);
