@@ -7,7 +7,7 @@
 #include <type_traits>
 
 #include "kernels/simd/angles.hpp"
-#include "kernels/simd/filter.hpp"
+#include "kernels/simd/window.hpp"
 
 namespace lumi {
 namespace {
@@ -47,20 +47,6 @@ Lanes<Wide<T>> loadWide(const T* p) {
 
 void storeLanes(Byte* p, Floats8 x) { store32(p, bytesOf(x)); }
 void storeLanes(Byte* p, Samples<int16_t> x) { storeVector(p, x.v); }
-
-template <int n, typename V>
-V times(V x) {
-  if constexpr (n == 1)
-    return x;
-  else if constexpr (n == 2)
-    return x + x;
-  else if constexpr (n == 4)
-    return times<2>(times<2>(x));
-  else if constexpr (std::is_same_v<V, Floats8>)
-    return x * broadcastFloat<V>(n);
-  else
-    return x * broadcast(int16_t{n});
-}
 
 // Weights of the outer and the inner samples of the smoothing.
 template <GradientMask mask>
