@@ -55,7 +55,7 @@ LumStatus lumiGradientVectorGetBufferSize(LumiSize roi, LumiMaskSize mask, LumiD
  * lumiBorderInMemory, else the nearest one inside for lumiBorderReplicate and the constant for lumiBorderConst; a
  * corner is the constant where either is. Bits of border above the lowest eight are not looked at.
  *
- * Images may be misaligned. They must not overlap one another or the buffer.
+ * Images may be misaligned. They must not overlap one another or the buffer, nor may rows of a result.
  *
  * Checked in this order; on an error nothing is written:
  *   lumStatusNullPointer (-8)  src is null

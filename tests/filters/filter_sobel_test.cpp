@@ -42,9 +42,9 @@ const bool added = addModelTests(membersOf("FilterSobel", [](Member& m, auto src
   m.floatResults = std::is_floating_point_v<D>;
   m.rounds = 4;
   m.checksSteps = true;
-  m.model = [=](const Call& c) -> LumStatus {
-    if (c.srcStep % static_cast<int>(sizeof(T)) != 0 || c.dstStep % static_cast<int>(sizeof(D)) != 0)
-      return lumStatusOddStep;
+  m.wholeSteps = true;
+  m.separateRows = true;
+  m.model = [=](const Call& c) {
     const model::GradientImage image{c.srcImage(), c.roi, 1, static_cast<int>(c.number("border"))};
     const T value = static_cast<T>(c.number("borderValue"));
     const int side = static_cast<int>(c.number("mask")) % 10, norm = static_cast<int>(c.number("norm"));
@@ -53,7 +53,6 @@ const bool added = addModelTests(membersOf("FilterSobel", [](Member& m, auto src
         const auto g = model::gradientOf<T>(model::Gradient::Sobel, side, image, &value, x, y, 0);
         model::store(c.dstImage().row(y), x, model::gradientMagnitude<D>(g, norm));
       }
-    return lumStatusOk;
   };
 }));
 const bool covered = addCovered({"lumiFilterSobelGetBufferSize"});

@@ -196,14 +196,15 @@ Case makeCase(const Member& member, uint64_t seed, int index) {
   if (member.refusesZeroSteps)
     for (int* each : {&c.srcStep, &c.src2Step, &c.dstStep})
       if (*each == 0) *each = -1;
-  if (member.wholeSteps) {
-    c.srcStep -= c.srcStep % member.sampleBytes;
-    c.dstStep -= c.dstStep % sampleBytes(member.types.back());
+  // Where rows of floats reach into one another they hold the same samples.
+  if (member.wholeSteps || (member.surroundings && member.floatResults)) {
+    const auto cut = [&](int& its, int sample) {
+      its -= its % sample;
+      if (member.checksSteps) its = std::max(its, sample);
+    };
+    cut(c.srcStep, member.sampleBytes);
+    cut(c.dstStep, sampleBytes(member.types.back()));
   }
-  if (member.surroundings && member.floatResults)  // rows that reach into one another hold the same samples
-    for (int* each : {&c.srcStep, &c.dstStep}) *each = *each / member.sampleBytes * member.sampleBytes;
-  if (member.checksSteps && member.surroundings && member.floatResults)
-    for (int* each : {&c.srcStep, &c.dstStep}) *each = std::max(member.sampleBytes, *each);
   if (member.surroundingsApart && (member.inPlace || c.srcIsDst)) c.dstStep = stepOfWhole(member, c);
   if (member.sharesStep) c.src2Step = c.srcStep;
   if (c.srcIsDst) c.srcStep = c.dstStep;
