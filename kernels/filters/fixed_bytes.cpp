@@ -18,31 +18,30 @@ struct GaussOfBytes5 {
   using Result = uint8_t;
   static constexpr int kRows = 5, kVectors = 1;
 
-  WordPair outermost, next;  // of the row before
-  WordPair above[3];         // outermost and next row of the windows that are under way
-  WordPair centres[2];
-  WordPair first, centre, last;
+  WordPair outermost{}, next{};  // of the row before
+  WordPair last{};
+  // By row: both rows above a centre, and centres. Rows of a band are few enough to keep all of them.
+  WordPair above[kBandRows + 4], centres[kBandRows + 4];
+  int row = -1;
 
-  void take(WindowRows row) {
-    const RowWindow<uint8_t> x{row};
+  GaussOfBytes5() {}  // NOLINT: what is not written is not read
+
+  void take(WindowRows rows) {
+    const RowWindow<uint8_t> x{rows};
     const auto outer = x.outer(), inner = x.inner(), here = x.at(0);
     const auto words = [](WordPairSums v) { return WordPair{as<uint16_t>(v.even), as<uint16_t>(v.odd)}; };
     const WordPair ofOutermost = words(GaussRows::outer(outer, inner, here)),
-                   ofNext = words(GaussRows::inner(outer, inner, here)),
-                   ofCentre = words(GaussRows::centre(outer, inner, here));
-    first = above[2];
-    above[2] = above[1];
-    above[1] = above[0];
-    above[0] = outermost + ofNext;
-    centre = centres[1];
-    centres[1] = centres[0];
-    centres[0] = ofCentre;
+                   ofNext = words(GaussRows::inner(outer, inner, here));
+    ++row;
+    above[row] = outermost + ofNext;
+    centres[row] = words(GaussRows::centre(outer, inner, here));
     last = next + ofOutermost;
     outermost = ofOutermost;
     next = ofNext;
   }
 
   WordPairSums result(WindowRows) const {
+    const WordPair &first = above[row - 3], &centre = centres[row - 2];
     return {divided(first.even, centre.even, last.even), divided(first.odd, centre.odd, last.odd)};
   }
 

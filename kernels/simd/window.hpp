@@ -75,9 +75,11 @@ V twice(V x) {
   return x + x;
 }
 
-// One multiplication, as it is written: compilers make several shifts and sums of it.
+// A shift and a difference, or else one multiplication, as it is written: compilers make several shifts and
+// sums of it. Both kinds of instructions have units of their own.
 template <int n, size_t bytes>
 SamplesOf<int16_t, bytes> wordsTimes(SamplesOf<int16_t, bytes> x) {
+  if constexpr (n == 7 || n == 31 || n == 127) return shiftLeft < n == 7 ? 3 : n == 31 ? 5 : 7 > (x)-x;
   alignas(32) static constexpr auto kFactors = [] {
     std::array<int16_t, 16> factors{};
     for (int16_t& factor : factors) factor = n;
