@@ -101,8 +101,6 @@ const Family family("filter_box", [](Suite& suite) {
   suite.row("box 32f C1 101x101", kUpToHd, box<1>(lumiFilterBox_32f_C1R, 101));
   suite.row("box 32f C3 15x15", kUpToHd, box<3>(lumiFilterBox_32f_C3R, 15));
   suite.row("box 8u C1 15x15 in place", kUpToHd, boxInPlace(lumiFilterBox_8u_C1IR, 15));
-  suite.row("box 8u C1 3x3 padded", {kCall, kSmall}, box<1>(lumiFilterBox_8u_C1R, 3), Placement::padded);
-  suite.row("box 8u C1 15x15 padded", {kCall, kSmall}, box<1>(lumiFilterBox_8u_C1R, 15), Placement::padded);
 });
 
 }  // namespace

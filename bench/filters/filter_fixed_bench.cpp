@@ -151,12 +151,6 @@ const Family family("filter_fixed", [](Suite& suite) {
             whole<kBox5, 25, 1, Lum16s, Lum16s>(Kind::mean, masked(lumiFilterLowpass_16s_C1R, 55)));
   suite.row("sharpen 8u C3", kUpToHd,
             whole<kSharpen, 8, 3, Lum8u, Lum8u>(Kind::none, lumiFilterSharpen_8u_C3R));
-  suite.row("gauss 8u C1 3x3 padded", {kCall, kSmall},
-            whole<kSmooth, 16, 1, Lum8u, Lum8u>(Kind::gauss, masked(lumiFilterGauss_8u_C1R, 33)),
-            Placement::padded);
-  suite.row("sobel x 8u16s 3x3 padded", {kCall, kSmall},
-            whole<kSobelX, 1, 1, Lum8u, Lum16s>(Kind::sobelX, masked(lumiFilterSobelVert_8u16s_C1R, 33)),
-            Placement::padded);
 });
 
 }  // namespace

@@ -36,7 +36,6 @@ const Family family("filter_gradient_border", [](Suite& suite) {
   using opencv::Gradient;
   const auto bytes = whole<Lum8u, Lum16s>(lumiFilterSobelVertBorder_8u16s_C1R, lumiMask3x3, Gradient::sobelX);
   suite.row("sobel border 8u16s 3x3", kUpToHd, bytes);
-  suite.row("sobel border 8u16s 3x3 padded", {kCall, kSmall}, bytes, Placement::padded);
   suite.row("sobel border 8u16s 5x5", kUpToHd,
             whole<Lum8u, Lum16s>(lumiFilterSobelHorizBorder_8u16s_C1R, lumiMask5x5, Gradient::sobelY));
   suite.row("scharr border 16s", kUpToHd,

@@ -115,8 +115,6 @@ Suite::Build vectors(LumStatus (*run)(const T*, int, D*, int, D*, int, D*, int, 
 
 const Family family("gradient_vector", [](Suite& suite) {
   suite.row("gradients 8u16s 3x3", kUpToHd, vectors(lumiGradientVectorSobel_8u16s_C1R, 33));
-  suite.row("gradients 8u16s 3x3 padded", {kCall, kSmall}, vectors(lumiGradientVectorSobel_8u16s_C1R, 33),
-            Placement::padded);
   suite.row("gradients 8u16s 5x5", kUpToHd, vectors(lumiGradientVectorSobel_8u16s_C1R, 55));
   suite.row("gradients 32f 3x3", kUpToHd, vectors(lumiGradientVectorSobel_32f_C1R, 33));
   suite.row("gradients 32f 5x5", kUpToHd, vectors(lumiGradientVectorSobel_32f_C1R, 55));
