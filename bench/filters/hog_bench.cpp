@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "bench/harness.hpp"
+#include "bench/peers/opencv_hog.hpp"
 #include "lumi/hog.h"
 
 namespace bench {
@@ -101,6 +102,10 @@ Suite::Build windows(LumStatus (*run)(const T*, int, LumiSize, const LumiPoint*,
       run(src.data(), src.step, src.roi, nullptr, 1, dst.data(), work->object(), lumiBorderReplicate, value,
           work->buffer.data());
     });
+    if constexpr (sizeof(T) == 1) {
+      const LumiSize window{work->config.windowWidth, work->config.windowHeight};
+      s.peer(opencv::hog, src, window, stride);
+    }
     if (channels == 1) s.peer(loopHog(src, dst, work));
   };
 }
