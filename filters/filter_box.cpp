@@ -126,6 +126,14 @@ LumStatus storeBox(const WindowImage& image, LumiSize mask, TargetRows dst, int6
   return lumStatusOk;
 }
 
+// Windows with sums in registers.
+template <typename Layout>
+const WindowFilter* smallBox(LumiSize mask) {
+  constexpr bool one = std::is_same_v<Layout, C1>, four = std::is_same_v<Layout, C4>;
+  if (isSquare(mask, 3)) return one ? &kBox3x3 : four ? &kBox3x3Nearest : &kBox3x3Colours;
+  return isSquare(mask, 5) && (one || std::is_same_v<Layout, C3>) ? &kBox5x5 : nullptr;
+}
+
 // Of arguments that are right.
 template <typename T, typename Layout>
 LumStatus box(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, LumiSize mask, LumiPoint anchor) {
@@ -134,12 +142,12 @@ LumStatus box(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, Lumi
   if constexpr (sizeof(T) == 8) moveToWindows(image);
   image.takeSurroundings();
   if constexpr (sizeof(T) == 1)
-    if (isSquare(mask, 3) && !inPlace) {
-      countPath(Path::BoxOfThree);
-      constexpr bool four = std::is_same_v<Layout, C4>, one = std::is_same_v<Layout, C1>;
-      const WindowFilter& filter = one ? kBox3x3 : four ? kBox3x3Nearest : kBox3x3Colours;
-      const Byte* const centre = image.rows.row(1 - anchor.y) + (1 - anchor.x) * kPixelBytes<T, Layout>;
-      filterWindows(filter, {centre, srcStep}, rows(dst, dstStep), roi, kShape<Layout>);
+    if (const WindowFilter* const filter = inPlace ? nullptr : smallBox<Layout>(mask)) {
+      if (mask.width == 3) countPath(Path::BoxOfThree);
+      const int reach = mask.width / 2;
+      const Byte* const centre =
+          image.rows.row(reach - anchor.y) + (reach - anchor.x) * kPixelBytes<T, Layout>;
+      filterWindows(*filter, {centre, srcStep}, rows(dst, dstStep), roi, kShape<Layout>);
       return lumStatusOk;
     }
   // Rows are overwritten one after the other where none of them reaches into its neighbours.

@@ -76,7 +76,7 @@ class BorderRun {
 
   void run() {
     if constexpr (sizeof(T) == 1)
-      if (isSquare(image_.window, 3) && filteredByWindows()) return;
+      if (filteredByWindows()) return;
     if constexpr (std::is_floating_point_v<T>) {
       makeConstants(buffer_ + BlockSums<T>::bytes(image_));
       storeBlockMeans<T>(image_, buffer_, nullptr,
@@ -107,20 +107,18 @@ class BorderRun {
     return {mean, sumBytes, sizeof(T), Layout::kStored, Layout::kUsed};
   }
 
-  // Images whose every row is done at once.
+  // Small windows, where their rows are in memory or of one channel.
   bool filteredByWindows() {
-    countPath(Path::BoxOfThree);
+    const bool isThree = isSquare(image_.window, 3), one = Layout::kStored == 1;
+    if (!(isThree || isSquare(image_.window, 5)) || !(one || border_.isAllInMemory())) return false;
+    if (isThree) countPath(Path::BoxOfThree);
+    const WindowFilter& filter = !isThree ? kBoxBorder5x5 : one ? kBox3x3 : kBox3x3Colours;
     if (border_.isAllInMemory()) {
-      filterWindows(Layout::kStored == 1 ? kBox3x3 : kBox3x3Colours, image_.rows, dst_, image_.roi,
-                    kShape<Layout>);
-      return true;
+      filterWindows(filter, image_.rows, dst_, image_.roi, kShape<Layout>);
+    } else if constexpr (one) {
+      filterWindows(filter, BorderedImage<1>(image_.rows, image_.roi, border_, value_), dst_, buffer_);
     }
-    if constexpr (Layout::kStored == 1) {
-      const BorderedImage<1> bordered(image_.rows, image_.roi, border_, value_);
-      filterWindows(kBox3x3, bordered, dst_, buffer_);
-      return true;
-    }
-    return false;
+    return true;
   }
 
   // The buffer has room behind the sums for a row of source wherever more than one row is summed; a single

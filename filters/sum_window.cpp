@@ -5,6 +5,7 @@
 #include "filters/box_mean.hpp"
 #include "frame/check.hpp"
 #include "frame/layout.hpp"
+#include "kernels/filters/column_sums.hpp"
 
 namespace lumi {
 namespace {
@@ -55,7 +56,13 @@ template <typename T, typename D, typename Layout>
 LumStatus sumWindowColumn(const T* src, int srcStep, D* dst, int dstStep, LumiSize roi, int maskSize,
                           int anchor) {
   if (LumStatus fault = firstFault(pointers(src, dst), place(maskSize, anchor))) return fault;
-  return sums<T, D, Layout>(src, srcStep, dst, dstStep, roi, {1, maskSize}, {0, anchor});
+  if (maskSize > kExactArea<T> || int64_t{roi.width} * Layout::kStored < int64_t{kLeastColumnSums} ||
+      roi.height < 1)
+    return sums<T, D, Layout>(src, srcStep, dst, dstStep, roi, {1, maskSize}, {0, anchor});
+  const SourceRows image = rows(src, srcStep);
+  columnSumRows<T>({image.row(-anchor), image.step}, maskSize, rows(dst, dstStep),
+                   {static_cast<size_t>(roi.width) * Layout::kStored, roi.height});
+  return lumStatusOk;
 }
 
 }  // namespace

@@ -15,8 +15,8 @@ extern "C" {
  *
  * dst(x, y) = sum over k in 0..maskSize-1 of src(x + k - anchor, y), channel by channel. All of these pixels are
  * read, outside the ROI too: the caller sees to it that they are in memory. Sums of up to 65537 samples of 16u,
- * 65535 of 16s and 2^23 of 8u are exact but for the rounding to a float. The images must not overlap; steps may
- * be any.
+ * 65535 of 16s and 2^23 of 8u are exact but for the rounding to a float. The images must not overlap, nor may
+ * rows of dst; steps may be any.
  *
  * Checked in this order; on an error nothing is written:
  *   lumStatusNullPointer (-8)   src or dst is null

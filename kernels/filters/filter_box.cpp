@@ -7,7 +7,7 @@ namespace lumi {
 namespace simd {
 namespace {
 
-// sum * 29128 / 2^18, cut off or to nearest; a factor of 16 bits takes in what its 2^3 leaves.
+// sum * 29128 / 2^18, cut off.
 struct CutOff {
   template <size_t bytes>
   static SamplesOf<int16_t, bytes> of(SamplesOf<int16_t, bytes> sum) {
@@ -15,14 +15,21 @@ struct CutOff {
     return as<int16_t>(multiplyHigh(words, broadcastLike(words, uint16_t{29128 / 4})));
   }
 };
-struct Nearest {
+// (sum * factor + half) >> 16 + shift, where half is that of the shift: the product's lower word has no part
+// in the rounding.
+template <uint16_t factor, int shift>
+struct NearestBy {
   template <size_t bytes>
   static SamplesOf<int16_t, bytes> of(SamplesOf<int16_t, bytes> sum) {
     const auto words = as<uint16_t>(sum);
-    const auto fourfold = multiplyHigh(words, broadcastLike(words, uint16_t{29128}));
-    return as<int16_t>(shiftRight<2>(fourfold + broadcastLike(words, uint16_t{2})));
+    const auto more = multiplyHigh(words, broadcastLike(words, factor));
+    return as<int16_t>(shiftRight<shift>(more + broadcastLike(words, uint16_t{1 << (shift - 1)})));
   }
 };
+using Nearest = NearestBy<29128, 2>;
+
+template <typename Finish>
+using BoxOfFive = Separable<uint8_t, uint8_t, 5, Box5, BoxDown5, Finish>;
 
 // Neighbours are bytes side by side: one sum of pairs serves the samples at even and at odd places.
 struct AdjacentBox3 {
@@ -43,5 +50,8 @@ const WindowFilter kBox3x3Colours =
     simd::windowFilter<simd::Separable<uint8_t, uint8_t, 3, simd::Box3, simd::BoxDown3, simd::CutOff>>();
 const WindowFilter kBox3x3Nearest =
     simd::windowFilter<simd::Separable<uint8_t, uint8_t, 3, simd::Box3, simd::BoxDown3, simd::Nearest>>();
+
+const WindowFilter kBox5x5 = simd::windowFilter<simd::BoxOfFive<simd::NearestBy<20971, 3>>>();
+const WindowFilter kBoxBorder5x5 = simd::windowFilter<simd::BoxOfFive<simd::NearestBy<41943, 4>>>();
 
 }  // namespace lumi
