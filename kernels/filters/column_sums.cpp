@@ -15,7 +15,9 @@ template <typename T, int vectors>
 struct ColumnSums {
   S32 at[vectors] = {};
 
-  static S32 load(const Byte* row, int v) { return loadWidened<int32_t, T>(row + 4 * sizeof(T) * static_cast<size_t>(v)); }
+  static S32 load(const Byte* row, int v) {
+    return loadWidened<int32_t, T>(row + 4 * sizeof(T) * static_cast<size_t>(v));
+  }
 
   void add(const Byte* row) {
     for (int v = 0; v < vectors; ++v) at[v] = at[v] + load(row, v);

@@ -41,7 +41,7 @@ void add(const std::string& name, Mask mask = Mask::None) {
                                       [](const Argument& a) { return std::string(a.name) == "maskSize"; });
     if (withMask && mask == Mask::ThreeOrFive) m.choose("maskSize", {{{33}}, {{55}}});
     if (withMask && mask == Mask::Any) m.choose("maskSize", {{{33}}, {{55}}, {{13}}, {{0}}});
-    const auto side = [=](const Call& c) { return withMask && c.number("maskSize") != lumiMask3x3 ? 5 : 3; };
+    const auto side = [=](const Call& c) { return withMask && c.number("maskSize") != 33 ? 5 : 3; };
     m.surroundings = [=](const Call& c) -> Member::Surroundings {
       if (name == "RobertsDown") return {1, 1, 0, 0};
       if (name == "RobertsUp") return {0, 1, 1, 0};
