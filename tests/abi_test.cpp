@@ -13,9 +13,9 @@
 namespace test {
 namespace {
 
-// Columns may become rows.
-constexpr int kRowBytes = 4096, kRows = 3, kMostColumns = 130;
-alignas(64) std::array<std::array<Lum8u, kRowBytes * kMostColumns + 64>, 8> memory;
+// Columns may become rows, and filters read what is around an image.
+constexpr int kRowBytes = 4096, kRows = 3, kMostColumns = 130, kAround = 16 * kRowBytes;
+alignas(64) std::array<std::array<Lum8u, kRowBytes * kMostColumns + 2 * kAround>, 8> memory;
 
 // Samples that may divide, whatever their type.
 const std::array<Lum8u, 64> constants = [] {
@@ -25,13 +25,13 @@ const std::array<Lum8u, 64> constants = [] {
 }();
 
 std::array<Lum32s, 4> firstChannels{};
-std::array<void*, 1> firstRow = {memory[0].data()};
+std::array<void*, 1> firstRow = {memory[0].data() + kAround};
 
 // Arguments of a call that runs, on memory of its own for each pointer.
 std::vector<Slot> runningArguments(const ExportRow& row, int width) {
   std::vector<Slot> slots = baseSlots(row);
   size_t next = 0;
-  const auto image = [&] { return memory[next++ % memory.size()].data(); };
+  const auto image = [&] { return memory[next++ % memory.size()].data() + kAround; };
   for (size_t i = 0; i < slots.size(); ++i) {
     const Argument& argument = row.arguments[i];
     if (argument.kind == Kind::Planes || argument.kind == Kind::Arrays) {
