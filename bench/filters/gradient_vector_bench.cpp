@@ -123,7 +123,7 @@ const Family family("gradient_vector", [](Suite& suite) {
   suite.row("gradients and angle 32f 3x3", kUpToHd, vectors(lumiGradientVectorSobel_32f_C1R, 33, true));
 });
 
-const Family sobel("filter_sobel", [](Suite& suite) {
+const Family sobel("gradient_vector", [](Suite& suite) {
   suite.row("sobel 8u16s 3x3 L1", kUpToHd, magnitudes(lumiFilterSobel_8u16s_C1R, 33, 2));
   suite.row("sobel 8u16s 3x3 L2", kUpToHd, magnitudes(lumiFilterSobel_8u16s_C1R, 33, 4));
   suite.row("sobel 8u16s 5x5 L2", kUpToHd, magnitudes(lumiFilterSobel_8u16s_C1R, 55, 4));
