@@ -152,12 +152,10 @@ Floats8 lengthOf(const Gradients<Floats8>& g) { return squareRoot(sumOfSquares(g
 Floats8 sumOf(const Gradients<Floats8>& g) { return magnitude(g.x) + magnitude(g.y); }
 
 // Rounded roots of four or eight sums.
-S32 rootsOf(S32 squares) { return roundedToEven(squareRoot(floatsOf(squares))); }
-#ifdef __AVX2__
-Samples32<int32_t> rootsOf(Samples32<int32_t> squares) {
+template <typename Sums>
+Sums rootsOf(Sums squares) {
   return roundedToEven(squareRoot(floatsOf(squares)));
 }
-#endif
 
 Samples<int16_t> lengthOf(const Gradients<Samples<int16_t>>& g) {
   const SquaresOfWords squares = sumOfSquares(g);
