@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "kernels/rows.hpp"
 #include "kernels/simd/window.hpp"
@@ -47,13 +48,17 @@ struct WindowRows {
 //   Source, Result   sample types
 //   kRows, kVectors  rows of the window, and columns that are done side by side
 //   take(rows)       takes the next row
-//   result(rows)     the sums of the window that ends with the row taken last, finished but not limited
+//   result(rows)     the window that ends with the row taken last: a sum that is finished but not limited, or
+//                    a vector of Results
+template <typename Filter>
+using WindowResults = decltype(std::declval<Filter&>().result(std::declval<const WindowRows&>()));
+
 template <typename Filter>
 void filterBand(const Band& band, size_t samples, ptrdiff_t column) {
   using Source = typename Filter::Source;
   using Result = typename Filter::Result;
   constexpr int n = Filter::kVectors;
-  constexpr size_t each = kSumSamples<Source>, block = n * each;
+  constexpr size_t each = kWindowSamples<WindowResults<Filter>>, block = n * each;
   for (size_t i = 0;; i = std::min(i + block, samples - block)) {
     Filter filters[n]{};
     const Byte* const* row = band.src;
@@ -67,7 +72,7 @@ void filterBand(const Band& band, size_t samples, ptrdiff_t column) {
     Byte* dst = band.dst.first + i * sizeof(Result);
     for (const Byte* const* const end = row + band.rows; row != end; ++row, dst += band.dst.step) {
       take();
-      Sums<Source> results[n];
+      WindowResults<Filter> results[n];
       for (int v = 0; v < n; ++v) results[v] = filters[v].result(rowsOf(v));
       storeResults<Result>(dst, results);
     }
@@ -84,7 +89,7 @@ constexpr WindowFilter windowFilter() {
           reach,
           reach,
           reach,
-          static_cast<int>(kSumSamples<typename Filter::Source>) * Filter::kVectors,
+          static_cast<int>(kWindowSamples<WindowResults<Filter>>) * Filter::kVectors,
           sizeof(typename Filter::Source),
           sizeof(typename Filter::Result)};
 }

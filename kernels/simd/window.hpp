@@ -35,9 +35,13 @@ struct SumsOf<float> {
 template <typename S>
 using Sums = typename SumsOf<S>::Type;
 
-// Samples of a vector of sums.
-template <typename S>
-inline constexpr size_t kSumSamples = sizeof(Sums<S>) / (sizeof(S) == 1 ? 2 : 4);
+// Samples of a vector of results.
+template <typename V>
+inline constexpr size_t kWindowSamples = sizeof(V) / sizeof(float);
+template <typename T, size_t bytes>
+inline constexpr size_t kWindowSamples<SamplesOf<T, bytes>> = bytes / sizeof(T);
+template <>
+inline constexpr size_t kWindowSamples<WordPairSums> = sizeof(WordPairSums) / sizeof(int16_t);
 
 template <typename S>
 Sums<S> loadSums(const Byte* p) {
@@ -149,10 +153,14 @@ inline void storeInTurn(Byte* p, Samples32<int16_t> even, Samples32<int16_t> odd
 #endif
 inline void storeFirstHalf(Byte* p, Bytes32 v) { store16(p, lowHalf(v)); }
 
-// Results of sums, limited to D where it is narrower: one vector or two.
+// Results, limited to D where it is narrower: one vector or two.
 template <typename D, int count>
 [[gnu::always_inline]] inline void storeResults(Byte* dst, const Floats8 (&sums)[count]) {
   for (int i = 0; i < count; ++i) storeFloats(dst + 32 * i, sums[i]);
+}
+template <typename D, int count>
+[[gnu::always_inline]] inline void storeResults(Byte* dst, const Samples<D> (&results)[count]) {
+  for (int i = 0; i < count; ++i) storeVector(dst + kVectorBytes * i, results[i].v);
 }
 template <typename D, int count>
 [[gnu::always_inline]] inline void storeResults(Byte* dst, const Samples<int32_t> (&sums)[count]) {
