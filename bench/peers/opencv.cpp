@@ -429,6 +429,17 @@ Peer adaptiveThreshold(View src, View dst, int side, double delta, bool weighted
   return result;
 }
 
+Peer medianBlur(View src, View dst, int side) {
+  const cv::Mat whole = mat(src);
+  const cv::Size size(dst.roi.width, dst.roi.height);
+  const cv::Point at{(whole.cols - size.width) / 2, (whole.rows - size.height) / 2};
+  Peer result = peer("opencv", [inner = whole(cv::Rect(at, size)), d = mat(dst), side]() mutable {
+    cv::medianBlur(inner, d, side);
+  });
+  if (at.x > 0) result.differs = "repeats the nearest pixels";
+  return result;
+}
+
 Peer sobel(View src, View x, View y, int side) {
   Peer result = peer("opencv", [=, s = mat(src), dx = mat(x), dy = mat(y)]() mutable {
     cv::Sobel(s, dx, dx.depth(), 1, 0, side, 1, 0, cv::BORDER_REPLICATE);

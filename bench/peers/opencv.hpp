@@ -102,6 +102,9 @@ enum class Gradient { sobelX, sobelY, scharrX, scharrY, laplace };
 // Bytes: 200 where a pixel is above the mean of its square window, or its weighted one, less delta; otherwise
 // 0.
 [[gnu::weak]] Peer adaptiveThreshold(View src, View dst, int side, double delta, bool weighted);
+// Medians of square windows: of 3 and 5 of 8u, 16u, 16s and 32f, larger ones of 8u. The source has the pixels
+// around the destination's, or the nearest ones are repeated outside.
+[[gnu::weak]] Peer medianBlur(View src, View dst, int side);
 // Both derivatives by Sobel masks, right minus left and bottom minus top, of the type of their images; and
 // their magnitude. The nearest pixel is repeated outside.
 [[gnu::weak]] Peer sobel(View src, View x, View y, int side);
