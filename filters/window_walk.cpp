@@ -58,12 +58,16 @@ void runShort(const WindowFilter& filter, const Band& band, size_t samples, ptrd
     std::memcpy(band.dst.row(y), dst.row[y], samples * static_cast<size_t>(filter.dstBytes));
 }
 
-void runBand(const WindowFilter& filter, const Band& band, size_t samples, ptrdiff_t column) {
+}  // namespace
+
+void filterRows(const WindowFilter& filter, const Band& band, size_t samples, ptrdiff_t column) {
   if (samples < static_cast<size_t>(filter.block))
     runShort(filter, band, samples, column);
   else
     filter.run(band, samples, column);
 }
+
+namespace {
 
 // Colours without alpha, from one place to another.
 void copyColours(SourceRows src, TargetRows dst, LumiSize size, int sampleBytes) {
@@ -84,7 +88,7 @@ void runColours(const WindowFilter& filter, const Band& band, int width, ptrdiff
   for (int x = 0; x < width; x += kPiecePixels) {
     const int pixels = std::min(kPiecePixels, width - x);
     for (int y = 0; y < band.rows + filter.above + filter.below; ++y) src[y] = band.src[y] + x * column;
-    runBand(filter, {src, results.all(), band.rows}, static_cast<size_t>(pixels) * 4, column);
+    filterRows(filter, {src, results.all(), band.rows}, static_cast<size_t>(pixels) * 4, column);
     Byte* const dst = band.dst.first + static_cast<ptrdiff_t>(x) * 4 * filter.dstBytes;
     const TargetRows made = results.all();
     copyColours({made.first, made.step}, {dst, band.dst.step}, {pixels, band.rows}, filter.dstBytes);
@@ -110,7 +114,7 @@ void filterWindows(const WindowFilter& filter, SourceRows src, TargetRows dst, L
     if (pixel.used < pixel.stored)
       runColours(filter, band, roi.width, column);
     else
-      runBand(filter, band, samples, column);
+      filterRows(filter, band, samples, column);
   });
 }
 
@@ -156,15 +160,15 @@ class BorderedBands {
       window[i] =
           row ? row + static_cast<ptrdiff_t>(first) * sampleBytes : constants_ + filter_.left * sampleBytes;
     }
-    runBand(filter_, {window, results(first, y), rows}, static_cast<size_t>(end - first), sampleBytes);
+    filterRows(filter_, {window, results(first, y), rows}, static_cast<size_t>(end - first), sampleBytes);
   }
 
   void runCopied(int first, int end, int y, int rows) const {
     CopiedRows<kBytes> copied;
     for (int i = 0; i < windowRows(rows); ++i)
       src_.copy(y - filter_.above + i, first - filter_.left, end + filter_.right, copied.row[i]);
-    runBand(filter_, {copied.from(filter_.left * sampleBytes), results(first, y), rows},
-            static_cast<size_t>(end - first), sampleBytes);
+    filterRows(filter_, {copied.from(filter_.left * sampleBytes), results(first, y), rows},
+               static_cast<size_t>(end - first), sampleBytes);
   }
 
   const WindowFilter& filter_;

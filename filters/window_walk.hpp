@@ -26,4 +26,7 @@ template <int sampleBytes>
 void filterWindows(const WindowFilter& filter, const BorderedImage<sampleBytes>& src, TargetRows dst,
                    Byte* constants);
 
+// A band whose rows lie where one likes, of any width. Pixels are `column` bytes apart.
+void filterRows(const WindowFilter& filter, const Band& band, size_t samples, ptrdiff_t column);
+
 }  // namespace lumi

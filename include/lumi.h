@@ -30,6 +30,8 @@
 #include "lumi/filter_box_border.h"
 #include "lumi/filter_fixed.h"
 #include "lumi/filter_gradient_border.h"
+#include "lumi/filter_median.h"
+#include "lumi/filter_median_border.h"
 #include "lumi/filter_sobel.h"
 #include "lumi/gradient_vector.h"
 #include "lumi/histogram.h"

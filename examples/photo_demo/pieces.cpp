@@ -2,6 +2,7 @@
 #include "pieces.hpp"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "resizer.hpp"
 #include "shapes.hpp"
@@ -59,6 +60,28 @@ Colour cut(const Colour& photo, int x, int y, LumiSize size) {
   Colour part(size);
   check(lumiCopy_8u_C3R(photo.at(x, y), photo.step(), part.data(), part.step(), size), "lumiCopy_8u_C3R");
   return part;
+}
+
+Colour widened(const Colour& photo, int reach) {
+  const LumiSize size = photo.size(), whole{size.width + 2 * reach, size.height + 2 * reach};
+  Colour result(whole);
+  check(lumiCopyReplicateBorder_8u_C3R(photo.data(), photo.step(), size, result.data(), result.step(), whole,
+                                       reach, reach),
+        "lumiCopyReplicateBorder_8u_C3R");
+  return result;
+}
+
+Colour peppered(const Colour& photo) {
+  Colour result = copyOf(photo);
+  const auto [width, height] = photo.size();
+  uint32_t random = 1;
+  for (int y = 0; y < height; ++y)
+    for (int x = 0; x < width; ++x) {
+      random = random * 1664525 + 1013904223;
+      const uint32_t chosen = (random >> 16) % 20;
+      if (chosen < 2) std::fill_n(result.at(x, y), 3, static_cast<Lum8u>(chosen * 255));
+    }
+  return result;
 }
 
 namespace {

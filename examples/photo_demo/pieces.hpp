@@ -38,6 +38,12 @@ LumiSize scaled(LumiSize size, int factor, int divisor);
 
 Colour cut(const Colour& photo, int x, int y, LumiSize size);
 
+// The photo with its edges repeated around it, for windows that reach so far.
+Colour widened(const Colour& photo, int reach);
+
+// The photo with grains of salt and pepper: one pixel of ten is white or black.
+Colour peppered(const Colour& photo);
+
 // lumInterpNearest or lumInterpLinear.
 Colour resized(const Colour& from, LumiSize to, LumiInterpolationType interpolation, Calls& calls);
 Colour resizedInTiles(const Colour& from, LumiSize to, LumiSize tile, LumiInterpolationType interpolation,

@@ -2,6 +2,7 @@
 // Vector pieces of bit images: samples from bits, bits from samples.
 #pragma once
 
+#include "kernels/simd/floats.hpp"
 #include "kernels/simd/samples.hpp"
 
 namespace lumi::simd {

@@ -7,6 +7,7 @@
 #include <functional>
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -168,9 +169,9 @@ struct Member {
   Model model;
   int rounds = 24;  // of images of every width; fewer where a call does much besides its image
   // Whether it takes scratch from lumcore; where there is none, everything stays as it was, and that is the
-  // status.
+  // status. Without a status it does the same without it.
   bool allocates = false;
-  LumStatus withoutMemory = lumStatusNoMemory;
+  std::optional<LumStatus> withoutMemory = lumStatusNoMemory;
 
   // Memory besides images: results between guards, and arrays of values.
   struct Block {

@@ -6,16 +6,6 @@
 
 namespace {
 
-// The photo with its edges repeated around it, for windows that reach so far.
-Colour widened(const Colour& photo, int reach) {
-  const LumiSize size = photo.size(), whole{size.width + 2 * reach, size.height + 2 * reach};
-  Colour result(whole);
-  check(lumiCopyReplicateBorder_8u_C3R(photo.data(), photo.step(), size, result.data(), result.step(), whole,
-                                       reach, reach),
-        "lumiCopyReplicateBorder_8u_C3R");
-  return result;
-}
-
 void blur(const Colour& around, int reach, Colour& result, LumiRect part, int side, Calls& calls) {
   const LumiSize size{part.width, part.height};
   calls.time("lumiFilterBox_8u_C3R", size, [&] {

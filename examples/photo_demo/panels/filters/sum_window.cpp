@@ -10,11 +10,9 @@ using Sum = LumStatus (*)(const Lum8u*, int, Lum32f*, int, LumiSize, int, int);
 
 // Means of pixels in a line, as a moving camera would see them; edges are repeated.
 AnyImage streaks(const Colour& photo, const char* name, Sum sum, Calls& calls) {
-  const LumiSize size = photo.size(), whole{size.width + 2 * kReach, size.height + 2 * kReach};
-  Colour around(whole), result(size);
-  check(lumiCopyReplicateBorder_8u_C3R(photo.data(), photo.step(), size, around.data(), around.step(), whole,
-                                       kReach, kReach),
-        "lumiCopyReplicateBorder_8u_C3R");
+  const LumiSize size = photo.size();
+  const Colour around = widened(photo, kReach);
+  Colour result(size);
   ColourFloat sums(size);
   calls.time(name, size, [&] {
     return sum(around.at(kReach, kReach), around.step(), sums.data(), sums.step(), size, kCount, kReach);
