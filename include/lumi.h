@@ -37,6 +37,7 @@
 #include "lumi/histogram.h"
 #include "lumi/hog.h"
 #include "lumi/image_memory.h"
+#include "lumi/lbp.h"
 #include "lumi/logic.h"
 #include "lumi/lut.h"
 #include "lumi/lut_palette.h"
