@@ -36,7 +36,8 @@ template <typename T, typename Layout>
 LumStatus copyPixels(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
   if constexpr (sizeof(T) < 8) return call::CopyR<T, Layout>(src, srcStep, dst, dstStep, roi);
   const auto bytes = static_cast<size_t>(roi.width) * kPixelBytes<T, Layout>;
-  for (int y = 0; y < roi.height; ++y) std::memcpy(rows(dst, dstStep).row(y), rows(src, srcStep).row(y), bytes);
+  for (int y = 0; y < roi.height; ++y)
+    std::memcpy(rows(dst, dstStep).row(y), rows(src, srcStep).row(y), bytes);
   return lumStatusOk;
 }
 

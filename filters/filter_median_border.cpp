@@ -87,16 +87,19 @@ class MedianRun {
   void run() const {
     if (const auto shape = sortedShape(mask_)) return sort(medianFilter<T>(*shape));
     if (image_.border().isAllInMemory() && !isInPlace_) {
-      const Byte* const first = image_.row(0) - ptrdiff_t{above_} * image_.step() - ptrdiff_t{before_} * kSample;
+      const Byte* const first =
+          image_.row(0) - ptrdiff_t{above_} * image_.step() - ptrdiff_t{before_} * kSample;
       return store({first, image_.step()});
     }
     const int64_t rows = int64_t{roi_.height} + mask_.height - 1;
-    const bool isWhole = mask_.width >= roi_.width || mask_.height >= roi_.height;  // then the buffer holds it
+    const bool isWhole =
+        mask_.width >= roi_.width || mask_.height >= roi_.height;  // then the buffer holds it
     const int64_t bytes = rowBytes_ > INT64_MAX / rows ? INT64_MAX : rowBytes_ * rows;
     const Scratch scratch(isWhole ? 1 : bytes);
     Byte* const copy = isWhole ? buffer_ : static_cast<Byte*>(scratch.data());
     if (!copy) return select();
-    for (int64_t y = 0; y < rows; ++y) copyRow(static_cast<int>(y) - above_, copy + static_cast<ptrdiff_t>(y) * rowBytes_);
+    for (int64_t y = 0; y < rows; ++y)
+      copyRow(static_cast<int>(y) - above_, copy + static_cast<ptrdiff_t>(y) * rowBytes_);
     store({copy, rowBytes_});
   }
 
@@ -108,7 +111,8 @@ class MedianRun {
   void sort(const WindowFilter& filter) const {
     if (!isInPlace_) return filterWindows(filter, image_, dst_, buffer_);
     // Rows are overwritten when all that read them have been brought into the ring.
-    const auto held = static_cast<int64_t>(bufferBytes(roi_, mask_, kSample, std::is_floating_point_v<T>)) / rowBytes_;
+    const auto held =
+        static_cast<int64_t>(bufferBytes(roi_, mask_, kSample, std::is_floating_point_v<T>)) / rowBytes_;
     const int slots = static_cast<int>(std::min<int64_t>(held, kBandRows + mask_.height - 1));
     const int most = slots - mask_.height + 1;
     const auto ringRow = [&](int y) { return buffer_ + (y + above_) % slots * rowBytes_; };

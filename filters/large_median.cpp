@@ -78,7 +78,8 @@ struct Tiles {
 
   Tiles(LumiSize roi, LumiSize mask) {
     constexpr int64_t kSide = 256, kMost = kSide * kSide;
-    columns = std::min<int64_t>(int64_t{roi.width} + mask.width - 1, std::max<int64_t>(kSide, 2 * int64_t{mask.width}));
+    columns = std::min<int64_t>(int64_t{roi.width} + mask.width - 1,
+                                std::max<int64_t>(kSide, 2 * int64_t{mask.width}));
     rows = std::min<int64_t>(int64_t{roi.height} + mask.height - 1, kMost / columns);
   }
 };
@@ -147,10 +148,13 @@ bool storeByRanks(const LargeMedian& f) {
 template <typename T>
 bool storeMedians(const LargeMedian& filter) {
   if (!fitHistograms(filter.mask)) return false;
+  bool stored = false;
   if constexpr (std::is_floating_point_v<T>)
-    return storeByRanks<T>(filter);
+    stored = storeByRanks<T>(filter);
   else
-    return storeByHistograms<T>(filter);
+    stored = storeByHistograms<T>(filter);
+  if (stored) countPath(Path::MedianHistograms);
+  return stored;
 }
 
 template <typename T>
@@ -163,7 +167,7 @@ void storeSelectedMedians(const LargeMedian& f) {
     }
 }
 
-#define LUMI_LARGE_MEDIAN(T)                          \
+#define LUMI_LARGE_MEDIAN(T)                         \
   template bool storeMedians<T>(const LargeMedian&); \
   template void storeSelectedMedians<T>(const LargeMedian&);
 LUMI_LARGE_MEDIAN(Lum8u)

@@ -15,8 +15,8 @@ struct LargeMedian {
   int pixelBytes, channels;  // those that are filtered
 };
 
-// Through histograms of columns, at a cost that hardly depends on the window. False where windows are too large for
-// them, or where there is no memory: then nothing is written.
+// Through histograms of columns, at a cost that hardly depends on the window. False where windows are too
+// large for them, or where there is no memory: then nothing is written.
 template <typename T>
 bool storeMedians(const LargeMedian& filter);
 

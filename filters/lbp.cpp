@@ -44,7 +44,7 @@ LumStatus patternInOrder(const T* src, int srcStep, T* dst, int dstStep, LumiSiz
   return patternByMode<side, T, T, Layout>(src, srcStep, dst, dstStep, roi, 1, border, value);
 }
 
-constexpr int kReach = 2;  // of the window of a distance
+constexpr int kReach = 2;          // of the window of a distance
 constexpr int kStripBytes = 1024;  // of results that are made together
 constexpr int kRoom = kStripBytes + 64;
 

@@ -33,6 +33,7 @@ enum class Path {
   WindowStrips,
   GradientsInPlace,
   HogBlocksTogether,
+  MedianHistograms,
 };
 
 }  // namespace lumi

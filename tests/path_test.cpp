@@ -19,6 +19,7 @@
 #include "lumi/copy_channels.h"
 #include "lumi/div.h"
 #include "lumi/filter_box.h"
+#include "lumi/filter_median.h"
 #include "lumi/gradient_vector.h"
 #include "lumi/hog.h"
 #include "lumi/lut.h"
@@ -512,6 +513,30 @@ TEST(Paths, BoxesOfManyFloatsGoInStrips) {
   EXPECT_EQ(strips(1900, 60), 1);
   EXPECT_EQ(strips(1000, 60), 0);
   EXPECT_EQ(strips(1900, 20), 0);
+}
+
+// Small windows are sorted, and those that are too high for counters of bytes have each median selected.
+TEST(Paths, LargeMediansTakeHistograms) {
+  const std::vector<Lum32f> src(20 * 160);
+  std::vector<Lum32f> dst(20);
+  const auto* const bytes = reinterpret_cast<const Lum8u*>(src.data());
+  auto* const results = reinterpret_cast<Lum8u*>(dst.data());
+  const auto ofBytes = [&](LumiSize mask) {
+    return taken(Path::MedianHistograms, [&] {
+      return lumiFilterMedian_8u_C1R(bytes, 80, results, 80, {4, 1}, mask, {0, 0});
+    });
+  };
+  EXPECT_EQ(ofBytes({3, 3}), 0);
+  EXPECT_EQ(ofBytes({5, 3}), 1);
+  EXPECT_EQ(ofBytes({3, 127}), 1);
+  EXPECT_EQ(ofBytes({3, 129}), 0);
+  const auto ofFloats = [&](LumiSize mask) {
+    return taken(Path::MedianHistograms, [&] {
+      return lumiFilterMedian_32f_C1R(src.data(), 80, dst.data(), 80, {4, 1}, mask, {0, 0});
+    });
+  };
+  EXPECT_EQ(ofFloats({5, 5}), 0);
+  EXPECT_EQ(ofFloats({7, 5}), 1);
 }
 
 // Beyond 512 columns the middle of an image is done where it lies, but not that of three channels.

@@ -37,7 +37,8 @@ Suite::Build median(Run<T> run, int side) {
     const auto src = scene.inputOf<T>(C, around(scene.roi(), side));
     const int centre = side / 2;
     scene.ours([=] {
-      run(src.row(centre) + centre * C, src.step, dst.data(), dst.step, dst.roi, {side, side}, {centre, centre});
+      run(src.row(centre) + centre * C, src.step, dst.data(), dst.step, dst.roi, {side, side},
+          {centre, centre});
     });
     const bool isOffered = sizeof(T) == 1 || side <= 5;
     if (isOffered && opencv::medianBlur != nullptr) scene.peer(opencv::medianBlur(src, dst, side));
@@ -58,7 +59,8 @@ Suite::Build medianBorder(RunBorder<T> run, LumiDataType type, int side, bool in
     lumiFilterMedianBorderGetBufferSize(dst.roi, {side, side}, type, 1, &bytes);
     const auto buffer = scene.outputOf<Lum8u>(1, {bytes, 1});
     scene.ours([=] {
-      run(src.data(), src.step, dst.data(), dst.step, dst.roi, {side, side}, lumiBorderReplicate, 0, buffer.data());
+      run(src.data(), src.step, dst.data(), dst.step, dst.roi, {side, side}, lumiBorderReplicate, 0,
+          buffer.data());
     });
     if (opencv::medianBlur != nullptr) scene.peer(opencv::medianBlur(src, dst, side));
   };
@@ -78,9 +80,12 @@ const Family family("filter_median", [](Suite& suite) {
   suite.row("median 32f C1 3x3", kUpToHd, median<1>(lumiFilterMedian_32f_C1R, 3));
   suite.row("median 32f C1 5x5", kUpToHd, median<1>(lumiFilterMedian_32f_C1R, 5));
   suite.row("median 32f C1 9x9", kUpToHd, median<1>(lumiFilterMedian_32f_C1R, 9));
-  suite.row("median border 8u C1 3x3", kUpToHd, medianBorder(lumiFilterMedianBorder_8u_C1R, lumiData8u, 3, false));
-  suite.row("median border 8u C1I 3x3", kUpToHd, medianBorder(lumiFilterMedianBorder_8u_C1R, lumiData8u, 3, true));
-  suite.row("median border 8u C1 9x9", kUpToHd, medianBorder(lumiFilterMedianBorder_8u_C1R, lumiData8u, 9, false));
+  suite.row("median border 8u C1 3x3", kUpToHd,
+            medianBorder(lumiFilterMedianBorder_8u_C1R, lumiData8u, 3, false));
+  suite.row("median border 8u C1I 3x3", kUpToHd,
+            medianBorder(lumiFilterMedianBorder_8u_C1R, lumiData8u, 3, true));
+  suite.row("median border 8u C1 9x9", kUpToHd,
+            medianBorder(lumiFilterMedianBorder_8u_C1R, lumiData8u, 9, false));
 });
 
 }  // namespace

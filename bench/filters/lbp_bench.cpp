@@ -71,7 +71,8 @@ Suite::Build distances(Distance run) {
     const auto a = around<T>(scene), b = around<T>(scene);
     const auto dst = scene.output<T>(1);
     scene.ours([=] {
-      run(a.row(2) + 2, a.step, b.row(2) + 2, b.step, dst.data(), dst.step, dst.roi, 0, lumiBorderInMemory, 0);
+      run(a.row(2) + 2, a.step, b.row(2) + 2, b.step, dst.data(), dst.step, dst.roi, 0, lumiBorderInMemory,
+          0);
     });
     scene.peer(loopDistance(a, b, dst));
   };

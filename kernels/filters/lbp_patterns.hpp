@@ -85,9 +85,9 @@ struct PatternOfBytes : Pattern<uint8_t, D, side, mode> {
   }
 
  private:
-  // The average of a neighbour n and 255 - c, rounded up, is (n - c + 256) / 2: its top bit is set unless n is
-  // below the centre c. Averages with such bits move the bits before downward: 64, 32 and so on are even up to
-  // the seventh.
+  // The average of a neighbour n and 255 - c, rounded up, is (n - c + 256) / 2: its top bit is set unless n
+  // is below the centre c. Averages with such bits move the bits before downward: 64, 32 and so on are even
+  // up to the seventh.
   template <size_t first, size_t... bit>
   static Bytes eightBits(WindowRows rows, Bytes complement, std::index_sequence<bit...>) {
     const Bytes top = broadcast<uint8_t>(128);

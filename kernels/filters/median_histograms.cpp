@@ -39,10 +39,12 @@ void subtract(Byte* counters, unsigned level) {
   store16(counters, (loadCounters(counters) - fromLevel(level)).v);
 }
 
-[[gnu::always_inline]] inline unsigned countOf(Bytes16 mask) { return static_cast<unsigned>(__builtin_popcount(topBits(mask))); }
+[[gnu::always_inline]] inline unsigned countOf(Bytes16 mask) {
+  return static_cast<unsigned>(__builtin_popcount(topBits(mask)));
+}
 
-// Counters of a window with at most 255 samples. The level of a rank is the first one with more samples up to it:
-// the number of those whose counter is not above.
+// Counters of a window with at most 255 samples. The level of a rank is the first one with more samples up to
+// it: the number of those whose counter is not above.
 struct ByteCounters {
   using Rank = U8;
   U8 count;
@@ -77,7 +79,8 @@ struct WordCounters {
     high = high + as<uint16_t>(shiftRight<8>(as<int16_t>(interleaveHigh(moved, moved))));
   }
   [[gnu::always_inline]] unsigned levelOf(Rank rank) const {
-    return countOf(narrowSigned<int8_t>(as<int16_t>(notAbove(low, rank)), as<int16_t>(notAbove(high, rank))).v);
+    return countOf(
+        narrowSigned<int8_t>(as<int16_t>(notAbove(low, rank)), as<int16_t>(notAbove(high, rank))).v);
   }
   [[gnu::always_inline]] Rank rankUnder(unsigned level, Rank rank) const {
     alignas(16) uint16_t counters[kLevels];
@@ -102,8 +105,8 @@ Counters sumOf(const Byte* column, int columns, int most) {
   return sum;
 }
 
-// The lower levels of windows, one after the other along a row. Those under the upper level of the last window
-// stay in registers; others are kept here until a window asks for them again.
+// The lower levels of windows, one after the other along a row. Those under the upper level of the last
+// window stay in registers; others are kept here until a window asks for them again.
 template <typename Counters>
 struct FineWindows {
   const Byte* fine;
@@ -137,8 +140,8 @@ struct FineWindows {
   }
 };
 
-// Stores result(x, byte, rank) for each window: of the upper byte of its median, and of a function that tells how
-// many of its samples with that byte are below the median.
+// Stores result(x, byte, rank) for each window: of the upper byte of its median, and of a function that tells
+// how many of its samples with that byte are below the median.
 template <typename T, typename Counters, typename Result>
 [[gnu::always_inline]] inline void storeMedians(const Byte* coarse, FineWindows<Counters>& fine, Byte* dst,
                                                 ptrdiff_t pixelBytes, int windows, int samples,
@@ -208,9 +211,7 @@ class LowBytes {
   }
 
   [[gnu::always_inline]] unsigned at(int x, unsigned upper, U16 rank) { return of(x, upper).byteOf(rank); }
-  [[gnu::always_inline]] unsigned at(int x, unsigned upper, U8 rank) {
-    return at(x, upper, widenLow(rank));
-  }
+  [[gnu::always_inline]] unsigned at(int x, unsigned upper, U8 rank) { return at(x, upper, widenLow(rank)); }
   const LowHistogram& of(int x, unsigned upper) {
     LowHistogram& histogram = all_[upper];
     int& window = window_[upper];
@@ -248,8 +249,8 @@ class LowBytes {
 
 constexpr int64_t roundedUp(int64_t n, int64_t to) { return (n + to - 1) / to * to; }
 
-// Planes of lower levels, and behind them that of the upper ones. A column's lines of sixteen of them fall into
-// different sets of the cache.
+// Planes of lower levels, and behind them that of the upper ones. A column's lines of sixteen of them fall
+// into different sets of the cache.
 constexpr int kPlanes = kLevels + 1;
 int64_t planeBytes(int64_t columns) { return roundedUp(kColumn * columns, 128) + 64; }
 int slotsFor(int rows) { return static_cast<int>(roundedUp(rows, 16)); }

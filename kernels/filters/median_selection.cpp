@@ -13,9 +13,9 @@ void inColumn(const MedianRows& src, int64_t x, const Each& each) {
   for (int y = 0; y < src.rows; ++y, sample += src.step) each(sample);
 }
 
-// A histogram of bytes that follows a window, and the byte of a rank, which hardly moves from one window to the
-// next. Windows have fewer than 2^62 samples.
-// Source: T. S. Huang et al., A fast two-dimensional median filtering algorithm, 1979.
+// A histogram of bytes that follows a window, and the byte of a rank, which hardly moves from one window to
+// the next. Windows have fewer than 2^62 samples. Source: T. S. Huang et al., A fast two-dimensional median
+// filtering algorithm, 1979.
 class ByteHistogram {
  public:
   void add(unsigned byte) {
@@ -40,8 +40,8 @@ class ByteHistogram {
   unsigned byte_ = 0;
 };
 
-// A median of windows of which the upper byte is known, and how many samples with that byte are below: the bytes
-// under it, one after the other, of the samples that agree in those before.
+// A median of windows of which the upper byte is known, and how many samples with that byte are below: the
+// bytes under it, one after the other, of the samples that agree in those before.
 template <typename T>
 typename SampleOrder<T>::Key lowerBytes(const MedianRows& src, int64_t x, unsigned byte, int64_t rank) {
   uint64_t known = byte;
@@ -65,7 +65,9 @@ void selectMedians(const MedianRows& src, uint8_t* dst, int count) {
   const int64_t rank = int64_t{src.rows} * src.columns / 2;
   constexpr int kUpper = 8 * static_cast<int>(sizeof(T)) - 8;
   ByteHistogram histogram;
-  const auto upper = [](const uint8_t* p) { return static_cast<unsigned>(SampleOrder<T>::keyAt(p) >> kUpper); };
+  const auto upper = [](const uint8_t* p) {
+    return static_cast<unsigned>(SampleOrder<T>::keyAt(p) >> kUpper);
+  };
   const auto add = [&](const uint8_t* p) { histogram.add(upper(p)); };
   for (int i = 0; i < src.columns; ++i) inColumn(src, i, add);
   for (int64_t x = 0;; ++x, dst += src.pixelBytes) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Samples as unsigned numbers with the same order. That of floats is total: negative zero is below zero, and what
-// is no number is beyond the infinity of its sign.
+// Samples as unsigned numbers with the same order. That of floats is total: negative zero is below zero, and
+// what is no number is beyond the infinity of its sign.
 #pragma once
 
 #include <cstdint>

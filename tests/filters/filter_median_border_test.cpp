@@ -42,15 +42,26 @@ const bool added = addModelTests(membersOfOneType(
     "FilterMedianBorder",
     [](Member& m, auto sample) {
       using T = decltype(sample);
-      m.choose("maskSize",
-               {{{3, 3}}, {{3, 3}}, {{5, 5}}, {{3, 1}}, {{5, 1}}, {{1, 3}}, {{1, 5}}, {{1, 1}}, {{7, 3}}, {{3, 9}}});
+      m.choose("maskSize", {{{3, 3}},
+                            {{3, 3}},
+                            {{5, 5}},
+                            {{3, 1}},
+                            {{5, 1}},
+                            {{1, 3}},
+                            {{1, 5}},
+                            {{1, 1}},
+                            {{7, 3}},
+                            {{3, 9}}});
       m.choose("border", borders());
       m.choose("borderValue", {{{0}}, {{7}}, {{200}}});
-      m.scratch("buffer", [](const Call& c) { return bufferBytes(c.roi, c.size("maskSize"), dataType<T>()); });
+      m.scratch("buffer",
+                [](const Call& c) { return bufferBytes(c.roi, c.size("maskSize"), dataType<T>()); });
       m.surroundings = [](const Call& c) -> Member::Surroundings {
         const int border = static_cast<int>(c.number("border"));
         const LumiSize mask = c.size("maskSize");
-        const auto side = [=](int flag, int size) { return (border & 15) == 6 || border & flag ? size / 2 : 0; };
+        const auto side = [=](int flag, int size) {
+          return (border & 15) == 6 || border & flag ? size / 2 : 0;
+        };
         return {side(64, mask.width), side(16, mask.height), side(128, mask.width), side(32, mask.height)};
       };
       m.contents = std::is_floating_point_v<T> ? std::vector<Contents>{Contents::Small} : kAnyContents;
@@ -101,26 +112,38 @@ TEST(FilterMedianBorder, SizesAreTheFormula) {
 
 // A source of equal rows, and a destination of which the last row stays.
 TEST(FilterMedianBorder, TakesStepsOfZeroAndLess) {
-  const Lum8u row[7] = {9, 1, 8, 2, 7, 3, 6}, src[3][7] = {{1, 2, 3, 4, 5, 6, 7}, {9, 9, 9, 0, 0, 0, 0}, {5, 5, 5, 5, 5, 5, 5}};
+  const Lum8u row[7] = {9, 1, 8, 2, 7, 3, 6},
+              src[3][7] = {{1, 2, 3, 4, 5, 6, 7}, {9, 9, 9, 0, 0, 0, 0}, {5, 5, 5, 5, 5, 5, 5}};
   Lum8u dst[3][7] = {}, buffer[4096];
   const LumiSize roi{7, 3}, mask{3, 3};
-  EXPECT_EQ(lumiFilterMedianBorder_8u_C1R(row, 0, dst[0], 7, roi, mask, lumiBorderReplicate, 0, buffer), lumStatusOk);
+  EXPECT_EQ(lumiFilterMedianBorder_8u_C1R(row, 0, dst[0], 7, roi, mask, lumiBorderReplicate, 0, buffer),
+            lumStatusOk);
   for (const auto& line : dst)
     EXPECT_EQ(std::vector<Lum8u>(line, line + 7), (std::vector<Lum8u>{9, 8, 2, 7, 3, 6, 6}));
   Lum8u upward[3][7] = {}, last[7] = {};
-  EXPECT_EQ(lumiFilterMedianBorder_8u_C1R(src[0], 7, dst[0], 7, roi, mask, lumiBorderConst, 4, buffer), lumStatusOk);
+  EXPECT_EQ(lumiFilterMedianBorder_8u_C1R(src[0], 7, dst[0], 7, roi, mask, lumiBorderConst, 4, buffer),
+            lumStatusOk);
   EXPECT_EQ(lumiFilterMedianBorder_8u_C1R(src[0], 7, upward[2], -7, roi, mask, lumiBorderConst, 4, buffer),
             lumStatusOk);
-  EXPECT_EQ(lumiFilterMedianBorder_8u_C1R(src[0], 7, last, 0, roi, mask, lumiBorderConst, 4, buffer), lumStatusOk);
+  EXPECT_EQ(lumiFilterMedianBorder_8u_C1R(src[0], 7, last, 0, roi, mask, lumiBorderConst, 4, buffer),
+            lumStatusOk);
   for (int y = 0; y < 3; ++y) EXPECT_TRUE(std::equal(dst[y], dst[y] + 7, upward[2 - y]));
   EXPECT_TRUE(std::equal(last, last + 7, dst[2]));
 }
 
 TEST(FilterMedianBorder, FaultsOfRuns) {
   for (const std::string type : {"8u", "16u", "16s", "32f"}) {
-    std::vector<NamedFault> faults = {nullFault("src"), nullFault("dst"), nullFault("buffer"),
-                                      {[](NamedCall& c) { c.size("roi", {0, 3}); }, lumStatusBadSize},
-                                      {[](NamedCall& c) { c.size("roi", {3, -1}); }, lumStatusBadSize}};
+    std::vector<NamedFault> faults = {nullFault("src"),
+                                      nullFault("dst"),
+                                      nullFault("buffer"),
+                                      {[](NamedCall& c) {
+                                         c.size("roi", {0, 3});
+                                       },
+                                       lumStatusBadSize},
+                                      {[](NamedCall& c) {
+                                         c.size("roi", {3, -1});
+                                       },
+                                       lumStatusBadSize}};
     const auto oddStep = [&](const char* step, int bytes) {
       faults.push_back({[=](NamedCall& c) { c.number(step, bytes); }, lumStatusOddStep});
     };
@@ -141,9 +164,8 @@ TEST(FilterMedianBorder, FaultsOfRuns) {
     NamedCall right("lumiFilterMedianBorder_" + type + "_C1R");
     right.image("src", image, 64).image("dst", result, 64).size("roi", {3, 3}).size("maskSize", {3, 3});
     right.number("border", lumiBorderReplicate).number("borderValue", 0).pointer("buffer", buffer);
-    expectInOrder(right, faults, [&](LumStatus) {
-      ASSERT_EQ(std::count(std::begin(result), std::end(result), 0), 4 * 64);
-    });
+    expectInOrder(right, faults,
+                  [&](LumStatus) { ASSERT_EQ(std::count(std::begin(result), std::end(result), 0), 4 * 64); });
     EXPECT_EQ(right.run(), lumStatusOk);
     EXPECT_EQ(result[0], 1);
   }

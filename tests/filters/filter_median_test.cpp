@@ -21,21 +21,22 @@ namespace {
 bool isPixel(LumiSize mask) { return mask.width == 1 && mask.height == 1; }
 
 // Of one pixel, the window is where the pixel is, wherever its anchor.
-LumiPoint anchorOf(const Call& c) { return isPixel(c.size("maskSize")) ? LumiPoint{0, 0} : c.point("anchor"); }
+LumiPoint anchorOf(const Call& c) {
+  return isPixel(c.size("maskSize")) ? LumiPoint{0, 0} : c.point("anchor");
+}
 
 bool isInside(LumiPoint anchor, LumiSize mask) { return anchor.x < mask.width && anchor.y < mask.height; }
 
 int bufferBytes(const Call& c, int sampleBytes) {
   const LumiSize mask = c.size("maskSize");
   int bytes = 0;
-  auto* const size =
-      sampleBytes == 8 ? lumiFilterMedianGetBufferSize_64f : lumiFilterMedianGetBufferSize_32f;
+  auto* const size = sampleBytes == 8 ? lumiFilterMedianGetBufferSize_64f : lumiFilterMedianGetBufferSize_32f;
   EXPECT_EQ(size(c.roi, mask, 1, &bytes), lumStatusOk);
   return bytes;
 }
 
-// Every network, and windows around them; more samples than bytes count (17 x 17); single rows and columns, one of
-// them higher than a block of samples (31).
+// Every network, and windows around them; more samples than bytes count (17 x 17); single rows and columns,
+// one of them higher than a block of samples (31).
 std::vector<Value> masks(int pixelBytes) {
   std::vector<Value> all = {{{3, 3}}, {{3, 3}}, {{5, 5}}, {{3, 1}}, {{5, 1}}, {{1, 3}},
                             {{1, 5}}, {{1, 1}}, {{3, 5}}, {{5, 3}}, {{7, 1}}, {{9, 7}}};
@@ -78,8 +79,7 @@ const bool added = addModelTests(membersOf(
     },
     Types<Lum8u, Lum16u, Lum16s, Lum32f, Lum64f>()));
 
-const bool covered =
-    addCovered({"lumiFilterMedianGetBufferSize_32f", "lumiFilterMedianGetBufferSize_64f"});
+const bool covered = addCovered({"lumiFilterMedianGetBufferSize_32f", "lumiFilterMedianGetBufferSize_64f"});
 
 // A call of a member of one channel, on an image with all that its windows cover.
 template <typename T>
@@ -89,7 +89,9 @@ struct Median {
 
   int coveredWidth() const { return roi.width + mask.width - 1; }
   int coveredHeight() const { return roi.height + mask.height - 1; }
-  size_t covered() const { return static_cast<size_t>(coveredWidth()) * static_cast<size_t>(coveredHeight()); }
+  size_t covered() const {
+    return static_cast<size_t>(coveredWidth()) * static_cast<size_t>(coveredHeight());
+  }
 
   std::vector<T> run(const std::vector<T>& src) const {
     std::vector<T> dst(static_cast<size_t>(roi.width * roi.height));
@@ -133,46 +135,62 @@ std::vector<T> noise(size_t count, int from, int to) {
   return samples;
 }
 
-template <typename T>
-class FilterMedian : public testing::Test {};
-using MedianTypes = testing::Types<Lum8u, Lum16u, Lum16s, Lum32f, Lum64f>;
-TYPED_TEST_SUITE(FilterMedian, MedianTypes);
+template <typename Check>
+void ofEveryType(const Check& check) {
+  check(Lum8u());
+  check(Lum16u());
+  check(Lum16s());
+  check(Lum32f());
+  check(Lum64f());
+}
 
 // Too many samples, or too many rows, for histograms.
-TYPED_TEST(FilterMedian, TakesWindowsOfAnySize) {
-  for (const LumiSize mask : {LumiSize{3, 127}, LumiSize{3, 129}, LumiSize{515, 127}, LumiSize{517, 127}}) {
-    const Median<TypeParam> median{{3, 2}, mask};
-    const auto src = noise<TypeParam>(median.covered(), -300, 300);
-    EXPECT_EQ(median.run(src), median.expected(src)) << mask.width << " x " << mask.height;
-  }
+TEST(FilterMedian, TakesWindowsOfAnySize) {
+  ofEveryType([](auto any) {
+    using T = decltype(any);
+    for (const LumiSize mask : {LumiSize{3, 127}, LumiSize{3, 129}, LumiSize{515, 127}, LumiSize{517, 127}}) {
+      const Median<T> median{{3, 2}, mask};
+      const auto src = noise<T>(median.covered(), -300, 300);
+      EXPECT_EQ(median.run(src), median.expected(src)) << mask.width << " x " << mask.height;
+    }
+  });
 }
 
 // More columns than are done together, and more samples than words count.
-TYPED_TEST(FilterMedian, TakesImagesOfAnySize) {
-  for (const LumiSize roi : {LumiSize{2060, 2}, LumiSize{300, 300}}) {
-    const Median<TypeParam> median{roi, {3, 5}};
-    const auto src = noise<TypeParam>(median.covered(), 0, 60000);
-    EXPECT_EQ(median.run(src), median.expected(src)) << roi.width << " x " << roi.height;
-  }
+TEST(FilterMedian, TakesImagesOfAnySize) {
+  ofEveryType([](auto any) {
+    using T = decltype(any);
+    for (const LumiSize roi : {LumiSize{2060, 2}, LumiSize{300, 300}}) {
+      const Median<T> median{roi, {3, 5}};
+      const auto src = noise<T>(median.covered(), 0, 60000);
+      EXPECT_EQ(median.run(src), median.expected(src)) << roi.width << " x " << roi.height;
+    }
+  });
 }
 
 // Counters at their limits.
-TYPED_TEST(FilterMedian, KeepsFlatImages) {
-  using Limits = std::numeric_limits<TypeParam>;
-  for (const TypeParam sample : {Limits::lowest(), Limits::max(), TypeParam{1}})
-    for (const LumiSize mask : {LumiSize{3, 3}, LumiSize{5, 5}, LumiSize{7, 7}, LumiSize{255, 1}, LumiSize{17, 17}}) {
-      const Median<TypeParam> median{{5, 3}, mask};
-      EXPECT_EQ(median.run(std::vector<TypeParam>(median.covered(), sample)),
-                std::vector<TypeParam>(15, sample));
-    }
+TEST(FilterMedian, KeepsFlatImages) {
+  ofEveryType([](auto any) {
+    using T = decltype(any);
+    using Limits = std::numeric_limits<T>;
+    for (const T sample : {Limits::lowest(), Limits::max(), T{1}})
+      for (const LumiSize mask :
+           {LumiSize{3, 3}, LumiSize{5, 5}, LumiSize{7, 7}, LumiSize{255, 1}, LumiSize{17, 17}}) {
+        const Median<T> median{{5, 3}, mask};
+        EXPECT_EQ(median.run(std::vector<T>(median.covered(), sample)), std::vector<T>(15, sample));
+      }
+  });
 }
 
 // An impulse disappears.
-TYPED_TEST(FilterMedian, RemovesAnImpulse) {
-  const Median<TypeParam> median{{5, 5}, {3, 3}};
-  std::vector<TypeParam> src(median.covered(), TypeParam{7});
-  src[3 * 7 + 3] = TypeParam{100};
-  EXPECT_EQ(median.run(src), std::vector<TypeParam>(25, TypeParam{7}));
+TEST(FilterMedian, RemovesAnImpulse) {
+  ofEveryType([](auto any) {
+    using T = decltype(any);
+    const Median<T> median{{5, 5}, {3, 3}};
+    std::vector<T> src(median.covered(), T{7});
+    src[3 * 7 + 3] = T{100};
+    EXPECT_EQ(median.run(src), std::vector<T>(25, T{7}));
+  });
 }
 
 // Infinities, and zeros of both signs, have their places in the order of floats.
@@ -224,11 +242,20 @@ TEST(FilterMedianFaults, OfFloatsOfSeveralChannels) {
     const std::vector<NamedFault> faults = {
         nullFault("src"),
         nullFault("dst"),
-        {[](NamedCall& c) { c.size("roi", {1, 0}); }, lumStatusBadSize},
+        {[](NamedCall& c) {
+           c.size("roi", {1, 0});
+         },
+         lumStatusBadSize},
         {[](NamedCall& c) { c.number("srcStep", 0); }, lumStatusBadStep, 1},
         {[](NamedCall& c) { c.number("dstStep", 0); }, lumStatusBadStep},
-        {[](NamedCall& c) { c.size("maskSize", {3, 2}); }, lumStatusBadMaskSize},
-        {[](NamedCall& c) { c.point("anchor", {3, 0}); }, lumStatusBadAnchor},
+        {[](NamedCall& c) {
+           c.size("maskSize", {3, 2});
+         },
+         lumStatusBadMaskSize},
+        {[](NamedCall& c) {
+           c.point("anchor", {3, 0});
+         },
+         lumStatusBadAnchor},
         nullFault("buffer"),
         {[=](NamedCall& c) { c.number("srcStep", 12 * channels - 1); }, lumStatusBadStep, 1}};
     expectInOrder(right, faults, [&](LumStatus) {

@@ -73,7 +73,8 @@ void addDistances() {
     m.mayStream = false;
     m.heights = {1, 2, 3, 5, 9};
     m.rounds = 2;
-    m.choose("shift", {{{0}}, {{1}}, {{-1}}, {{5}}, {{-17}}, {{40}}, {{-1e9}}, {{2147483647}}, {{-2147483648}}});
+    m.choose("shift",
+             {{{0}}, {{1}}, {{-1}}, {{5}}, {{-17}}, {{40}}, {{-1e9}}, {{2147483647}}, {{-2147483648}}});
     m.choose("border", {{{0}}, {{1}}, {{4}}, {{7}}, {{0x100}}});
     m.choose("borderValue", {{{0}}, {{99}}});
     if constexpr (std::is_unsigned_v<T>)
@@ -135,8 +136,8 @@ void expectDistances(Random& random, const Arena (&arenas)[2], bool isWide) {
   for (int y = 0; y < roi.height; ++y)
     for (int x = 0; x < roi.width; ++x) {
       const T got = result[static_cast<size_t>(y * roi.width + x)];
-      ASSERT_EQ(got, model::patternDistance(a, b, shift, x, y)) << x << ", " << y << " of " << roi.width
-                                                                << ", " << border << ", " << shift;
+      ASSERT_EQ(got, model::patternDistance(a, b, shift, x, y))
+          << x << ", " << y << " of " << roi.width << ", " << border << ", " << shift;
     }
 }
 
@@ -166,8 +167,9 @@ TEST(Patterns, FlatImagesSetAllBits) {
   const std::vector<Lum8u> image(42, 9);
   for (Lum8u mode = 0; mode < 5; ++mode) {
     std::vector<Lum8u> result(42);
-    EXPECT_EQ(lumiLBPImageMode3x3_8u_C1R(image.data(), 7, result.data(), 7, {7, 6}, mode, lumiBorderReplicate, 0),
-              lumStatusOk);
+    EXPECT_EQ(
+        lumiLBPImageMode3x3_8u_C1R(image.data(), 7, result.data(), 7, {7, 6}, mode, lumiBorderReplicate, 0),
+        lumStatusOk);
     EXPECT_EQ(result, std::vector<Lum8u>(42, 255));
   }
   Lum8u code = 0;
@@ -178,7 +180,8 @@ TEST(Patterns, FlatImagesSetAllBits) {
 TEST(Patterns, OfOneBrightPixel) {
   const std::vector<Lum8u> image = {6, 5, 5, 5, 9, 5, 5, 5, 5};
   std::vector<Lum8u> result(9);
-  EXPECT_EQ(lumiLBPImage3x3_8u_C1R(image.data(), 3, result.data(), 3, {3, 3}, lumiBorderReplicate, 0), lumStatusOk);
+  EXPECT_EQ(lumiLBPImage3x3_8u_C1R(image.data(), 3, result.data(), 3, {3, 3}, lumiBorderReplicate, 0),
+            lumStatusOk);
   EXPECT_EQ(result[4], 0);
   EXPECT_EQ(result[0], 0b10010011);  // itself, repeated outside, and the bright one
   EXPECT_EQ(result[8], 255);
@@ -190,7 +193,8 @@ TEST(Patterns, WhatIsNoNumberIsNotBelow) {
   image[0] = nan;
   image[1] = 0;
   Lum8u codes[9];
-  EXPECT_EQ(lumiLBPImage3x3_32f8u_C1R(image.data(), 12, codes, 3, {3, 3}, lumiBorderReplicate, 0), lumStatusOk);
+  EXPECT_EQ(lumiLBPImage3x3_32f8u_C1R(image.data(), 12, codes, 3, {3, 3}, lumiBorderReplicate, 0),
+            lumStatusOk);
   EXPECT_EQ(codes[0], 255);
   EXPECT_EQ(codes[4], 0xFF & ~2);
 }

@@ -25,9 +25,9 @@ void median(Image src, Image dst, LumiSize roi, Channels channels, LumiSize wind
     for (int x = 0; x < roi.width; ++x)
       for (int c = 0; c < channels.moved; ++c)
         store<T>(dst.row(y), x * channels.dst + c, medianOf<T>(window, [&](int column, int row) {
-          const int at = (x + column - anchor.x) * channels.src + c;
-          return load<T>(src.row(y + row - anchor.y), at);
-        }));
+                   const int at = (x + column - anchor.x) * channels.src + c;
+                   return load<T>(src.row(y + row - anchor.y), at);
+                 }));
 }
 
 }  // namespace model

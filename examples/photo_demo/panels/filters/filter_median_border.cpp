@@ -16,12 +16,13 @@ AnyImage painted(const Colour& photo, Calls& calls) {
   std::vector<Lum8u> buffer(static_cast<size_t>(bytes));
   Grey result(grey.size());
   calls.time("lumiFilterMedianBorder_8u_C1R", grey.size(), [&] {
-    return lumiFilterMedianBorder_8u_C1R(grey.data(), grey.step(), result.data(), result.step(), grey.size(), kMask,
-                                         lumiBorderReplicate, 0, buffer.data());
+    return lumiFilterMedianBorder_8u_C1R(grey.data(), grey.step(), result.data(), result.step(), grey.size(),
+                                         kMask, lumiBorderReplicate, 0, buffer.data());
   });
   return result;
 }
 
-const Panels panels("filters", "filter_median_border", {{"painted", "Median of 21, edges repeated", painted}});
+const Panels panels("filters", "filter_median_border",
+                    {{"painted", "Median of 21, edges repeated", painted}});
 
 }  // namespace
