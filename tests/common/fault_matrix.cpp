@@ -83,6 +83,11 @@ bool isTestedApart(const ExportRow& row, size_t argument) {
   });
 }
 
+bool has(const ExportRow& row, Check check) {
+  return std::any_of(row.checks.begin(), row.checks.end(),
+                     [&](const CheckStep& step) { return step.check == check; });
+}
+
 bool finds(const CheckStep& step, const ExportRow& row, const BadArgument& fault) {
   const Wrong wrong = fault.wrong;
   if (wrong == Wrong::Refused) {
@@ -94,7 +99,8 @@ bool finds(const CheckStep& step, const ExportRow& row, const BadArgument& fault
   switch (step.check) {
     case Check::Null:
       return (wrong == Wrong::Null && !isTestedApart(row, fault.argument)) ||
-             (wrong == Wrong::NullPlane && row.arguments[fault.argument].kind == Kind::Planes);
+             (wrong == Wrong::NullPlane && row.arguments[fault.argument].kind == Kind::Planes &&
+              !has(row, Check::Each));
     case Check::Pointer:
       return wrong == Wrong::Null && std::strcmp(step.argument, row.arguments[fault.argument].name) == 0;
     case Check::Size:
@@ -115,7 +121,7 @@ bool finds(const CheckStep& step, const ExportRow& row, const BadArgument& fault
     case Check::Value:
       return wrong == Wrong::NullValue;
     case Check::Each:
-      return wrong == Wrong::NullPlane && row.arguments[fault.argument].kind == Kind::Arrays;
+      return wrong == Wrong::NullPlane;
     case Check::Inside:  // these find refused values only
     case Check::Status:
     case Check::Own:
@@ -130,11 +136,6 @@ LumStatus expected(const ExportRow& row, const std::vector<const BadArgument*>& 
     for (const BadArgument* fault : faults)
       if (finds(step, row, *fault)) return statusOf(step);
   return lumStatusOk;
-}
-
-bool has(const ExportRow& row, Check check) {
-  return std::any_of(row.checks.begin(), row.checks.end(),
-                     [&](const CheckStep& step) { return step.check == check; });
 }
 
 std::vector<Slot> validArguments(const ExportRow& row) {
