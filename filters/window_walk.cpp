@@ -48,10 +48,13 @@ void runShort(const WindowFilter& filter, const Band& band, size_t samples, ptrd
   StackRows<kMostBlock * 4, kBandRows> dst;
   const ptrdiff_t left = filter.left * column, right = filter.right * column;
   const size_t bytes = samples * static_cast<size_t>(filter.srcBytes);
-  const size_t covered = static_cast<size_t>(left + right) + bytes;
   for (int y = 0; y < band.rows + filter.above + filter.below; ++y) {
-    std::memcpy(src.row[y], band.src[y] - left, covered);
-    std::memset(src.row[y] + covered, 0, kBytes - covered);
+    const bool isBeside = filter.readsCorners || (y >= filter.above && y < filter.above + band.rows);
+    const ptrdiff_t before = isBeside ? left : 0, after = isBeside ? right : 0;
+    const size_t covered = static_cast<size_t>(before + after) + bytes;
+    Byte* const row = src.row[y] + left - before;
+    std::memcpy(row, band.src[y] - before, covered);
+    std::memset(row + covered, 0, static_cast<size_t>(src.row[y] + kBytes - row) - covered);
   }
   filter.run({src.from(left), dst.all(), band.rows}, static_cast<size_t>(filter.block), column);
   for (int y = 0; y < band.rows; ++y)

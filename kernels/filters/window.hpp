@@ -31,6 +31,7 @@ struct WindowFilter {
   int left, above, right, below;  // how far the window reaches, in pixels
   int block;                      // the fewest samples of a run
   int srcBytes, dstBytes;         // of a sample
+  bool readsCorners = true;       // whether it reads beside the rows above and below
 };
 
 namespace simd {
