@@ -42,6 +42,7 @@
 #include "lumi/lut.h"
 #include "lumi/lut_palette.h"
 #include "lumi/magnitude.h"
+#include "lumi/median_shapes.h"
 #include "lumi/min_max.h"
 #include "lumi/min_max_index.h"
 #include "lumi/mirror.h"

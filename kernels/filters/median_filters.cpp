@@ -2,50 +2,19 @@
 #include "kernels/filters/median_filters.hpp"
 
 #include "kernels/filters/median_networks.hpp"
+#include "kernels/filters/sample_vectors.hpp"
 
 namespace lumi {
 namespace simd {
 namespace {
 
-template <typename T>
-struct VectorOf {
-  using Type = Samples<T>;
-};
-template <>
-struct VectorOf<float> {
-  using Type = Floats8;
-};
-template <typename T>
-using Vector = typename VectorOf<T>::Type;
-
-// Each sample is both in a minimum and in a maximum, for which compilers would load it twice; loads are what
-// there is least of.
-template <typename T>
-Vector<T> loadOnce(const Byte* p) {
-  if constexpr (std::is_floating_point_v<T>)
-    return {asFloats(load32Once(p))};
-  else if constexpr (kVectorBytes == 32)
-    return {load32Once(p)};
-  else
-    return {load16Once(p)};
-}
-
-template <typename V>
-[[gnu::always_inline]] inline void store(Byte* p, V x) {
-  if constexpr (std::is_same_v<V, Floats8>)
-    storeFloats(p, x);
-  else
-    storeVector(p, x.v);
-}
-
-// Samples about the block, by row (0 is the one that was taken last) and pixel.
+// Samples about a block, by row (from the window's first one on) and pixel. Each is in a minimum and in a
+// maximum, but loaded once: loads are what there is least of.
 template <typename T>
 struct Window {
   WindowRows rows;
 
-  [[gnu::always_inline]] Vector<T> operator()(int row, int pixel) const {
-    return loadOnce<T>(rows(row, pixel));
-  }
+  Vector<T> operator()(int row, int pixel) const { return loadOnce<T>(rows(row, pixel)); }
   [[gnu::always_inline]] Sorted<Vector<T>, 3> three(int row) const {
     const Window& at = *this;
     return sorted(at(row, -1), at(row, 0), at(row, 1));
@@ -56,156 +25,146 @@ struct Window {
   }
 };
 
-// Filters that keep nothing of the rows above.
-template <typename T, int rows>
-struct Alone {
-  using Source = T;
-  using Result = T;
-  static constexpr int kRows = rows, kVectors = 1;
-  void take(WindowRows) {}
-};
+// Shapes whose windows share all but one row of two with those below: common(at) is of rows 1 and on,
+// with(common, x) the median of those and of row 0, or the row behind the last.
 
-template <typename T>
-struct Row3 : Alone<T, 1> {
-  Vector<T> result(WindowRows rows) const {
-    const Window<T> at{rows};
-    return median(at(0, -1), at(0, 0), at(0, 1));
+struct Square3 {
+  static constexpr int kRows = 3;
+
+  template <typename T>
+  [[gnu::always_inline]] static auto common(const Window<T>& at) {
+    return TwoOfThreeTriples<Vector<T>>(at.three(1), at.three(2));
+  }
+  template <typename T, typename Common>
+  [[gnu::always_inline]] static Vector<T> with(const Common& common, const Window<T>& at, int row) {
+    return common.medianWith(at.three(row));
   }
 };
 
-template <typename T>
-struct Row5 : Alone<T, 1> {
-  Vector<T> result(WindowRows rows) const {
-    const Window<T> at{rows};
-    return median(at(0, -2), at(0, -1), at(0, 0), at(0, 1), at(0, 2));
+struct ColumnWith {
+  template <typename T>
+  [[gnu::always_inline]] static Vector<T> with(const Sorted<Vector<T>, 2>& common, const Window<T>& at,
+                                               int row) {
+    return clamped(at(row, 0), common.at[0], common.at[1]);
+  }
+};
+struct Column3 : ColumnWith {
+  static constexpr int kRows = 3;
+
+  template <typename T>
+  [[gnu::always_inline]] static auto common(const Window<T>& at) {
+    return sorted(at(1, 0), at(2, 0));
+  }
+};
+struct Column5 : ColumnWith {
+  static constexpr int kRows = 5;
+
+  template <typename T>
+  [[gnu::always_inline]] static auto common(const Window<T>& at) {
+    return middleOf(sorted(at(1, 0), at(2, 0)), sorted(at(3, 0), at(4, 0)));
   }
 };
 
-template <typename T>
-struct Cross3 : Alone<T, 3> {
-  Vector<T> result(WindowRows rows) const {
-    const Window<T> at{rows};
-    return median(at(-2, 0), at(0, 0), at(-1, -1), at(-1, 1), at(-1, 0));
+// Shapes that share too little.
+
+struct Row3 {
+  static constexpr int kRows = 1;
+
+  template <typename T>
+  [[gnu::always_inline]] static Vector<T> median(const Window<T>& at) {
+    return lumi::median(at(0, -1), at(0, 0), at(0, 1));
   }
 };
 
-template <typename T>
-struct Cross5 : Alone<T, 5> {
-  Vector<T> result(WindowRows rows) const {
-    const Window<T> at{rows};
-    const auto column = sorted(at(-4, 0), at(-3, 0), at(-1, 0)),
-               outer = sorted(at(0, 0), at(-2, -2), at(-2, 2));
-    return TwoOfThreeTriples(column, outer).medianWith(at.three(-2));
+struct Row5 {
+  static constexpr int kRows = 1;
+
+  template <typename T>
+  [[gnu::always_inline]] static Vector<T> median(const Window<T>& at) {
+    return lumi::median(at(0, -2), at(0, -1), at(0, 0), at(0, 1), at(0, 2));
+  }
+};
+
+struct Cross3 {
+  static constexpr int kRows = 3;
+
+  template <typename T>
+  [[gnu::always_inline]] static Vector<T> median(const Window<T>& at) {
+    return lumi::median(at(0, 0), at(2, 0), at(1, -1), at(1, 1), at(1, 0));
+  }
+};
+
+struct Cross5 {
+  static constexpr int kRows = 5;
+
+  template <typename T>
+  [[gnu::always_inline]] static Vector<T> median(const Window<T>& at) {
+    const auto column = sorted(at(0, 0), at(1, 0), at(3, 0)), outer = sorted(at(4, 0), at(2, -2), at(2, 2));
+    return TwoOfThreeTriples(column, outer).medianWith(at.three(2));
   }
 };
 
 // Centres that are counted w times are the median of all as long as they lie between those of the eight
 // others that would be the median if centres were above, or below, all of them: the (9 + w) / 2-th and, w
 // places before it, the (9 - w) / 2-th.
-template <typename T, int weight>
-struct WeightedCentre : Alone<T, 3> {
-  Vector<T> result(WindowRows rows) const {
-    const Window<T> at{rows};
-    const auto limits =
-        placesOf<(9 - weight) / 2>(merged(at.three(-2), at.three(0)), sorted(at(-1, -1), at(-1, 1)));
-    return clamped(at(-1, 0), limits.at[0], limits.at[1]);
-  }
-};
-
-// The filters below make two rows of results at a time, which have all but one of their rows in common. They
-// are objects that keep what they need of the rows above: take(x) takes a row before the first pair, and
-// pair(x, y, results) two more.
-
-template <typename T>
-struct Column3 {
-  using V = Vector<T>;
+template <int weight>
+struct WeightedCentre {
   static constexpr int kRows = 3;
-  V before, last;
 
-  [[gnu::always_inline]] void take(Window<T> x) {
-    before = last;
-    last = x(0, 0);
-  }
-  [[gnu::always_inline]] void pair(Window<T> x, Window<T> y, V (&results)[2]) {
-    const V first = x(0, 0), second = y(0, 0);
-    const auto common = sorted(last, first);
-    results[0] = clamped(before, common.at[0], common.at[1]);
-    results[1] = clamped(second, common.at[0], common.at[1]);
-    before = first;
-    last = second;
+  template <typename T>
+  [[gnu::always_inline]] static Vector<T> median(const Window<T>& at) {
+    const auto limits =
+        placesOf<(9 - weight) / 2>(merged(at.three(0), at.three(2)), sorted(at(1, -1), at(1, 1)));
+    return clamped(at(1, 0), limits.at[0], limits.at[1]);
   }
 };
 
-template <typename T>
-struct Column5 {
-  using V = Vector<T>;
-  static constexpr int kRows = 5;
-  Sorted<V, 2> pairAbove;  // of the third and second of the rows above
-  V fourth, third, second, last;
-
-  [[gnu::always_inline]] void take(Window<T> x) {
-    fourth = third;
-    third = second;
-    second = last;
-    last = x(0, 0);
-    pairAbove = sorted(third, second);
+// Calls block(window, first byte of its result) along a row, under so many rows.
+template <int rows, typename T, typename Block>
+[[gnu::always_inline]] inline void alongRow(const Byte* const* src, size_t samples, ptrdiff_t column,
+                                            const Block& block) {
+  constexpr size_t each = kLanesOf<T>;
+  const Byte* row[rows];  // which no store can be thought to change
+  std::copy_n(src, rows, row);
+  for (size_t i = 0;; i = std::min(i + each, samples - each)) {
+    block(Window<T>{{row, i * sizeof(T), column}}, i * sizeof(T));
+    if (i + each == samples) return;
   }
-  [[gnu::always_inline]] void pair(Window<T> x, Window<T> y, V (&results)[2]) {
-    const V first = x(0, 0), next = y(0, 0);
-    const auto below = sorted(last, first), middle = middleOf(pairAbove, below);
-    results[0] = clamped(fourth, middle.at[0], middle.at[1]);
-    results[1] = clamped(next, middle.at[0], middle.at[1]);
-    fourth = second;
-    second = first;
-    last = next;
-    pairAbove = below;
-  }
-};
+}
 
-// What a band says is read once: a store of bytes might otherwise be one to it.
-template <typename Filter, typename T>
+template <typename Shape, typename T>
+void filterRow(const Band& band, size_t samples, ptrdiff_t column) {
+  for (int y = 0; y < band.rows; ++y) {
+    Byte* const dst = band.dst.row(y);
+    alongRow<Shape::kRows, T>(
+        band.src + y, samples, column, [=](const Window<T>& at, size_t place) __attribute__((always_inline)) {
+          store(dst + place, Shape::median(at));
+        });
+  }
+}
+
+// What two rows share fits in registers, and is made anew for each pair: to keep it for the next one, down a
+// column, would take longer.
+template <typename Shape, typename T>
 void filterPairs(const Band& band, size_t samples, ptrdiff_t column) {
-  constexpr size_t block = sizeof(Vector<T>) / sizeof(T);
-  const int rows = band.rows;
+  constexpr int rows = Shape::kRows;
   const ptrdiff_t step = band.dst.step;
-  for (size_t i = 0;; i = std::min(i + block, samples - block)) {
-    const auto at = [&](const Byte* const* row) { return Window<T>{{row, i * sizeof(T), column}}; };
-    Filter filter{};
-    const Byte* const* row = band.src;
-    for (const Byte* const* const first = row + Filter::kRows - 1; row != first; ++row) filter.take(at(row));
-    Byte* dst = band.dst.first + i * sizeof(T);
-    for (int left = rows; left > 0; left -= 2, row += 2, dst += 2 * step) {
-      Vector<T> results[2];
-      filter.pair(at(row), at(row + (left > 1)), results);
-      store(dst, results[0]);
-      if (left > 1) store(dst + step, results[1]);
-    }
-    if (i + block == samples) return;
-  }
-}
-
-// Two rows of results, or one. What they share fits in registers, and is made anew for each pair: to keep a
-// sorted row for the next one, down a column, would take longer than to sort it twice.
-template <typename T, int results>
-void medianRows3(const Byte* const* src, Byte* dst, ptrdiff_t step, size_t samples, ptrdiff_t column) {
-  constexpr size_t block = sizeof(Vector<T>) / sizeof(T);
-  const Byte* row[results + 2];  // which no store can be thought to change
-  for (int y = 0; y < results + 2; ++y) row[y] = src[y];
-  for (size_t i = 0;; i = std::min(i + block, samples - block)) {
-    const Window<T> at{{row, i * sizeof(T), column}};
-    const TwoOfThreeTriples<Vector<T>> common(at.three(1), at.three(2));
-    store(dst + i * sizeof(T), common.medianWith(at.three(0)));
-    if constexpr (results == 2) store(dst + step + i * sizeof(T), common.medianWith(at.three(3)));
-    if (i + block == samples) return;
-  }
-}
-
-template <typename T>
-void filterSquare3(const Band& band, size_t samples, ptrdiff_t column) {
   int y = 0;
-  for (; y + 1 < band.rows; y += 2)
-    medianRows3<T, 2>(band.src + y, band.dst.row(y), band.dst.step, samples, column);
-  if (y < band.rows) medianRows3<T, 1>(band.src + y, band.dst.row(y), band.dst.step, samples, column);
+  for (; y + 1 < band.rows; y += 2) {
+    Byte* const dst = band.dst.row(y);
+    alongRow<rows + 1, T>(
+        band.src + y, samples, column, [=](const Window<T>& at, size_t place) __attribute__((always_inline)) {
+          const auto common = Shape::common(at);
+          store(dst + place, Shape::with(common, at, 0));
+          store(dst + step + place, Shape::with(common, at, rows));
+        });
+  }
+  if (y == band.rows) return;
+  Byte* const dst = band.dst.row(y);
+  alongRow<rows, T>(
+      band.src + y, samples, column, [=](const Window<T>& at, size_t place) __attribute__((always_inline)) {
+        store(dst + place, Shape::with(Shape::common(at), at, 0));
+      });
 }
 
 // Each second row is merged with the one below it. Two of these merges hold the four rows that two results
@@ -214,7 +173,7 @@ void filterSquare3(const Band& band, size_t samples, ptrdiff_t column) {
 template <typename T>
 void filterSquare5(const Band& band, size_t samples, ptrdiff_t column) {
   using V = Vector<T>;
-  constexpr size_t block = sizeof(V) / sizeof(T);
+  constexpr size_t block = kLanesOf<T>;
   const int rows = band.rows;
   const ptrdiff_t step = band.dst.step;
   Sorted<V, 5> sortedRows[kBandRows + 4];
@@ -241,8 +200,14 @@ void filterSquare5(const Band& band, size_t samples, ptrdiff_t column) {
 
 template <typename T>
 WindowFilter record(BandKernel run, int across, int down) {
-  return {run,       across,   down, across, down, static_cast<int>(sizeof(Vector<T>) / sizeof(T)),
-          sizeof(T), sizeof(T)};
+  constexpr int bytes = sizeof(T), block = static_cast<int>(kLanesOf<T>);
+  return {run, across, down, across, down, block, bytes, bytes};
+}
+template <typename T>
+WindowFilter cross(BandKernel run, int reach) {
+  WindowFilter filter = record<T>(run, reach, reach);
+  filter.readsCorners = false;
+  return filter;
 }
 
 }  // namespace
@@ -253,28 +218,28 @@ WindowFilter medianFilter(MedianShape shape) {
   using namespace simd;
   switch (shape) {
     case MedianShape::Square3:
-      return record<T>(filterSquare3<T>, 1, 1);
+      return record<T>(filterPairs<Square3, T>, 1, 1);
     case MedianShape::Square5:
       return record<T>(filterSquare5<T>, 2, 2);
     case MedianShape::Row3:
-      return record<T>(filterBand<Row3<T>>, 1, 0);
+      return record<T>(filterRow<Row3, T>, 1, 0);
     case MedianShape::Row5:
-      return record<T>(filterBand<Row5<T>>, 2, 0);
+      return record<T>(filterRow<Row5, T>, 2, 0);
     case MedianShape::Column3:
-      return record<T>(filterPairs<Column3<T>, T>, 0, 1);
+      return record<T>(filterPairs<Column3, T>, 0, 1);
     case MedianShape::Column5:
-      return record<T>(filterPairs<Column5<T>, T>, 0, 2);
+      return record<T>(filterPairs<Column5, T>, 0, 2);
     default:
       break;
   }
   if constexpr (std::is_integral_v<T>) {
-    if (shape == MedianShape::Cross3) return record<T>(filterBand<Cross3<T>>, 1, 1);
-    if (shape == MedianShape::Cross5) return record<T>(filterBand<Cross5<T>>, 2, 2);
+    if (shape == MedianShape::Cross3) return cross<T>(filterRow<Cross3, T>, 1);
+    if (shape == MedianShape::Cross5) return cross<T>(filterRow<Cross5, T>, 2);
   }
   if constexpr (sizeof(T) == 1) {
-    if (shape == MedianShape::Centre3) return record<T>(filterBand<WeightedCentre<T, 3>>, 1, 1);
-    if (shape == MedianShape::Centre5) return record<T>(filterBand<WeightedCentre<T, 5>>, 1, 1);
-    if (shape == MedianShape::Centre7) return record<T>(filterBand<WeightedCentre<T, 7>>, 1, 1);
+    if (shape == MedianShape::Centre3) return record<T>(filterRow<WeightedCentre<3>, T>, 1, 1);
+    if (shape == MedianShape::Centre5) return record<T>(filterRow<WeightedCentre<5>, T>, 1, 1);
+    if (shape == MedianShape::Centre7) return record<T>(filterRow<WeightedCentre<7>, T>, 1, 1);
   }
   return record<T>(nullptr, 0, 0);
 }
