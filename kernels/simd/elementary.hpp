@@ -61,8 +61,6 @@ inline Doubles4 broadcastDouble(double x) { return {_mm256_set1_pd(x)}; }
 inline Doubles4 loadDoubles4(const double* p) { return {_mm256_loadu_pd(p)}; }
 inline Doubles4 doublesOf(S32 x) { return {_mm256_cvtepi32_pd(x.v)}; }
 inline Doubles4 doublesOf(Floats4 x) { return {_mm256_cvtps_pd(x.v)}; }
-inline Doubles4 min(Doubles4 a, Doubles4 b) { return {_mm256_min_pd(a.v, b.v)}; }
-inline Doubles4 max(Doubles4 a, Doubles4 b) { return {_mm256_max_pd(a.v, b.v)}; }
 
 // 2^exponent, of doubles that are not denormal.
 inline double powerOfTwo(int exponent) {

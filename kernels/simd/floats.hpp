@@ -47,6 +47,8 @@ inline Floats4 min(Floats4 a, Floats4 b) { return {_mm_min_ps(a.v, b.v)}; }
 inline Floats8 min(Floats8 a, Floats8 b) { return {_mm256_min_ps(a.v, b.v)}; }
 inline Floats4 max(Floats4 a, Floats4 b) { return {_mm_max_ps(a.v, b.v)}; }
 inline Floats8 max(Floats8 a, Floats8 b) { return {_mm256_max_ps(a.v, b.v)}; }
+inline Doubles4 min(Doubles4 a, Doubles4 b) { return {_mm256_min_pd(a.v, b.v)}; }
+inline Doubles4 max(Doubles4 a, Doubles4 b) { return {_mm256_max_pd(a.v, b.v)}; }
 
 // Masks; false where either is not a number.
 inline Floats4 isAtLeast(Floats4 a, Floats4 b) { return {_mm_cmpge_ps(a.v, b.v)}; }
