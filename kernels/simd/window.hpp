@@ -41,6 +41,8 @@ inline constexpr size_t kWindowSamples = sizeof(V) / sizeof(float);
 template <typename T, size_t bytes>
 inline constexpr size_t kWindowSamples<SamplesOf<T, bytes>> = bytes / sizeof(T);
 template <>
+inline constexpr size_t kWindowSamples<Doubles4> = sizeof(Doubles4) / sizeof(double);
+template <>
 inline constexpr size_t kWindowSamples<WordPairSums> = sizeof(WordPairSums) / sizeof(int16_t);
 
 template <typename S>
@@ -157,6 +159,10 @@ inline void storeFirstHalf(Byte* p, Bytes32 v) { store16(p, lowHalf(v)); }
 template <typename D, int count>
 [[gnu::always_inline]] inline void storeResults(Byte* dst, const Floats8 (&sums)[count]) {
   for (int i = 0; i < count; ++i) storeFloats(dst + 32 * i, sums[i]);
+}
+template <typename D, int count>
+[[gnu::always_inline]] inline void storeResults(Byte* dst, const Doubles4 (&results)[count]) {
+  for (int i = 0; i < count; ++i) store32(dst + 32 * i, bytesOf(results[i]));
 }
 template <typename D, int count>
 [[gnu::always_inline]] inline void storeResults(Byte* dst, const Samples<D> (&results)[count]) {
