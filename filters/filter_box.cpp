@@ -7,6 +7,7 @@
 
 #include "dispatch/copy.hpp"
 #include "filters/box_mean.hpp"
+#include "filters/window_checks.hpp"
 #include "filters/window_walk.hpp"
 #include "frame/check.hpp"
 #include "frame/layout.hpp"
@@ -29,15 +30,6 @@ namespace {
 using namespace check;
 
 constexpr int64_t kLargestIntegerArea = 8100;  // up to it a sum of bytes times its factor is below 2^32
-
-LumStatus maskSize(LumiSize mask) {
-  return mask.width < 1 || mask.height < 1 ? lumStatusBadMaskSize : lumStatusOk;
-}
-
-LumStatus anchorIn(LumiPoint anchor, LumiSize mask) {
-  const bool inside = anchor.x >= 0 && anchor.x < mask.width && anchor.y >= 0 && anchor.y < mask.height;
-  return inside ? lumStatusOk : lumStatusBadAnchor;
-}
 
 // Whether the steps hold the source's and the destination's rows.
 LumStatus rowsHold(int srcStep, int dstStep, int pixelBytes, LumiSize roi, LumiSize mask) {
