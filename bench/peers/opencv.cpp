@@ -420,6 +420,17 @@ Peer boxFilter(View src, View dst, LumiSize window) {
   });
 }
 
+Peer morphology(View around, View dst, std::vector<Lum8u> mask, LumiSize size, bool dilates) {
+  const cv::Mat s = mat(around)(cv::Rect(size.width / 2, size.height / 2, dst.roi.width, dst.roi.height)),
+                kernel = cv::Mat(size.height, size.width, CV_8U, mask.data()).clone();
+  return peer("opencv", [=, d = mat(dst)]() mutable {
+    if (dilates)
+      cv::dilate(s, d, kernel);
+    else
+      cv::erode(s, d, kernel);
+  });
+}
+
 Peer adaptiveThreshold(View src, View dst, int side, double delta, bool weighted) {
   const int method = weighted ? cv::ADAPTIVE_THRESH_GAUSSIAN_C : cv::ADAPTIVE_THRESH_MEAN_C;
   Peer result = peer("opencv", [=, s = mat(src), d = mat(dst)]() mutable {

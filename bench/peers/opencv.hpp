@@ -105,6 +105,9 @@ enum class Gradient { sobelX, sobelY, scharrX, scharrY, laplace };
 // Medians of square windows: of 3 and 5 of 8u, 16u, 16s and 32f, larger ones of 8u. The source has the pixels
 // around the destination's, or the nearest ones are repeated outside.
 [[gnu::weak]] Peer medianBlur(View src, View dst, int side);
+// The largest samples, or the smallest, under a mask whose centre is the pixel. The source has the pixels
+// around the destination's.
+[[gnu::weak]] Peer morphology(View around, View dst, std::vector<Lum8u> mask, LumiSize size, bool dilates);
 // Both derivatives by Sobel masks, right minus left and bottom minus top, of the type of their images; and
 // their magnitude. The nearest pixel is repeated outside.
 [[gnu::weak]] Peer sobel(View src, View x, View y, int side);
