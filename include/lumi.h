@@ -25,6 +25,7 @@
 #include "lumi/dot_prod.h"
 #include "lumi/extremes.h"
 #include "lumi/fft.h"
+#include "lumi/filter_bilateral.h"
 #include "lumi/filter_border.h"
 #include "lumi/filter_box.h"
 #include "lumi/filter_box_border.h"

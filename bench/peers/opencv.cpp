@@ -483,6 +483,14 @@ Peer sobelMagnitude(View src, View dst, int side, bool isRootOfSquares) {
   return result;
 }
 
+Peer bilateral(View src, View dst, int radius, double valueSigma, double positionSigma) {
+  Peer result = peer("opencv", [=, s = mat(src), d = mat(dst)]() mutable {
+    cv::bilateralFilter(s, d, 2 * radius + 1, valueSigma, positionSigma, cv::BORDER_REPLICATE);
+  });
+  result.differs = "sums of floats in another order";
+  return result;
+}
+
 Peer resizeNearest(View src, View dst) {
   return peer("opencv", [s = mat(src), d = mat(dst)]() mutable {
     cv::resize(s, d, d.size(), 0, 0, cv::INTER_NEAREST);

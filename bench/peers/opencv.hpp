@@ -112,6 +112,8 @@ enum class Gradient { sobelX, sobelY, scharrX, scharrY, laplace };
 // their magnitude. The nearest pixel is repeated outside.
 [[gnu::weak]] Peer sobel(View src, View x, View y, int side);
 [[gnu::weak]] Peer sobelMagnitude(View src, View dst, int side, bool isRootOfSquares);
+// Means weighted by distance and likeness within a circle; the nearest pixel is repeated outside.
+[[gnu::weak]] Peer bilateral(View src, View dst, int radius, double valueSigma, double positionSigma);
 
 // To the destination's size.
 [[gnu::weak]] Peer resizeNearest(View src, View dst);

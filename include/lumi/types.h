@@ -127,6 +127,11 @@ typedef struct {
   Lum32s windowHeight; /**< the same */
 } LumiHOGConfig;
 
+/** Weights of lumiFilterBilateralBorder, in memory of the caller's. */
+typedef struct LumiFilterBilateralBorderSpec LumiFilterBilateralBorderSpec;
+/** Weights of lumiFilterBilateral, in memory of the caller's. */
+typedef struct LumiFilterBilateralSpec LumiFilterBilateralSpec;
+
 /** A configuration made ready for lumiHOG, in memory of the caller's. */
 typedef struct LumiHOGSpec LumiHOGSpec;
 

@@ -17,4 +17,15 @@ double exponentialOfNegative(double x) {
   return sum * powerOfTwo(static_cast<int>(turns));
 }
 
+// Halves of x down to 1 .. 2 leave m, of which ln(m) = 2 atanh((m - 1) / (m + 1)): the quotient is at most
+// 1/3, and its power of 33 below 2^-52.
+double naturalLogarithm(double x) {
+  int halves = 0;
+  for (; x >= 2; ++halves) x *= 0.5;
+  const double q = (x - 1) / (x + 1);
+  double sum = 0;
+  for (int n = 33; n > 0; n -= 2) sum = 1.0 / n + sum * (q * q);
+  return 2 * q * sum + halves * 0.6931471805599453;
+}
+
 }  // namespace lumi

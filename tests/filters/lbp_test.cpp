@@ -11,8 +11,8 @@
 #include <type_traits>
 #include <vector>
 
+#include "filters/placed_image.hpp"
 #include "model/filters/lbp.hpp"
-#include "support/arena.hpp"
 #include "support/member.hpp"
 #include "support/named_call.hpp"
 #include "support/settings.hpp"
@@ -98,17 +98,6 @@ const bool added = [] {
   return true;
 }();
 
-// An image with so many pixels on each side, at either end of its memory.
-template <typename T>
-model::Image placed(Random& random, const Arena& arena, LumiSize roi, const Member::Surroundings& around) {
-  const int row = (around.left + roi.width + around.right) * static_cast<int>(sizeof(T));
-  const int step = row + random.below(3);
-  const ptrdiff_t bytes = ptrdiff_t{step} * (around.top + roi.height + around.bottom - 1) + row;
-  Byte* const first = random.oneIn(2) ? arena.begin() : arena.end() - bytes;
-  for (ptrdiff_t i = 0; i < bytes; ++i) first[i] = static_cast<Byte>(random.next());
-  return {first + ptrdiff_t{step} * around.top + around.left * static_cast<int>(sizeof(T)), step};
-}
-
 // The first image has two pixels beyond the sides in memory, the second one as many about where the shift has
 // it, and none that is not read.
 template <typename T>
@@ -123,8 +112,9 @@ void expectDistances(Random& random, const Arena (&arenas)[2], bool isWide) {
   const auto around = [&](int by) -> Member::Surroundings {
     return {reach(64, 2 - by), reach(16, 2), reach(128, 2 + by), reach(32, 2)};
   };
-  const model::Bordered<T> a{placed<T>(random, arenas[0], roi, around(0)), roi, effective, 0};
-  const model::Bordered<T> b{placed<T>(random, arenas[1], roi, around(moved)), roi, effective, 0};
+  const auto sample = [&] { return static_cast<T>(random.next()); };
+  const model::Bordered<T> a{placed<T>(random, arenas[0], roi, 1, around(0), sample), roi, effective, 0};
+  const model::Bordered<T> b{placed<T>(random, arenas[1], roi, 1, around(moved), sample), roi, effective, 0};
   std::vector<T> result(static_cast<size_t>(roi.width * roi.height));
   const int step = roi.width * static_cast<int>(sizeof(T));
   const std::string type = sizeof(T) == 1 ? "8u" : "16u";
