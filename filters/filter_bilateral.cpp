@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Runs of bilateral filters. With a border, rows and what is beside them are copied into the buffer, each when
-// a disc first covers it.
+// Runs of bilateral filters. With a border, rows and what is beside them are copied into the buffer, each
+// when a disc first covers it.
 #include "lumi/filter_bilateral.h"
 
 #include <algorithm>
@@ -118,7 +118,8 @@ LumStatus filterBilateralBorder(const T* src, int srcStep, T* dst, int dstStep, 
   const BilateralObject object = bilateralObjectAt(spec);
   const Lum8u* const values = bilateralMemory(spec) + kBilateralHeader;
   const int count = bilateralValues(type, channels);
-  const PositionWeights weights(values + sizeof(float) * static_cast<size_t>(count), object.radius, count > 0);
+  const PositionWeights weights(values + sizeof(float) * static_cast<size_t>(count), object.radius,
+                                count > 0);
   const typename DiscRows<T, channels>::Image image(rows(src, srcStep), roi, border, borderValue);
   DiscRows<T, channels> discs(image, object.radius, buffer);
   const Rows<Byte> results = rows(dst, dstStep);
@@ -154,8 +155,9 @@ LumStatus filterBilateral(const T* src, int srcStep, T* dst, int dstStep, LumiSi
   const Rows<const Byte> sources = rows(src, srcStep);
   const Rows<Byte> results = rows(dst, dstStep);
   for (int y = 0; y < roi.height; ++y)
-    bilateralBytes({{sources.row(y), sources.step}, reach(mask.width), reach(mask.height), object.step, weights},
-                   values, results.row(y), static_cast<size_t>(roi.width));
+    bilateralBytes(
+        {{sources.row(y), sources.step}, reach(mask.width), reach(mask.height), object.step, weights}, values,
+        results.row(y), static_cast<size_t>(roi.width));
   return lumStatusOk;
 }
 
@@ -165,8 +167,8 @@ LumStatus filterBilateralSize(int filterType, LumiSize roi, LumiSize mask, int* 
   return gridBilateralSize(filterType, roi, mask, bytes);
 }
 template <typename T, typename Layout>
-LumStatus filterBilateralInit(int filterType, LumiSize mask, Lum32f valueSigma, Lum32f positionSigma, int step,
-                              LumiFilterBilateralSpec* spec) {
+LumStatus filterBilateralInit(int filterType, LumiSize mask, Lum32f valueSigma, Lum32f positionSigma,
+                              int step, LumiFilterBilateralSpec* spec) {
   return initGridBilateral(filterType, mask, valueSigma, positionSigma, step, spec);
 }
 

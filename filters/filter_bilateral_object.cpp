@@ -129,9 +129,9 @@ LumStatus bilateralIdentity(const LumiFilterBilateralBorderSpec* spec, LumiDataT
 
 LumStatus bilateralBorderSizes(int filterType, LumiSize roi, int radius, LumiDataType type, int channels,
                                int distanceMethod, int* specSize, int* bufferSize) {
-  if (LumStatus fault = firstFault(pointers(specSize, bufferSize), size(roi), atLeastOne(radius),
-                                   typeAndMethod(filterType, distanceMethod), dataType(type),
-                                   channelCount(channels)))
+  if (LumStatus fault =
+          firstFault(pointers(specSize, bufferSize), size(roi), atLeastOne(radius),
+                     typeAndMethod(filterType, distanceMethod), dataType(type), channelCount(channels)))
     return fault;
   *specSize = static_cast<int>(objectBytes(type, channels, radius));
   *bufferSize = static_cast<int>(bufferBytes(roi, radius, type, channels));
@@ -215,8 +215,8 @@ LumStatus initGridBilateral(int filterType, LumiSize mask, Lum32f valueSigma, Lu
                      gridType(filterType), [=] { return reach(mask, step); }))
     return fault;
   auto* const memory = reinterpret_cast<Lum8u*>(spec);
-  const GridBilateralObject object{kGridMagic + (filterType == kGaussian ? 0 : 1), positionsOf(mask, step), step,
-                                   0};
+  const GridBilateralObject object{kGridMagic + (filterType == kGaussian ? 0 : 1), positionsOf(mask, step),
+                                   step, 0};
   static_assert(sizeof object == kGridBilateralHeader);
   std::memcpy(memory, &object, sizeof object);
   const auto weight = [](int i, Lum32f sigma) {

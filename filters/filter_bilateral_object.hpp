@@ -6,8 +6,8 @@
 
 namespace lumi {
 
-// The object of lumiFilterBilateralBorder. It begins on a boundary of eight bytes behind the caller's pointer,
-// whose first byte tells how far; the tables follow.
+// The object of lumiFilterBilateralBorder. It begins on a boundary of eight bytes behind the caller's
+// pointer, whose first byte tells how far; the tables follow.
 struct BilateralObject {
   Lum32u magic;
   Lum32s filterType, distanceMethod, dataType, channels, radius;

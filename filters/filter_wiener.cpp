@@ -44,7 +44,8 @@ struct WienerImage {
 template <typename T, typename Row>
 void forEachRow(const WienerImage& image, Byte* pairs, const Row& row) {
   const auto move = [&](const Byte* entering, const Byte* leaving) {
-    moveWindows<T>(entering, leaving, image.pixel, image.mask.width, pairs, static_cast<size_t>(image.roi.width));
+    moveWindows<T>(entering, leaving, image.pixel, image.mask.width, pairs,
+                   static_cast<size_t>(image.roi.width));
   };
   std::memset(pairs, 0, 2 * sizeof(double) * image.samples());
   for (int y = 0; y < image.mask.height; ++y) move(image.rows.row(y), nullptr);
@@ -95,8 +96,7 @@ void filterColours(const Byte* src, const Byte* pairs, const WienerNoise& noise,
   alignas(32) Byte before[kPiece * kColours], after[kPiece * kColours];
   for (int x = 0; x < width; x += kPiece) {
     const auto pixels = static_cast<size_t>(std::min(kPiece, width - x)), at = static_cast<size_t>(x);
-    for (size_t i = 0; i < pixels; ++i)
-      std::memcpy(before + i * kColours, src + (at + i) * kPixel, kColours);
+    for (size_t i = 0; i < pixels; ++i) std::memcpy(before + i * kColours, src + (at + i) * kPixel, kColours);
     wienerRow<T>(before, pairs + at * 3 * 2 * sizeof(double), noise, after, 3 * pixels);
     for (size_t i = 0; i < pixels; ++i) std::memcpy(dst + (at + i) * kPixel, after + i * kColours, kColours);
   }
@@ -147,8 +147,8 @@ LumStatus filterWiener(const T* src, int srcStep, T* dst, int dstStep, LumiSize 
 // Modulo 2^32.
 LumStatus wienerBufferSize(LumiSize roi, LumiSize mask, int channels, int* bytes) {
   const bool isCount = channels == 1 || channels == 3 || channels == 4;
-  if (LumStatus fault = firstFault(pointers(bytes), size(roi), isCount ? lumStatusOk : lumStatusBadChannelCount,
-                                   maskSides(mask)))
+  if (LumStatus fault = firstFault(pointers(bytes), size(roi),
+                                   isCount ? lumStatusOk : lumStatusBadChannelCount, maskSides(mask)))
     return fault;
   const int64_t samples = channels == 1 ? int64_t{roi.width} + mask.width : int64_t{roi.width} * channels;
   *bytes = static_cast<int>(((samples + 6) & -4) * 16 + 15);

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "lumi/deinterlace.h"
-
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
 
 #include "bench/harness.hpp"
 #include "bench/peers/loop.hpp"
+#include "lumi/deinterlace.h"
 
 namespace bench {
 namespace {
@@ -20,9 +19,7 @@ Peer loopDeinterlace(Image<Lum8u> src, Image<Lum8u> dst, int threshold) {
       return;
     }
     const auto row = [=](int n) { return src.row(n < 0 ? n & 1 : n < height ? n : height - 2 + (n & 1)); };
-    const Lum8u *__restrict e = row(y - 3), *__restrict a = row(y - 2), *__restrict u = row(y - 1),
-                *__restrict c = row(y), *__restrict d = row(y + 1), *__restrict b = row(y + 2),
-                *__restrict f = row(y + 3);
+    const Lum8u* __restrict e = row(y - 3), * __restrict a = row(y - 2), * __restrict u = row(y - 1), * __restrict c = row(y), * __restrict d = row(y + 1), * __restrict b = row(y + 2), * __restrict f = row(y + 3);
     for (int x = 0; x < width; ++x) {
       const int detail = 8 * c[x] - 4 * a[x] - 4 * b[x];
       const int line = (7 * (u[x] + d[x]) + detail + e[x] + f[x] + 8) >> 4;

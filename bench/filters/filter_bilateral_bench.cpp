@@ -30,9 +30,11 @@ Suite::Build withBorder(Run<T> run, int radius, float valueVariance) {
     const auto memory = std::make_shared<std::vector<Lum8u>>(static_cast<size_t>(specBytes));
     const auto buffer = std::make_shared<std::vector<Lum8u>>(static_cast<size_t>(bufferBytes));
     auto* const spec = reinterpret_cast<LumiFilterBilateralBorderSpec*>(memory->data());
-    lumiFilterBilateralBorderInit(100, src.roi, radius, type, channels, 2, valueVariance, kPositionVariance, spec);
+    lumiFilterBilateralBorderInit(100, src.roi, radius, type, channels, 2, valueVariance, kPositionVariance,
+                                  spec);
     scene.ours([=, kept = memory] {
-      run(src.data(), src.step, dst.data(), dst.step, dst.roi, lumiBorderReplicate, nullptr, spec, buffer->data());
+      run(src.data(), src.step, dst.data(), dst.step, dst.roi, lumiBorderReplicate, nullptr, spec,
+          buffer->data());
     });
     scene.peer(opencv::bilateral, src, dst, radius, std::sqrt(static_cast<double>(valueVariance)),
                std::sqrt(static_cast<double>(kPositionVariance)));
@@ -43,8 +45,10 @@ Suite::Build withBorder(Run<T> run, int radius, float valueVariance) {
 Peer loopGrid(Image<Lum8u> around, Image<Lum8u> dst, int reach) {
   auto values = std::make_shared<std::array<float, 256>>();
   std::vector<float> positions;
-  for (int i = 0; i < 256; ++i) (*values)[static_cast<size_t>(i)] = std::exp(-0.5F / kValueVariance * static_cast<float>(i * i));
-  for (int i = 0; i <= reach; ++i) positions.push_back(std::exp(-0.5F / kPositionVariance * static_cast<float>(i * i)));
+  for (int i = 0; i < 256; ++i)
+    (*values)[static_cast<size_t>(i)] = std::exp(-0.5F / kValueVariance * static_cast<float>(i * i));
+  for (int i = 0; i <= reach; ++i)
+    positions.push_back(std::exp(-0.5F / kPositionVariance * static_cast<float>(i * i)));
   Peer result = loop::rows(dst.roi, [=](int y, int width) {
     for (int x = 0; x < width; ++x) {
       float sum = 0, weights = 0;
@@ -83,11 +87,15 @@ Suite::Build grid(int reach) {
 }
 
 const Family family("filter_bilateral", [](Suite& suite) {
-  suite.row("bilateral 8u r3", kUpToHd, withBorder<Lum8u, 1>(lumiFilterBilateralBorder_8u_C1R, 3, kValueVariance));
-  suite.row("bilateral 8u r1", kUpToHd, withBorder<Lum8u, 1>(lumiFilterBilateralBorder_8u_C1R, 1, kValueVariance));
-  suite.row("bilateral 8u C3 r3", kUpToHd, withBorder<Lum8u, 3>(lumiFilterBilateralBorder_8u_C3R, 3, kValueVariance));
+  suite.row("bilateral 8u r3", kUpToHd,
+            withBorder<Lum8u, 1>(lumiFilterBilateralBorder_8u_C1R, 3, kValueVariance));
+  suite.row("bilateral 8u r1", kUpToHd,
+            withBorder<Lum8u, 1>(lumiFilterBilateralBorder_8u_C1R, 1, kValueVariance));
+  suite.row("bilateral 8u C3 r3", kUpToHd,
+            withBorder<Lum8u, 3>(lumiFilterBilateralBorder_8u_C3R, 3, kValueVariance));
   suite.row("bilateral 32f r3", kUpToHd, withBorder<Lum32f, 1>(lumiFilterBilateralBorder_32f_C1R, 3, 0.02F));
-  suite.row("bilateral 32f C3 r3", kCachedAndHd, withBorder<Lum32f, 3>(lumiFilterBilateralBorder_32f_C3R, 3, 0.02F));
+  suite.row("bilateral 32f C3 r3", kCachedAndHd,
+            withBorder<Lum32f, 3>(lumiFilterBilateralBorder_32f_C3R, 3, 0.02F));
   suite.row("bilateral grid 8u 5x5", kUpToHd, grid(2));
 });
 

@@ -16,7 +16,9 @@ template <typename T>
 using Run = LumStatus (*)(const T*, int, T*, int, LumiSize, LumiSize, LumiPoint, Lum32f*, Lum8u*);
 
 template <typename T>
-constexpr float kNoise = std::is_floating_point_v<T> ? 0.01F : sizeof(T) == 1 ? 65.025F : 42948362.24F;
+constexpr float kNoise = std::is_floating_point_v<T> ? 0.01F
+                         : sizeof(T) == 1            ? 65.025F
+                                                     : 42948362.24F;
 
 // With the pixels around in memory; each window by itself, in floats.
 template <typename T, int channels>
@@ -58,8 +60,8 @@ Suite::Build wiener(Run<T> run, int side) {
     scene.ours([=] {
       float noise[4];
       std::fill(noise, noise + 4, std::is_floating_point_v<T> ? 0.01F : sizeof(T) == 1 ? 0.001F : 0.01F);
-      run(src.row(reach) + reach * channels, src.step, dst.data(), dst.step, dst.roi, {side, side}, {reach, reach},
-          noise, buffer->data());
+      run(src.row(reach) + reach * channels, src.step, dst.data(), dst.step, dst.roi, {side, side},
+          {reach, reach}, noise, buffer->data());
     });
     scene.peer(loopWiener<T, channels>(src, dst, side));
   };

@@ -71,8 +71,8 @@ LumStatus lumiFilterBilateralBorderInit(int filterType, LumiSize roi, int radius
  * 8u:  dst = (p + sum of w(q) * q) / (1 + sum of w(q)), to the nearest integer, ties to even
  * 32f: dst = p + (sum of w(q) * (q - p)) / (1 + sum of w(q))
  *
- * Sums are of Lum32f, in the order of rows, and the same in every build; weights of 32f have an error below 2^-20 of
- * them for exponents down to -20.
+ * Sums are of Lum32f, in the order of rows, and the same in every build; weights of 32f have an error below 2^-18 of
+ * them for exponents from -5 to 0, which grows in proportion; those below 2^-100 count as 0.
  *
  * The low four bits of border say where pixels outside the ROI come from: lumiBorderConst takes borderValue, or black
  * if that is null; lumiBorderReplicate the nearest pixel; with lumiBorderInMemory they are in memory. Flags name sides

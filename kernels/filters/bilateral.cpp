@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Eight pixels at a time, in the lanes of float vectors. A point is added as its weight, and as the product of
-// it with its samples; the middle comes first, then the points row after row.
+// Eight pixels at a time, in the lanes of float vectors. A point is added as its weight, and as the product
+// of it with its samples; the middle comes first, then the points row after row.
 #include "kernels/filters/bilateral.hpp"
 
 #include <algorithm>
@@ -33,7 +33,9 @@ template <typename F>
 
 template <typename F>
 [[gnu::always_inline]] inline void forEachPoint(const GridPoints& grid, size_t at, const F& f) {
-  const auto weight = [&](int steps) { return floatAt(grid.weights + sizeof(float) * static_cast<size_t>(steps)); };
+  const auto weight = [&](int steps) {
+    return floatAt(grid.weights + sizeof(float) * static_cast<size_t>(steps));
+  };
   for (int j = -grid.reachY; j <= grid.reachY; ++j) {
     const Byte* const row = grid.src.row(j * grid.step) + at;
     const float ofRow = weight(j < 0 ? -j : j);
@@ -69,15 +71,11 @@ struct ByTable {
 
   Floats8 likeness(const All& a, const All& b) const {
     if constexpr (channels == 1) {
-      alignas(16) Byte at[8];
-      storeFirst8(at, distance(a.sample[0], b.sample[0]).v);
-      return gathered(table, at);
+      return gathered(table, distance(a.sample[0], b.sample[0]));
     } else {
       U16 sum = widen<uint16_t>(distance(a.sample[0], b.sample[0]));
       for (int c = 1; c < channels; ++c) sum = sum + widen<uint16_t>(distance(a.sample[c], b.sample[c]));
-      alignas(16) uint16_t at[8];
-      store16(reinterpret_cast<Byte*>(at), sum.v);
-      return gathered(table, at);
+      return gathered(table, sum);
     }
   }
 
@@ -127,13 +125,14 @@ template <int channels, typename Rule, typename Points, typename Load>
   const typename Rule::All middle = pixels(middleOf(points, at, Rule::kSampleBytes));
   Floats8 weights = broadcastFloat<Floats8>(1), products[channels];
   for (int c = 0; c < channels; ++c) products[c] = Rule::start(middle.sample[c]);
-  forEachPoint(points, at, [&](const Byte* row, int dx, float position) __attribute__((always_inline)) {
-    const typename Rule::All x = pixels(row + dx * static_cast<ptrdiff_t>(Rule::kSampleBytes));
-    const Floats8 weight = rule.likeness(middle, x) * broadcastFloat<Floats8>(position);
-    weights = weights + weight;
-    for (int c = 0; c < channels; ++c)
-      products[c] = products[c] + weight * Rule::value(middle.sample[c], x.sample[c]);
-  });
+  forEachPoint(
+      points, at, [&](const Byte* row, int dx, float position) __attribute__((always_inline)) {
+        const typename Rule::All x = pixels(row + dx * static_cast<ptrdiff_t>(Rule::kSampleBytes));
+        const Floats8 weight = rule.likeness(middle, x) * broadcastFloat<Floats8>(position);
+        weights = weights + weight;
+        for (int c = 0; c < channels; ++c)
+          products[c] = products[c] + weight * Rule::value(middle.sample[c], x.sample[c]);
+      });
   for (int c = 0; c < channels; ++c)
     Rule::store(results + static_cast<size_t>(c) * kBlock * Rule::kSampleBytes, middle.sample[c], products[c],
                 weights);

@@ -7,8 +7,8 @@
 namespace lumi {
 
 // A disc of points: those within `radius`. Rows of samples are a ring of 2 * radius + 1, which begin with the
-// leftmost point of the first result; channels are planes behind one another. Weights are those of the points,
-// row after row; the one in the middle counts as 1.
+// leftmost point of the first result; channels are planes behind one another. Weights are those of the
+// points, row after row; the one in the middle counts as 1.
 struct DiscPoints {
   const uint8_t* ring;
   ptrdiff_t rowBytes, planeBytes;

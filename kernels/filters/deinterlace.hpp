@@ -7,7 +7,8 @@
 
 namespace lumi {
 
-// Rows y - 3 to y + 3 of the row that is made, which may be one of them. Thresholds above 2040 are never reached.
+// Rows y - 3 to y + 3 of the row that is made, which may be one of them. Thresholds above 2040 are never
+// reached.
 void deinterlaceRow(const uint8_t* const (&rows)[7], int threshold, uint8_t* dst, size_t samples);
 
 }  // namespace lumi

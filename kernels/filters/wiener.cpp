@@ -57,8 +57,8 @@ Doubles4 variancesOf(const FourMoments& moments, Doubles4 n) {
 }  // namespace
 
 template <typename T>
-void moveWindows(const uint8_t* entering, const uint8_t* leaving, PixelSamples pixel, int window, uint8_t* pairs,
-                 size_t pixels) {
+void moveWindows(const uint8_t* entering, const uint8_t* leaving, PixelSamples pixel, int window,
+                 uint8_t* pairs, size_t pixels) {
   const auto bytes = static_cast<size_t>(pixel.stored) * sizeof(T), used = static_cast<size_t>(pixel.used);
   for (size_t c = 0; c < used; ++c) {
     const Byte *const in = entering + c * sizeof(T), *const out = leaving ? leaving + c * sizeof(T) : nullptr;
@@ -80,7 +80,8 @@ void addVariances(const uint8_t* pairs, double n, double (&totals)[kPhases], siz
 }
 
 template <typename T>
-void wienerRow(const uint8_t* src, const uint8_t* pairs, const WienerNoise& noise, uint8_t* dst, size_t samples) {
+void wienerRow(const uint8_t* src, const uint8_t* pairs, const WienerNoise& noise, uint8_t* dst,
+               size_t samples) {
   const Doubles4 n = broadcastDouble(noise.n), least = broadcastDouble(std::numeric_limits<double>::min());
   const auto make = [&](const Byte* s, size_t i, size_t phase, Byte* d) {
     const FourMoments moments = loadMoments(pairs + i * kPair);

@@ -11,10 +11,12 @@ inline void storePair(Byte* p, Doubles2 x) { store16(p, bytesOf(x)); }
 
 // What a sample adds that takes the place of another one. Products are below 2^31.
 inline Doubles2 momentsOf(int entering, int leaving) {
-  return {_mm_cvtepi32_pd(_mm_setr_epi32(entering - leaving, (entering - leaving) * (entering + leaving), 0, 0))};
+  return {
+      _mm_cvtepi32_pd(_mm_setr_epi32(entering - leaving, (entering - leaving) * (entering + leaving), 0, 0))};
 }
 inline Doubles2 momentsOf(float entering, float leaving) {
-  const Doubles2 in{_mm_set1_pd(static_cast<double>(entering))}, out{_mm_set1_pd(static_cast<double>(leaving))};
+  const Doubles2 in{_mm_set1_pd(static_cast<double>(entering))},
+      out{_mm_set1_pd(static_cast<double>(leaving))};
   const Doubles2 one{_mm_set_sd(1)};  // and 0, in whose place the sample itself comes
   const auto powers = [=](Doubles2 x) { return x * Doubles2{_mm_shuffle_pd(one.v, x.v, 0)}; };
   return powers(in) - powers(out);
@@ -27,7 +29,8 @@ struct FourMoments {
 inline FourMoments loadMoments(const Byte* p) {
   const Bytes32 first = load32(p), second = load32(p + 32);
   const Bytes32 even = permuteHalves<0, 0>(first, second), odd = permuteHalves<1, 1>(first, second);
-  return {samplesOf<double>(interleaveLowQuads(even, odd)), samplesOf<double>(interleaveHighQuads(even, odd))};
+  return {samplesOf<double>(interleaveLowQuads(even, odd)),
+          samplesOf<double>(interleaveHighQuads(even, odd))};
 }
 
 // Four samples as doubles, and back: integers to nearest, ties to even.

@@ -33,7 +33,8 @@ TEST(Deinterlace, ThresholdsLimit) {
   std::vector<Lum8u> image(8, 100), result(8);
   image[3] = 90;
   const auto row = [&](Lum16u threshold, int y) {
-    EXPECT_EQ(lumiDeinterlaceFilterCAVT_8u_C1R(image.data(), 1, result.data(), 1, threshold, {1, 8}), lumStatusOk);
+    EXPECT_EQ(lumiDeinterlaceFilterCAVT_8u_C1R(image.data(), 1, result.data(), 1, threshold, {1, 8}),
+              lumStatusOk);
     return int{result[static_cast<size_t>(y)]};
   };
   EXPECT_EQ(row(0, 3), 95);

@@ -22,12 +22,14 @@ NamedFault wrong(const char* name, LumiSize size, LumStatus status) {
 }
 
 void addCommon(std::vector<NamedFault>& faults) {
-  for (const LumiSize roi : {LumiSize{0, 1}, LumiSize{1, -1}}) faults.push_back(wrong("roi", roi, lumStatusBadSize));
+  for (const LumiSize roi : {LumiSize{0, 1}, LumiSize{1, -1}})
+    faults.push_back(wrong("roi", roi, lumStatusBadSize));
   for (const int radius : {0, -1}) faults.push_back(wrong("radius", radius, lumStatusBadMaskSize));
   for (const int type : {99, 101}) faults.push_back(wrong("filterType", type, lumStatusUnsupportedMode));
   for (const int method : {1, 3}) faults.push_back(wrong("distanceMethod", method, lumStatusUnsupportedMode));
   for (const int type : {0, 5, 7, 19}) faults.push_back(wrong("dataType", type, lumStatusBadDataType));
-  for (const int channels : {0, 2, 4}) faults.push_back(wrong("channels", channels, lumStatusBadChannelCount));
+  for (const int channels : {0, 2, 4})
+    faults.push_back(wrong("channels", channels, lumStatusBadChannelCount));
 }
 
 TEST(BilateralBorder, FaultsOfSizesAndObjects) {
@@ -59,18 +61,24 @@ struct Type {
 constexpr Type kTypes[] = {{"8u_C1R", 1, 1}, {"8u_C3R", 1, 3}, {"32f_C1R", 13, 1}, {"32f_C3R", 13, 3}};
 
 TEST(BilateralBorder, FaultsOfRuns) {
-  alignas(8) unsigned char image[512] = {}, result[512] = {}, buffer[4096], objects[4][8192] = {}, none[8192] = {};
+  alignas(8) unsigned char image[512] = {}, result[512] = {}, buffer[4096], objects[4][8192] = {},
+                           none[8192] = {};
   int i = 0;
   for (const Type& t : kTypes)
     ASSERT_EQ(lumiFilterBilateralBorderInit(100, {5, 5}, 3, t.type, t.channels, 2, 9, 9,
                                             reinterpret_cast<LumiFilterBilateralBorderSpec*>(objects[i++])),
               lumStatusOk);
   for (int own = 0; own < 4; ++own) {
-    std::vector<NamedFault> faults = {nullFault("src"), nullFault("dst"), nullFault("spec"), nullFault("buffer"),
-                                      wrong("roi", {0, 3}, lumStatusBadSize), wrong("roi", {3, 0}, lumStatusBadSize)};
+    std::vector<NamedFault> faults = {nullFault("src"),
+                                      nullFault("dst"),
+                                      nullFault("spec"),
+                                      nullFault("buffer"),
+                                      wrong("roi", {0, 3}, lumStatusBadSize),
+                                      wrong("roi", {3, 0}, lumStatusBadSize)};
     for (const int border : {2, 3, 4, 5, 7, 0x12, 0xFF, -1})
       faults.push_back(wrong("border", border, lumStatusBadBorder));
-    for (unsigned char* other : {none, objects[(own + 1) % 4], objects[(own + 2) % 4], objects[(own + 3) % 4]})
+    for (unsigned char* other :
+         {none, objects[(own + 1) % 4], objects[(own + 2) % 4], objects[(own + 3) % 4]})
       faults.push_back({[=](NamedCall& c) { c.pointer("spec", other); }, lumStatusBadContext, 1});
     faults[2].exclusive = 1;
     // Every field that tells what the object is, and its place. The memory's own is a multiple of 8.
@@ -79,10 +87,14 @@ TEST(BilateralBorder, FaultsOfRuns) {
     for (int f = 0; f < 6; ++f) {
       std::copy(std::begin(objects[own]), std::end(objects[own]), changed[f]);
       changed[f][fields[f]] ^= 16;
-      faults.push_back({[spec = changed[f]](NamedCall& c) { c.pointer("spec", spec); }, lumStatusBadContext, 1});
+      faults.push_back(
+          {[spec = changed[f]](NamedCall& c) { c.pointer("spec", spec); }, lumStatusBadContext, 1});
     }
     NamedCall right("lumiFilterBilateralBorder_" + std::string(kTypes[own].name));
-    right.image("src", image, 64).image("dst", result, 64).size("roi", {5, 5}).number("border", lumiBorderReplicate);
+    right.image("src", image, 64)
+        .image("dst", result, 64)
+        .size("roi", {5, 5})
+        .number("border", lumiBorderReplicate);
     right.pointer("borderValue", nullptr).pointer("spec", objects[own]).pointer("buffer", buffer);
     expectInOrder(right, faults, [&](LumStatus) {
       ASSERT_TRUE(std::all_of(std::begin(result), std::end(result), [](int byte) { return byte == 0; }));
@@ -126,7 +138,8 @@ TEST(GridBilateral, Faults) {
 
 TEST(GridBilateral, FaultsOfRuns) {
   alignas(4) unsigned char object[2048] = {}, none[2048] = {}, image[25] = {}, result[25] = {};
-  ASSERT_EQ(lumiFilterBilateralInit_8u_C1R(101, {3, 3}, 5, 5, 1, reinterpret_cast<LumiFilterBilateralSpec*>(object)),
+  ASSERT_EQ(lumiFilterBilateralInit_8u_C1R(101, {3, 3}, 5, 5, 1,
+                                           reinterpret_cast<LumiFilterBilateralSpec*>(object)),
             lumStatusOk);
   NamedCall right("lumiFilterBilateral_8u_C1R");
   right.image("src", image + 6, 5).image("dst", result + 6, 5).size("roi", {3, 3}).size("maskSize", {3, 3});

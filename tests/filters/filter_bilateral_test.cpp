@@ -20,10 +20,11 @@
 namespace test {
 namespace {
 
-const bool covered = addCovered(
-    {"lumiFilterBilateralBorderGetBufferSize", "lumiFilterBilateralBorderInit", "lumiFilterBilateralBorder_8u_C1R",
-     "lumiFilterBilateralBorder_8u_C3R", "lumiFilterBilateralBorder_32f_C1R", "lumiFilterBilateralBorder_32f_C3R",
-     "lumiFilterBilateralGetBufSize_8u_C1R", "lumiFilterBilateralInit_8u_C1R", "lumiFilterBilateral_8u_C1R"});
+const bool covered = addCovered({"lumiFilterBilateralBorderGetBufferSize", "lumiFilterBilateralBorderInit",
+                                 "lumiFilterBilateralBorder_8u_C1R", "lumiFilterBilateralBorder_8u_C3R",
+                                 "lumiFilterBilateralBorder_32f_C1R", "lumiFilterBilateralBorder_32f_C3R",
+                                 "lumiFilterBilateralGetBufSize_8u_C1R", "lumiFilterBilateralInit_8u_C1R",
+                                 "lumiFilterBilateral_8u_C1R"});
 
 struct Trial {
   LumiSize roi;
@@ -102,7 +103,8 @@ void expectTables(const Object& object, const Trial& t) {
   const auto expectNear = [](float got, double right) {
     ASSERT_LE(std::fabs(static_cast<double>(got) - right), right * 0x1.01p-24 + 0x1p-149);
   };
-  const std::vector<double> positions = model::positionWeights(t.radius, static_cast<double>(t.positionVariance));
+  const std::vector<double> positions =
+      model::positionWeights(t.radius, static_cast<double>(t.positionVariance));
   for (size_t i = 0; i < positions.size(); ++i)
     ASSERT_NO_FATAL_FAILURE(expectNear(object.positions[i], positions[i]));
   bool isCut = false;
@@ -136,8 +138,8 @@ void expectModel(Random& random, const Arena& arena, const Trial& t) {
   const T* const outside = t.hasValue ? value : nullptr;
   const int row = t.roi.width * t.channels * static_cast<int>(sizeof(T)), step = row + random.below(3);
   const GuardedBlock result(step * (t.roi.height - 1) + row, random.below(40), random);
-  const std::string name =
-      "lumiFilterBilateralBorder_" + std::string(sizeof(T) == 1 ? "8u" : "32f") + "_C" + std::to_string(t.channels) + "R";
+  const std::string name = "lumiFilterBilateralBorder_" + std::string(sizeof(T) == 1 ? "8u" : "32f") + "_C" +
+                           std::to_string(t.channels) + "R";
   NamedCall call(name);
   call.image("src", src.first, src.step).image("dst", result.at(), step).size("roi", t.roi);
   call.number("border", t.border).pointer("borderValue", outside);
@@ -149,7 +151,8 @@ void expectModel(Random& random, const Arena& arena, const Trial& t) {
       const int x = i / t.channels, c = i % t.channels;
       const T got = model::load<T>(result.at() + ptrdiff_t{y} * step, i);
       if constexpr (sizeof(T) == 1) {
-        ASSERT_EQ(got, model::bilateralByte(image, t.radius, object.values, object.positions, outside, x, y, c))
+        ASSERT_EQ(got,
+                  model::bilateralByte(image, t.radius, object.values, object.positions, outside, x, y, c))
             << x << ", " << y;
       } else {
         const model::BoundedMean mean = model::bilateralFloat(
@@ -174,7 +177,8 @@ TEST(BilateralBorder, IsTheModel) {
 template <typename T>
 std::vector<T> filtered(const std::vector<T>& image, const Trial& t) {
   int specBytes = 0, bufferBytes = 0;
-  EXPECT_EQ(lumiFilterBilateralBorderGetBufferSize(100, t.roi, t.radius, kDataType<T>, 1, 2, &specBytes, &bufferBytes),
+  EXPECT_EQ(lumiFilterBilateralBorderGetBufferSize(100, t.roi, t.radius, kDataType<T>, 1, 2, &specBytes,
+                                                   &bufferBytes),
             lumStatusOk);
   std::vector<Byte> object(static_cast<size_t>(specBytes)), buffer(static_cast<size_t>(bufferBytes));
   auto* const spec = reinterpret_cast<LumiFilterBilateralBorderSpec*>(object.data());
@@ -184,12 +188,12 @@ std::vector<T> filtered(const std::vector<T>& image, const Trial& t) {
   std::vector<T> result(image.size());
   const int step = t.roi.width * static_cast<int>(sizeof(T));
   if constexpr (sizeof(T) == 1)
-    EXPECT_EQ(lumiFilterBilateralBorder_8u_C1R(image.data(), step, result.data(), step, t.roi, 1, nullptr, spec,
-                                               buffer.data()),
+    EXPECT_EQ(lumiFilterBilateralBorder_8u_C1R(image.data(), step, result.data(), step, t.roi, 1, nullptr,
+                                               spec, buffer.data()),
               lumStatusOk);
   else
-    EXPECT_EQ(lumiFilterBilateralBorder_32f_C1R(image.data(), step, result.data(), step, t.roi, 1, nullptr, spec,
-                                                buffer.data()),
+    EXPECT_EQ(lumiFilterBilateralBorder_32f_C1R(image.data(), step, result.data(), step, t.roi, 1, nullptr,
+                                                spec, buffer.data()),
               lumStatusOk);
   return result;
 }
@@ -245,12 +249,16 @@ TEST(GridBilateral, IsTheModel) {
     init.number("filterType", type).size("maskSize", mask).number("step", step);
     init.number("valueSigma", values).number("positionSigma", positions);
     ASSERT_EQ(steps.init(query, "size", init, "spec"), "");
-    const auto weight = [](int d, double sigma) { return static_cast<float>(std::exp(-0.5 / sigma * d * d)); };
+    const auto weight = [](int d, double sigma) {
+      return static_cast<float>(std::exp(-0.5 / sigma * d * d));
+    };
     const double points = static_cast<double>(mask.width) * mask.height;
-    const double end = std::trunc(std::sqrt(static_cast<double>(values) * 1.42 * (std::log(points) + 6.3))) + 1;
+    const double end =
+        std::trunc(std::sqrt(static_cast<double>(values) * 1.42 * (std::log(points) + 6.3))) + 1;
     const std::vector<float> ofValues = floatsAt(steps.object().at() + 16, 256);
     for (int d = 0; d < 256; ++d)
-      ASSERT_FLOAT_EQ(ofValues[static_cast<size_t>(d)], d < end ? weight(d, static_cast<double>(values)) : 0) << d;
+      ASSERT_FLOAT_EQ(ofValues[static_cast<size_t>(d)], d < end ? weight(d, static_cast<double>(values)) : 0)
+          << d;
     const auto reached = [=](int side) { return (side - 1) / 2 / step * step; };
     const int most = std::max(reached(mask.width), reached(mask.height));
     const std::vector<float> ofPositions =

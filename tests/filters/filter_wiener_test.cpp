@@ -73,7 +73,8 @@ T anySample(Random& random, int spread) {
     return spread == 0 ? static_cast<T>(random.next()) : static_cast<T>(100 + random.below(spread));
 }
 
-// Results of integers are the nearest ones but for a few roundings of doubles: only beside a tie may two be right. Of floats the sums have errors of 2^-53 of the largest ones for each row and column.
+// Results of integers are the nearest ones but for a few roundings of doubles: only beside a tie may two be
+// right. Of floats the sums have errors of 2^-53 of the largest ones for each row and column.
 template <typename T>
 void expectNear(T got, double right) {
   if constexpr (std::is_floating_point_v<T>)

@@ -82,8 +82,8 @@ struct BoundedMean {
   double right, tolerance;
 };
 
-// A weight 2^x has an error of a few roundings of x, and of 2^x itself: together below (2 + |x|) * 2^-21 of it.
-// Sums of n terms round n times each.
+// A weight 2^x has an error of a few roundings of x, and of 2^x itself: together below (2 + |x|) * 2^-21 of
+// it; below 2^-100 it is 0. Sums of n terms round n times each.
 inline BoundedMean bilateralFloat(const BilateralImage& image, int radius, double variance,
                                   const std::vector<float>& positions, const Lum32f* outside, int x, int y,
                                   int channel) {
@@ -100,7 +100,7 @@ inline BoundedMean bilateralFloat(const BilateralImage& image, int radius, doubl
     const double exponent = -difference * difference / (2 * variance);
     const double weight =
         std::exp(exponent) * static_cast<double>(pointWeight(positions, radius, i, points[i]));
-    const double error = weight * (2 - 1.5 * exponent) * 0x1p-21 + 0x1p-125;
+    const double error = weight * (2 - 1.5 * exponent) * 0x1p-21 + 0x1p-100;
     const double value = at(dx, dy, channel) - at(0, 0, channel);
     weights += weight;
     weightErrors += error;
@@ -116,8 +116,9 @@ inline BoundedMean bilateralFloat(const BilateralImage& image, int radius, doubl
 }
 
 // Of a grid whose points are `step` pixels apart and reach so far; weights by distance.
-inline Lum8u gridBilateral(const Image& src, int reachX, int reachY, int step, const std::vector<float>& values,
-                           const std::vector<float>& positions, int x, int y) {
+inline Lum8u gridBilateral(const Image& src, int reachX, int reachY, int step,
+                           const std::vector<float>& values, const std::vector<float>& positions, int x,
+                           int y) {
   const auto at = [&](int dx, int dy) { return int{load<Lum8u>(src.row(y + dy), x + dx)}; };
   float weights = 1, products = static_cast<float>(at(0, 0));
   for (int dy = -reachY; dy <= reachY; dy += step)

@@ -18,8 +18,8 @@ struct WienerWindow {
 
   double n() const { return static_cast<double>(mask.width) * mask.height; }
 
-  // n^2 times the variance of a pixel's window; the sum of its samples goes to `total`. All of it is exact for
-  // bytes and words.
+  // n^2 times the variance of a pixel's window; the sum of its samples goes to `total`. All of it is exact
+  // for bytes and words.
   template <typename T>
   double variance(int x, int y, int channel, double& total) const {
     double squares = 0;
@@ -46,8 +46,7 @@ double wiener(const WienerWindow& window, float noise, int x, int y, int channel
   double total = 0;
   const double n = window.n(), level = wienerScale<T>() * static_cast<double>(noise) * n * n;
   const double variance = std::max(window.variance<T>(x, y, channel, total), level);
-  const auto sample =
-      static_cast<double>(load<T>(window.src.row(y), x * window.stored + channel));
+  const auto sample = static_cast<double>(load<T>(window.src.row(y), x * window.stored + channel));
   if (variance == 0) return sample;
   return sample + (total - n * sample) * (level / n) / variance;
 }

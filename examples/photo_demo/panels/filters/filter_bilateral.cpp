@@ -13,8 +13,9 @@ constexpr int kRadius = 5;
 AnyImage smooth(const Colour& photo, Calls& calls) {
   const LumiSize size = photo.size();
   int specBytes = 0, bufferBytes = 0;
-  check(lumiFilterBilateralBorderGetBufferSize(100, size, kRadius, lumiData8u, 3, 2, &specBytes, &bufferBytes),
-        "lumiFilterBilateralBorderGetBufferSize");
+  check(
+      lumiFilterBilateralBorderGetBufferSize(100, size, kRadius, lumiData8u, 3, 2, &specBytes, &bufferBytes),
+      "lumiFilterBilateralBorderGetBufferSize");
   std::vector<Lum8u> memory(static_cast<size_t>(specBytes)), buffer(static_cast<size_t>(bufferBytes));
   auto* const spec = reinterpret_cast<LumiFilterBilateralBorderSpec*>(memory.data());
   check(lumiFilterBilateralBorderInit(100, size, kRadius, lumiData8u, 3, 2, 3600, 16, spec),

@@ -38,16 +38,16 @@ AnyImage denoised(const Colour& photo, Calls& calls) {
   const LumiSize size = photo.size(), larger = {size.width + 2 * kReach, size.height + 2 * kReach};
   const Colour grain = grainy(photo);
   Colour around(larger), result(size);
-  check(lumiCopyReplicateBorder_8u_C3R(grain.data(), grain.step(), size, around.data(), around.step(), larger, kReach,
-                                       kReach),
+  check(lumiCopyReplicateBorder_8u_C3R(grain.data(), grain.step(), size, around.data(), around.step(), larger,
+                                       kReach, kReach),
         "lumiCopyReplicateBorder_8u_C3R");
   int bytes = 0;
   check(lumiFilterWienerGetBufferSize(size, kMask, 3, &bytes), "lumiFilterWienerGetBufferSize");
   std::vector<Lum8u> buffer(static_cast<size_t>(bytes));
   calls.time("lumiFilterWiener_8u_C3R", size, [&] {
     Lum32f noise[3] = {};
-    return lumiFilterWiener_8u_C3R(around.at(kReach, kReach), around.step(), result.data(), result.step(), size, kMask,
-                                   {kReach, kReach}, noise, buffer.data());
+    return lumiFilterWiener_8u_C3R(around.at(kReach, kReach), around.step(), result.data(), result.step(),
+                                   size, kMask, {kReach, kReach}, noise, buffer.data());
   });
   return result;
 }
