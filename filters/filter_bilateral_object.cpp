@@ -76,19 +76,22 @@ LumStatus channelCount(int channels) {
 }
 constexpr LumStatus atLeastOne(int n) { return n < 1 ? lumStatusBadMaskSize : lumStatusOk; }
 
-int64_t objectBytes(LumiDataType type, int channels, int radius) {
-  const int64_t positions = 4 * int64_t{bilateralPositions(radius)};
-  return positions + (type == lumiData8u ? 4 * int64_t{bilateralValues(type, channels)} + 40 : 44);
+// Sizes are modulo 2^32.
+uint64_t objectBytes(LumiDataType type, int channels, int radius) {
+  const auto entries = static_cast<uint64_t>(bilateralPositions(radius)) +
+                       static_cast<uint64_t>(bilateralValues(type, channels));
+  return 4 * entries + (type == lumiData8u ? 40 : 44);
 }
 
 // Strips at the edges have border images of their own; small images are in one as a whole.
-int64_t bufferBytes(LumiSize roi, int64_t radius, LumiDataType type, int64_t channels) {
-  const auto padded = [](int64_t bytes) { return (bytes + 31) & -32; };
-  const int64_t w = roi.width, h = roi.height, side = 2 * radius + 1;
-  const int64_t sample = type == lumiData8u ? 1 : 4;
-  const int64_t ofRow = type == lumiData32f && radius < 3 ? (w * 8 + 70) & -64 : 0;
+uint64_t bufferBytes(LumiSize roi, int reach, LumiDataType type, int count) {
+  const auto padded = [](uint64_t bytes) { return (bytes + 31) & ~uint64_t{31}; };
+  const auto w = static_cast<uint64_t>(roi.width), h = static_cast<uint64_t>(roi.height);
+  const auto radius = static_cast<uint64_t>(reach), channels = static_cast<uint64_t>(count);
+  const uint64_t side = 2 * radius + 1, sample = type == lumiData8u ? 1 : 4;
+  const uint64_t ofRow = type == lumiData32f && radius < 3 ? (w * 8 + 70) & ~uint64_t{63} : 0;
   if (side > w || side > h) return ofRow + padded(channels * sample * (w + side - 1) * (side + h - 1));
-  const auto strip = [&](int64_t length) { return ((radius * channels * length * sample + 31) >> 5) * 64; };
+  const auto strip = [&](uint64_t length) { return ((radius * channels * length * sample + 31) >> 5) * 64; };
   return ofRow + padded(radius * 3 * channels * (std::max(w, h) + 2 * radius) * sample) + strip(w) + strip(h);
 }
 
