@@ -7,6 +7,7 @@
 #include "dispatch/copy.hpp"
 #include "filters/large_median.hpp"
 #include "filters/median_mask.hpp"
+#include "filters/window_checks.hpp"
 #include "filters/window_walk.hpp"
 #include "frame/check.hpp"
 #include "frame/layout.hpp"
@@ -27,9 +28,8 @@ LumStatus filterMedianBufferSize(LumiSize area, LumiSize mask, int channels, int
   return lumStatusOk;
 }
 
-LumStatus anchorIn(LumiPoint anchor, LumiSize mask) {
-  const bool inside = anchor.x >= 0 && anchor.x < mask.width && anchor.y >= 0 && anchor.y < mask.height;
-  return inside || isPixel(mask) ? lumStatusOk : lumStatusBadAnchor;
+LumStatus medianAnchor(LumiPoint anchor, LumiSize mask) {
+  return isPixel(mask) ? lumStatusOk : anchorIn(anchor, mask);
 }
 
 template <typename T, typename Layout>
@@ -69,7 +69,7 @@ template <typename T, typename Layout>
 LumStatus filterMedian(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, LumiSize mask,
                        LumiPoint anchor) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi), steps(srcStep, dstStep), medianMask(mask),
-                                   anchorIn(anchor, mask)))
+                                   medianAnchor(anchor, mask)))
     return fault;
   return medians<T, Layout>(src, srcStep, dst, dstStep, roi, mask, anchor);
 }
@@ -79,7 +79,7 @@ template <typename T, typename Layout>
 LumStatus filterMedianInBuffer(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, LumiSize mask,
                                LumiPoint anchor, Lum8u* buffer) {
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi), steps(srcStep, dstStep), medianMask(mask),
-                                   anchorIn(anchor, mask), pointers(buffer)))
+                                   medianAnchor(anchor, mask), pointers(buffer)))
     return fault;
   return medians<T, Layout>(src, srcStep, dst, dstStep, roi, mask, anchor);
 }
@@ -92,7 +92,7 @@ LumStatus filterMedianRows(const T* src, int srcStep, T* dst, int dstStep, LumiS
     return covered * kPixelBytes<T, Layout> <= srcStep ? lumStatusOk : lumStatusBadStep;
   };
   if (LumStatus fault = firstFault(pointers(src, dst), size(roi), steps(srcStep, dstStep), medianMask(mask),
-                                   anchorIn(anchor, mask), pointers(buffer), rowHolds))
+                                   medianAnchor(anchor, mask), pointers(buffer), rowHolds))
     return fault;
   return medians<T, Layout>(src, srcStep, dst, dstStep, roi, mask, anchor);
 }

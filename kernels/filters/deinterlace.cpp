@@ -13,7 +13,7 @@ using namespace simd;
 using Words = Samples<int16_t>;
 
 // Half a vector of results as words. Sums are at most 7 * 510 + 2040 + 510 + 8.
-Words linesOf(const Byte* const (&rows)[7], size_t at, Words threshold) {
+[[gnu::always_inline]] inline Words linesOf(const Byte* const (&rows)[7], size_t at, Words threshold) {
   const auto row = [&](int dy) { return as<int16_t>(loadAs<uint8_t, uint16_t>(rows[dy + 3] + at)); };
   const Words above = row(-1), below = row(1), middle = row(0);
   const Words rise = shiftLeft<2>(middle + middle - row(-2) - row(2));
@@ -24,7 +24,7 @@ Words linesOf(const Byte* const (&rows)[7], size_t at, Words threshold) {
   return ifThenElse(isAboveSigned(threshold, as<int16_t>(magnitude(rise))), limited, line);
 }
 
-VectorBytes blockOf(const Byte* const (&rows)[7], size_t at, Words threshold) {
+[[gnu::always_inline]] inline VectorBytes blockOf(const Byte* const (&rows)[7], size_t at, Words threshold) {
   const Words first = linesOf(rows, at, threshold), second = linesOf(rows, at + kVectorBytes / 2, threshold);
   return narrowSigned<uint8_t>(first, second).v;
 }

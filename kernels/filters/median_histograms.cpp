@@ -43,6 +43,9 @@ void subtract(Byte* counters, unsigned level) {
   return static_cast<unsigned>(__builtin_popcount(topBits(mask)));
 }
 
+// By the count of the bits up to it: processors at this level find bits no faster otherwise.
+int lowestBit(unsigned bits) { return __builtin_popcount(bits ^ (bits - 1)) - 1; }
+
 // Counters of a window with at most 255 samples. The level of a rank is the first one with more samples up to
 // it: the number of those whose counter is not above.
 struct ByteCounters {
@@ -236,7 +239,7 @@ class LowBytes {
     for (int i = 0; i < slots_; i += 16) {
       unsigned found = topBits(isEqual(U8{load16(samples_ + first + i)}, wanted).v);
       if (i + 16 == slots_) found &= lastBlock_;
-      for (; found; found &= found - 1) histogram.count<by>(lows_[first + i + __builtin_ctz(found)]);
+      for (; found; found &= found - 1) histogram.count<by>(lows_[first + i + lowestBit(found)]);
     }
   }
 

@@ -50,7 +50,7 @@ void inFours(size_t samples, const Take& take) {
     take(i, phase, samples - i < 4 ? samples - i : 4);
 }
 
-Doubles4 variancesOf(const FourMoments& moments, Doubles4 n) {
+[[gnu::always_inline]] inline Doubles4 variancesOf(const FourMoments& moments, Doubles4 n) {
   return n * moments.squares - moments.sums * moments.sums;
 }
 
