@@ -62,7 +62,10 @@ Suite::Build medianBorder(RunBorder<T> run, LumiDataType type, int side, bool in
       run(src.data(), src.step, dst.data(), dst.step, dst.roi, {side, side}, lumiBorderReplicate, 0,
           buffer.data());
     });
-    if (opencv::medianBlur != nullptr) scene.peer(opencv::medianBlur(src, dst, side));
+    if (opencv::medianBlur == nullptr) return;
+    Peer peer = opencv::medianBlur(src, dst, side);
+    if (inPlace) peer.differs = "what is filtered was filtered before";
+    scene.peer(peer);
   };
 }
 
