@@ -142,24 +142,55 @@ class Rectangles {
 };
 
 // Windows with results in registers.
-const WindowFilter* smallWindow(const ExtremeKernels& kernels, LumiSize window) {
+const WindowFilter* smallWindow(const ExtremeKernels& kernels, const ExtremeImage& image) {
+  const LumiSize window = image.window;
   if (window.width != window.height) return nullptr;
-  if (window.width == 3) return &kernels.three;
+  const bool isNarrow = int64_t{image.roi.width} * image.pixel.stored < kernels.three.block;
+  if (window.width == 3) return isNarrow ? &kernels.narrowThree : &kernels.three;
   return window.width == 5 && kernels.five.run != nullptr ? &kernels.five : nullptr;
+}
+
+// The image by its pixels in the middle of windows, wherever the anchor is.
+void filterSquares(const WindowFilter& filter, const ExtremeKernels& kernels, const ExtremeImage& image,
+                   int y, int height, TargetRows dst) {
+  ExtremeImage atCentre = image;
+  atCentre.anchor = {image.anchor.x - filter.left, image.anchor.y - filter.above};
+  filterWindows(filter, {ExtremeRows(kernels, atCentre).source(y), image.src.step}, dst,
+                {image.roi.width, height}, image.pixel);
+}
+
+// In place, the results of a band wait until those of the next one have been made, whose windows cover its
+// last rows. No window reaches further.
+LumStatus filterSquaresInPlace(const WindowFilter& filter, const ExtremeKernels& kernels,
+                               const ExtremeImage& image) {
+  constexpr int kBand = 8;
+  static_assert(kBand >= 2 * kMostReach);
+  const ExtremeRows rows(kernels, image);
+  const int64_t stride = rows.stride();
+  LineMemory memory(memoryOf(2 * kBand, stride));
+  if (!memory) return lumStatusNoMemory;
+  const auto step = static_cast<ptrdiff_t>(stride);
+  TargetRows made{memory.data(), step}, waiting{memory.data() + kBand * step, step};
+  int waitingRows = 0;
+  for (int y = 0; y < image.roi.height; y += waitingRows) {
+    const int count = std::min(kBand, image.roi.height - y);
+    filterSquares(filter, kernels, image, y, count, made);
+    if (waitingRows > 0) rows.bring(waiting, y - waitingRows, waitingRows);
+    std::swap(made, waiting);
+    waitingRows = count;
+  }
+  rows.bring(waiting, image.roi.height - waitingRows, waitingRows);
+  return lumStatusOk;
 }
 
 }  // namespace
 
 LumStatus storeExtremes(const ExtremeKernels& kernels, const ExtremeImage& image) {
-  if (const WindowFilter* const filter = image.inPlace() ? nullptr : smallWindow(kernels, image.window)) {
-    const int reach = image.window.width / 2;
-    ExtremeImage atCentre = image;
-    atCentre.anchor = {image.anchor.x - reach, image.anchor.y - reach};
-    filterWindows(*filter, {ExtremeRows(kernels, atCentre).source(0), image.src.step}, image.dst, image.roi,
-                  image.pixel);
-    return lumStatusOk;
-  }
-  return Rectangles(kernels, image).run();
+  const WindowFilter* const filter = smallWindow(kernels, image);
+  if (!filter) return Rectangles(kernels, image).run();
+  if (image.inPlace()) return filterSquaresInPlace(*filter, kernels, image);
+  filterSquares(*filter, kernels, image, 0, image.roi.height, image.dst);
+  return lumStatusOk;
 }
 
 }  // namespace lumi

@@ -72,12 +72,12 @@ template <typename J, int side>
   return best;
 }
 
-template <typename J>
+template <typename J, int vectors>
 struct Square3 {
   using Source = typename J::Sample;
   using Result = Source;
   using V = typename J::V;
-  static constexpr int kRows = 3, kVectors = 2;
+  static constexpr int kRows = 3, kVectors = vectors;
 
   V before, pair, found;
 
@@ -232,7 +232,8 @@ constexpr ExtremeKernels kernelsOf() {
                          sizeof(T),
                          std::is_floating_point_v<T>,
                          sizeof(typename J::V),
-                         windowFilter<Square3<J>>(),
+                         windowFilter<Square3<J, 2>>(),
+                         windowFilter<Square3<J, 1>>(),
                          {}};
   if constexpr (sizeof(T) < 8) kernels.five = squareFilter5<J>();
   return kernels;

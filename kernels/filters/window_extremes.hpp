@@ -23,7 +23,8 @@ struct ExtremeKernels {
   int sampleBytes;
   bool isFloat;
   size_t vectorBytes;
-  WindowFilter three, five;  // of 3 x 3 and 5 x 5; the latter not of doubles
+  WindowFilter three, narrowThree,
+      five;  // of 3 x 3, also in half the block, and 5 x 5; the last not of doubles
 };
 
 // T: uint8_t, uint16_t, int16_t, float, double. Limited results of floats are finite: infinities become the
