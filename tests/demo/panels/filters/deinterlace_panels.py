@@ -7,7 +7,7 @@ class Deinterlace(demo.PanelTest):
     panels = ("joined", "fields")
 
     def setUp(self):
-        self.use_noise(33, 22)
+        self.use_noise(53, 34)
 
     def test_joined(self):
         _, before = self.results["deinterlace-fields"]

@@ -9,7 +9,7 @@ class FilterBilateral(demo.PanelTest):
     panels = ("smooth",)
 
     def setUp(self):
-        self.use_noise(29, 19)
+        self.use_noise(53, 31)
 
     def at(self, x, y):
         column, row = min(max(x, 0), self.width - 1), min(max(y, 0), self.height - 1)

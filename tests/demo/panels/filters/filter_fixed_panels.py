@@ -7,7 +7,7 @@ class FilterFixed(demo.PanelTest):
     panels = ("sobel", "prewitt", "roberts", "laplace", "gauss", "lowpass", "sharpened")
 
     def setUp(self):
-        self.use_noise(41, 27)
+        self.use_noise(53, 31)
 
     def sample(self, x, y, c):
         column, row = min(max(x, 0), self.width - 1), min(max(y, 0), self.height - 1)

@@ -7,7 +7,7 @@ class FilterGradientBorder(demo.PanelTest):
     panels = ("across", "down")
 
     def setUp(self):
-        self.use_noise(41, 27)
+        self.use_noise(53, 31)
 
     def green(self, x, y):
         def inside(n, count):

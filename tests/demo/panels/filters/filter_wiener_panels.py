@@ -7,7 +7,7 @@ class FilterWiener(demo.PanelTest):
     panels = ("denoised", "noisy")
 
     def setUp(self):
-        self.use_noise(31, 21)
+        self.use_noise(53, 31)
 
     def window(self, grain, x, y, c):
         return [grain[min(max(y + j, 0), self.height - 1) * self.width + min(max(x + i, 0), self.width - 1)][c]

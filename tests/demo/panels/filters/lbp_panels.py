@@ -7,7 +7,7 @@ class Lbp(demo.PanelTest):
     panels = ("patterns", "distances")
 
     def setUp(self):
-        self.use_noise(37, 23)
+        self.use_noise(53, 31)
 
     def at(self, samples, x, y):
         column, row = min(max(x, 0), self.width - 1), min(max(y, 0), self.height - 1)

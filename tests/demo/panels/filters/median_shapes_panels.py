@@ -7,7 +7,7 @@ class MedianShapes(demo.PanelTest):
     panels = ("colours", "cross", "row", "column", "weighted", "planes")
 
     def setUp(self):
-        self.use_noise(41, 27)
+        self.use_noise(53, 31)
 
     def noisy(self, x, y):
         number = 5 * (x + 2) + 7 * (y + 2)
