@@ -53,7 +53,7 @@ NamedCall initOf(const Trial& t) {
 
 std::vector<float> floatsAt(const Byte* p, size_t count) {
   std::vector<float> floats(count);
-  std::memcpy(floats.data(), p, count * sizeof(float));
+  for (size_t i = 0; i < count; ++i) floats[i] = model::load<float>(p, static_cast<int>(i));
   return floats;
 }
 
